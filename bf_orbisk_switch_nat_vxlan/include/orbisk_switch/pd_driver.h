@@ -1,0 +1,84 @@
+/* The driver and member-selection functions that the library imports. They
+ * stay undefined in the library and are resolved when it is loaded: from the
+ * chip's driver in a switch, from the in-memory driver model in tests. A
+ * driver implementation provides exactly these. */
+#ifndef ORBISK_SWITCH_PD_DRIVER_H
+#define ORBISK_SWITCH_PD_DRIVER_H
+
+#include "orbisk_switch/pd_records.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* Driver client registration and system services. */
+pd_status bf_drv_register(const char *client_name, uint32_t *client_hdl);
+pd_status bf_drv_deregister(uint32_t client_hdl);
+pd_status bf_drv_client_register_callbacks(uint32_t client_hdl,
+                                           pd_drv_client_callbacks *callbacks,
+                                           uint32_t priority);
+int bf_sys_dbg_mode(void);
+void bf_sys_log_and_trace(int module, int level, const char *format, ...)
+    __attribute__((format(printf, 3, 4)));
+void *bf_sys_calloc(size_t count, size_t size);
+void bf_sys_free(void *ptr);
+
+/* Match table entries. The flags words are always 0 from this library. */
+pd_status pipe_mgr_mat_ent_add(pd_sess_hdl sess, pd_dev_target target, pd_tbl_hdl tbl,
+                               pd_match_record *key, pd_act_fn_hdl fn, pd_action_record *act,
+                               uint32_t ttl, uint32_t flags, pd_entry_hdl *entry_hdl);
+pd_status pipe_mgr_mat_ent_set_action(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl tbl,
+                                      pd_entry_hdl entry_hdl, pd_act_fn_hdl fn,
+                                      pd_action_record *act, uint32_t flags);
+pd_status pipe_mgr_mat_ent_set_action_by_match_spec(pd_sess_hdl sess, pd_dev_target target,
+                                                    pd_tbl_hdl tbl, pd_match_record *key,
+                                                    pd_act_fn_hdl fn, pd_action_record *act,
+                                                    uint32_t flags);
+pd_status pipe_mgr_mat_ent_del(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl tbl,
+                               pd_entry_hdl entry_hdl, uint32_t flags);
+pd_status pipe_mgr_mat_ent_del_by_match_spec(pd_sess_hdl sess, pd_dev_target target,
+                                             pd_tbl_hdl tbl, pd_match_record *key,
+                                             uint32_t flags);
+pd_status pipe_mgr_match_spec_to_ent_hdl(pd_sess_hdl sess, pd_dev_target target, pd_tbl_hdl tbl,
+                                         pd_match_record *key, pd_entry_hdl *entry_hdl,
+                                         uint32_t flags);
+
+/* Reads and walks. The read-from-hardware flags are widened to 32 bits. */
+pd_status pipe_mgr_get_entry_count(pd_sess_hdl sess, pd_dev_target target, pd_tbl_hdl tbl,
+                                   uint32_t read_from_hw, uint32_t *count);
+pd_status pipe_mgr_get_first_entry_handle(pd_sess_hdl sess, pd_tbl_hdl tbl, pd_dev_target target,
+                                          pd_entry_hdl *entry_hdl);
+pd_status pipe_mgr_get_next_entry_handles(pd_sess_hdl sess, pd_tbl_hdl tbl, pd_dev_target target,
+                                          pd_entry_hdl entry_hdl, uint32_t count,
+                                          pd_entry_hdl *next_hdls);
+pd_status pipe_mgr_get_entry(pd_sess_hdl sess, pd_tbl_hdl tbl, pd_dev_target target,
+                             pd_entry_hdl entry_hdl, pd_match_record *key,
+                             pd_action_record *act, pd_act_fn_hdl *fn, uint32_t read_from_hw,
+                             uint32_t resource_get_flags, uint32_t reserved);
+
+/* Default entries. */
+pd_status pipe_mgr_mat_default_entry_set(pd_sess_hdl sess, pd_dev_target target, pd_tbl_hdl tbl,
+                                         pd_act_fn_hdl fn, pd_action_record *act, uint32_t flags,
+                                         pd_entry_hdl *entry_hdl);
+pd_status pipe_mgr_table_get_default_entry(pd_sess_hdl sess, pd_dev_target target,
+                                           pd_tbl_hdl tbl, pd_action_record *act,
+                                           pd_act_fn_hdl *fn, uint32_t read_from_hw,
+                                           uint32_t resource_get_flags, uint32_t reserved);
+pd_status pipe_mgr_table_get_default_entry_handle(pd_sess_hdl sess, pd_dev_target target,
+                                                  pd_tbl_hdl tbl, pd_entry_hdl *entry_hdl);
+pd_status pipe_mgr_mat_tbl_default_entry_reset(pd_sess_hdl sess, pd_dev_target target,
+                                               pd_tbl_hdl tbl, uint32_t flags);
+
+/* Member-selection service: one state for each action profile. */
+pd_status p4_pd_ms_init(void);
+pd_ms_state *p4_pd_ms_init_state(void);
+pd_status p4_pd_ms_destroy_state_for_dev(pd_ms_state *state, uint32_t device_id);
+pd_status p4_pd_ms_destroy_txn_state_for_dev(uint32_t device_id);
+pd_status p4_pd_ms_log_state(uint32_t device_id, pd_ms_state *state, void *cjson_object);
+pd_status p4_pd_ms_restore_state(uint32_t device_id, pd_ms_state *state, void *cjson_object);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

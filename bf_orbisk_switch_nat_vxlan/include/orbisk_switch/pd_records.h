@@ -1,0 +1,147 @@
+/* The byte records that pass between the library and the driver. Their sizes
+ * and field offsets are the driver's contract, so each is pinned below. */
+#ifndef ORBISK_SWITCH_PD_RECORDS_H
+#define ORBISK_SWITCH_PD_RECORDS_H
+
+#include "orbisk_switch/pd_types.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* A key: value and mask strings of num_bytes each, most significant byte
+ * first. Both strings belong to the caller and live only for one call. */
+typedef struct pd_match_record {
+  uint8_t *value_bytes;     /* null on a read of a keyless table's default entry */
+  uint8_t *mask_bytes;
+  uint32_t partition_index; /* nonzero only in partitioned prefix tables */
+  uint32_t priority;
+  uint16_t num_valid_bits;  /* sum of the key field widths */
+  uint16_t num_bytes;       /* length of each string */
+  uint32_t reserved;
+} pd_match_record;
+
+PD_STATIC_ASSERT(sizeof(pd_match_record) == 32, "pd_match_record is 32 bytes");
+PD_STATIC_ASSERT(offsetof(pd_match_record, value_bytes) == 0, "value_bytes at 0");
+PD_STATIC_ASSERT(offsetof(pd_match_record, mask_bytes) == 8, "mask_bytes at 8");
+PD_STATIC_ASSERT(offsetof(pd_match_record, partition_index) == 16, "partition_index at 16");
+PD_STATIC_ASSERT(offsetof(pd_match_record, priority) == 20, "priority at 20");
+PD_STATIC_ASSERT(offsetof(pd_match_record, num_valid_bits) == 24, "num_valid_bits at 24");
+PD_STATIC_ASSERT(offsetof(pd_match_record, num_bytes) == 26, "num_bytes at 26");
+PD_STATIC_ASSERT(offsetof(pd_match_record, reserved) == 28, "reserved at 28");
+
+/* resource_tag values of a resource slot. */
+#define PD_RESOURCE_TAG_NONE 0u
+#define PD_RESOURCE_TAG_ATTACHED 1u
+#define PD_RESOURCE_TAG_DETACHED 2u
+
+/* Meter types and rate units of the driver's meter record. */
+#define PD_METER_RATE_UNIT_BYTES 0u
+#define PD_METER_RATE_UNIT_PACKETS 1u
+
+/* The driver's form of a meter specification: widened rates, a unit each. */
+typedef struct pd_meter_record {
+  uint32_t meter_type;
+  uint32_t reserved0;
+  uint32_t cir_unit;
+  uint32_t reserved1;
+  uint64_t cir;
+  uint64_t cburst;
+  uint32_t pir_unit;
+  uint32_t reserved2;
+  uint64_t pir;
+  uint64_t pburst;
+} pd_meter_record;
+
+PD_STATIC_ASSERT(sizeof(pd_meter_record) == 56, "pd_meter_record is 56 bytes");
+PD_STATIC_ASSERT(offsetof(pd_meter_record, cir_unit) == 8, "cir_unit at 8");
+PD_STATIC_ASSERT(offsetof(pd_meter_record, cir) == 16, "cir at 16");
+PD_STATIC_ASSERT(offsetof(pd_meter_record, cburst) == 24, "cburst at 24");
+PD_STATIC_ASSERT(offsetof(pd_meter_record, pir_unit) == 32, "pir_unit at 32");
+PD_STATIC_ASSERT(offsetof(pd_meter_record, pir) == 40, "pir at 40");
+PD_STATIC_ASSERT(offsetof(pd_meter_record, pburst) == 48, "pburst at 48");
+
+/* One resource (counter or meter) that an entry carries. */
+typedef struct pd_resource_record {
+  uint32_t resource_hdl;
+  uint32_t resource_index;  /* index chosen by the entry, for an indexed resource */
+  union {
+    uint8_t bytes[56];
+    pd_meter_record meter;  /* for a direct meter */
+  } resource_spec;
+  uint32_t resource_tag;    /* PD_RESOURCE_TAG_* */
+  uint32_t reserved;
+} pd_resource_record;
+
+PD_STATIC_ASSERT(sizeof(pd_resource_record) == 72, "pd_resource_record is 72 bytes");
+PD_STATIC_ASSERT(offsetof(pd_resource_record, resource_index) == 4, "resource_index at 4");
+PD_STATIC_ASSERT(offsetof(pd_resource_record, resource_spec) == 8, "resource_spec at 8");
+PD_STATIC_ASSERT(offsetof(pd_resource_record, resource_tag) == 64, "resource_tag at 64");
+
+/* record_kind values of an action record. */
+#define PD_RECORD_KIND_MEMBER_DATA 0u  /* action data of a profile member */
+#define PD_RECORD_KIND_DIRECT 1u       /* action data of a direct entry */
+#define PD_RECORD_KIND_MEMBER_REF 2u   /* an entry that names a member */
+#define PD_RECORD_KIND_GROUP_REF 4u    /* an entry that names a group */
+
+#define PD_ACTION_RESOURCE_SLOTS 4
+
+/* An action and the resources an entry owns. data_bytes belongs to the
+ * caller and lives only for one call. */
+typedef struct pd_action_record {
+  uint8_t record_kind;      /* PD_RECORD_KIND_* */
+  uint8_t resource_count;   /* number of filled slots */
+  uint8_t reserved0[6];
+  uint16_t num_valid_bits;  /* sum of the parameter widths */
+  uint16_t num_bytes;       /* length of the action data; on a read, the room offered */
+  uint32_t reserved1;
+  uint8_t *data_bytes;
+  pd_mbr_hdl member_hdl;    /* for PD_RECORD_KIND_MEMBER_REF */
+  pd_grp_hdl group_hdl;     /* for PD_RECORD_KIND_GROUP_REF */
+  pd_resource_record resources[PD_ACTION_RESOURCE_SLOTS];
+} pd_action_record;
+
+PD_STATIC_ASSERT(sizeof(pd_action_record) == 320, "pd_action_record is 320 bytes");
+PD_STATIC_ASSERT(offsetof(pd_action_record, resource_count) == 1, "resource_count at 1");
+PD_STATIC_ASSERT(offsetof(pd_action_record, num_valid_bits) == 8, "num_valid_bits at 8");
+PD_STATIC_ASSERT(offsetof(pd_action_record, num_bytes) == 10, "num_bytes at 10");
+PD_STATIC_ASSERT(offsetof(pd_action_record, data_bytes) == 16, "data_bytes at 16");
+PD_STATIC_ASSERT(offsetof(pd_action_record, member_hdl) == 24, "member_hdl at 24");
+PD_STATIC_ASSERT(offsetof(pd_action_record, group_hdl) == 28, "group_hdl at 28");
+PD_STATIC_ASSERT(offsetof(pd_action_record, resources) == 32, "slots at 32");
+
+/* One attached resource of an entry read back: handle and index. */
+typedef struct pd_resource_index {
+  uint32_t resource_hdl;
+  uint32_t resource_index;
+} pd_resource_index;
+
+PD_STATIC_ASSERT(sizeof(pd_resource_index) == 8, "pd_resource_index is 8 bytes");
+PD_STATIC_ASSERT(offsetof(pd_resource_index, resource_index) == 4, "resource_index at 4");
+
+/* The driver's callback record: 31 eight-byte slots. The library fills the
+ * device remove, log and restore slots and leaves every other slot null. */
+typedef pd_status (*pd_dev_remove_cb)(uint32_t device_id);
+typedef pd_status (*pd_dev_log_cb)(uint32_t device_id, void *cjson_object);
+typedef pd_status (*pd_dev_restore_cb)(uint32_t device_id, void *cjson_object);
+
+#define PD_DRV_CALLBACK_SLOTS 31
+
+typedef struct pd_drv_client_callbacks {
+  void *reserved0[3];
+  pd_dev_remove_cb device_remove;   /* byte 24 */
+  pd_dev_log_cb device_log;         /* byte 32 */
+  pd_dev_restore_cb device_restore; /* byte 40 */
+  void *reserved1[PD_DRV_CALLBACK_SLOTS - 6];
+} pd_drv_client_callbacks;
+
+PD_STATIC_ASSERT(sizeof(pd_drv_client_callbacks) == 248, "callback record is 248 bytes");
+PD_STATIC_ASSERT(offsetof(pd_drv_client_callbacks, device_remove) == 24, "device remove at 24");
+PD_STATIC_ASSERT(offsetof(pd_drv_client_callbacks, device_log) == 32, "device log at 32");
+PD_STATIC_ASSERT(offsetof(pd_drv_client_callbacks, device_restore) == 40, "device restore at 40");
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

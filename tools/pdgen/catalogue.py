@@ -1,0 +1,257 @@
+"""Loads the program catalogue (catalogue/*.json) and derives the facts that
+every emitter needs: key and action sizes, table classes, host record order,
+resource slots. Nothing here restates a handle or a width; it all comes from
+the data files."""
+
+import glob
+import json
+import os
+
+PREFIX = "p4_pd_orbisk_switch_"
+AREA_FILES = [
+    "port_vlan_intf", "l2_forwarding", "ip_routing", "nexthop_balancing",
+    "multicast", "vxlan_tunnels", "nat", "halo", "mirroring", "qos_policing",
+    "cpu_mtu_drop", "intf_policy_folded",
+]
+
+
+def nbytes(bits):
+    return (bits + 7) // 8
+
+
+def host_type(bits):
+    """C type of a host record field of this width; None for a byte array."""
+    if bits <= 8:
+        return "uint8_t"
+    if bits <= 16:
+        return "uint16_t"
+    if bits <= 32:
+        return "uint32_t"
+    return None
+
+
+class Param:
+    def __init__(self, d, offset):
+        self.name = d["name"]
+        self.bits = d["bits"]
+        self.format = d.get("format")
+        self.nbytes = nbytes(self.bits)
+        self.offset = offset  # place in the action data string
+        self.ctype = host_type(self.bits)
+        assert self.ctype, "no action parameter is wider than 32 bits"
+
+    @property
+    def field(self):
+        return "action_" + self.name
+
+
+class Action:
+    """An action of the program, with its parameters (one per action name)."""
+
+    def __init__(self, name, enum, params):
+        self.name = name
+        self.enum = enum
+        off = 0
+        self.params = []
+        for p in params:
+            q = Param(p, off)
+            off += q.nbytes
+            self.params.append(q)
+        self.data_bytes = off
+        self.data_bits = sum(p.bits for p in self.params)
+        # Parameters that stand only in a resource slot, set by a table row.
+        self.slot_only_param = None
+
+    @property
+    def spec_type(self):
+        return PREFIX + self.name + "_action_spec_t"
+
+    @property
+    def has_spec(self):
+        return bool(self.params)
+
+
+class TableAction:
+    """An action as one table uses it: its handle there, its uses, its slot."""
+
+    def __init__(self, action, d):
+        self.action = action
+        self.name = action.name
+        self.handle = int(d["handle"], 16)
+        use = d.get("use", ["entry"])
+        self.entry = "entry" in use
+        self.default = "default" in use
+        self.resource = d.get("resource")
+        self.resource_tag = d.get("resource_tag", 0)
+        self.index_param = d.get("resource_index_param")
+        self.index_also_data = d.get("resource_index_also_data", False)
+
+
+class Field:
+    def __init__(self, d, offset):
+        self.name = d["name"]
+        self.schema = d["schema"]
+        self.bits = d["bits"]
+        self.match = d["match"]  # exact, ternary, lpm
+        self.static_mask = d.get("static_mask")
+        self.format = d.get("format")
+        self.nbytes = nbytes(self.bits)
+        self.offset = offset  # place in the value and mask strings
+        self.ctype = host_type(self.bits)
+        self.array = self.ctype is None
+
+
+class Table:
+    def __init__(self, d, area, program):
+        self.name = d["name"]
+        self.area = area
+        self.handle = int(d["handle"], 16)
+        self.pipeline = d["pipeline"]
+        self.match = d["match"]  # none, exact, ternary, prefix, partitioned_prefix
+        flags = d.get("flags", [])
+        self.entry_priority = "entry_priority" in flags
+        self.idle_timeout = "idle_timeout" in flags
+        self.counter_labels = "counter_labels" in flags
+        self.profile_name = d.get("profile")
+        off = 0
+        self.fields = []
+        for f in d.get("fields", []):
+            fld = Field(f, off)
+            off += fld.nbytes
+            self.fields.append(fld)
+        self.key_bytes = off
+        self.key_bits = sum(f.bits for f in self.fields)
+        byname = {f.name: f for f in self.fields}
+        order = d.get("host_order")
+        self.host_fields = [byname[n] for n in order] if order else list(self.fields)
+        self.actions = []
+        for a in d.get("actions", []):
+            act = program.action(a["name"], a["enum"], a["params"])
+            self.actions.append(TableAction(act, a))
+        self.profile = None
+
+    @property
+    def keyed(self):
+        return bool(self.fields)
+
+    @property
+    def indirect(self):
+        return self.profile_name is not None
+
+    @property
+    def ternary(self):
+        return self.match == "ternary"
+
+    @property
+    def prefix(self):
+        return self.match in ("prefix", "partitioned_prefix")
+
+    @property
+    def partitioned(self):
+        return self.match == "partitioned_prefix"
+
+    @property
+    def spec_type(self):
+        return PREFIX + self.name + "_match_spec_t"
+
+    @property
+    def lpm_field(self):
+        return next(f for f in self.fields if f.match == "lpm")
+
+    @property
+    def resource(self):
+        """The one resource every entry of this table carries, if any."""
+        names = {a.resource for a in self.actions if a.resource}
+        assert len(names) <= 1
+        return names.pop() if names else None
+
+    def host_members(self):
+        """(C type, member name, array length or None) in host record order."""
+        out = []
+        for f in self.host_fields:
+            if f.array:
+                out.append(("uint8_t", f.name, f.nbytes))
+            else:
+                out.append((f.ctype, f.name, None))
+            if f.match == "ternary":
+                out.append((f.ctype or "uint8_t", f.name + "_mask", f.nbytes if f.array else None))
+            elif f.match == "lpm":
+                out.append(("uint16_t", f.name + "_prefix_length", None))
+        return out
+
+
+class Profile:
+    def __init__(self, d, program):
+        self.name = d["name"]
+        self.state_slot = d["state_slot"]
+        self.adt = int(d["action_data_table"], 16)
+        self.sel = int(d["selector_table"], 16)
+        self.match_table = d["match_table"]
+        self.actions = []
+        for a in d["actions"]:
+            act = program.action(a["name"], a["enum"], a["params"])
+            self.actions.append(TableAction(act, a))
+
+
+class Resource:
+    def __init__(self, d, is_meter):
+        self.name = d["name"]
+        self.kind = d["kind"]
+        self.handle = int(d["handle"], 16)
+        self.match_table = d.get("match_table")
+        self.is_meter = is_meter
+        self.unit = d.get("unit")
+
+
+class Program:
+    def __init__(self, root):
+        cat = os.path.join(root, "catalogue")
+        prog = json.load(open(os.path.join(cat, "program.json")))
+        self.enum_names = prog["actions"]
+        self.enum_of = {n: i for i, n in enumerate(self.enum_names)}
+        self._actions = {}
+        self.tables = []
+        found = sorted(os.path.basename(p)[:-5] for p in glob.glob(os.path.join(cat, "*.json")))
+        assert sorted(AREA_FILES + ["program"]) == found, "unexpected catalogue files: %s" % found
+        for area in AREA_FILES:
+            doc = json.load(open(os.path.join(cat, area + ".json")))
+            for t in doc["tables"]:
+                self.tables.append(Table(t, doc["area"], self))
+        self.profiles = [Profile(p, self) for p in prog["profiles"]]
+        self.resources = {}
+        for c in prog["counters"]:
+            self.resources[c["name"]] = Resource(c, False)
+        for m in prog["meters"]:
+            self.resources[m["name"]] = Resource(m, True)
+        by_table = {t.name: t for t in self.tables}
+        self.table = by_table
+        for p in self.profiles:
+            by_table[p.match_table].profile = p
+            assert by_table[p.match_table].profile_name == p.name
+        for t in self.tables:
+            assert not t.indirect or t.profile is not None, t.name
+            for a in t.actions:
+                if a.index_param:
+                    a.action.slot_only_param = None if a.index_also_data else a.index_param
+        # Every action name of the enum is used somewhere, with one enum value.
+        assert set(self._actions) == set(self.enum_names)
+
+    def action(self, name, enum, params):
+        assert self.enum_of[name] == enum, name
+        a = self._actions.get(name)
+        if a is None:
+            a = self._actions[name] = Action(name, enum, params)
+        assert [p.name for p in a.params] == [p["name"] for p in params], name
+        assert [p.bits for p in a.params] == [p["bits"] for p in params], name
+        return a
+
+    @property
+    def actions(self):
+        """All actions in enum order."""
+        return [self._actions[n] for n in self.enum_names]
+
+    def direct_tables(self):
+        return [t for t in self.tables if not t.indirect]
+
+    def keyed_tables(self):
+        return [t for t in self.tables if t.keyed]
