@@ -102,9 +102,10 @@ class Field:
 
 
 class Table:
-    def __init__(self, d, area, program):
+    def __init__(self, d, area, area_file, program):
         self.name = d["name"]
         self.area = area
+        self.area_file = area_file
         self.handle = int(d["handle"], 16)
         self.pipeline = d["pipeline"]
         self.match = d["match"]  # none, exact, ternary, prefix, partitioned_prefix
@@ -216,7 +217,7 @@ class Program:
         for area in AREA_FILES:
             doc = json.load(open(os.path.join(cat, area + ".json")))
             for t in doc["tables"]:
-                self.tables.append(Table(t, doc["area"], self))
+                self.tables.append(Table(t, doc["area"], area, self))
         self.profiles = [Profile(p, self) for p in prog["profiles"]]
         self.resources = {}
         for c in prog["counters"]:

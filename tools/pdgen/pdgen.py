@@ -16,6 +16,8 @@ import sys
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 
 import catalogue  # noqa: E402
+import emit_header  # noqa: E402
+import emit_lib  # noqa: E402
 import emit_model  # noqa: E402
 
 
@@ -38,11 +40,18 @@ def main():
     args = ap.parse_args()
     prog = catalogue.Program(args.root)
     outputs = {}
+    header = emit_header.emit(prog)
+    if args.header:
+        write_if_changed(args.header, header)
+    outputs["include/orbisk_switch/pd.h"] = header
     outputs["orbisk_model_tables.inc"] = emit_model.emit(prog)
+    outputs.update(emit_lib.emit(prog))
     if args.out:
         os.makedirs(args.out, exist_ok=True)
         for name, text in outputs.items():
-            write_if_changed(os.path.join(args.out, name), text)
+            path = os.path.join(args.out, name)
+            os.makedirs(os.path.dirname(path), exist_ok=True)
+            write_if_changed(path, text)
     return 0
 
 
