@@ -1,0 +1,102 @@
+#!/usr/bin/env python3
+"""Compares the dynamic symbols the built library defines with the names the
+catalogue implies for the families built so far: nothing missing, nothing
+extra. The names are derived here from the catalogue data alone, and each
+family's size is checked against the count the program is known to have."""
+
+import glob
+import json
+import os
+import subprocess
+import sys
+
+P = "p4_pd_orbisk_switch_"
+
+
+def main(lib, root):
+    tables = []
+    for path in sorted(glob.glob(os.path.join(root, "catalogue", "*.json"))):
+        if not path.endswith("program.json"):
+            tables += json.load(open(path))["tables"]
+    program = json.load(open(os.path.join(root, "catalogue", "program.json")))
+    fam = {}
+
+    def add(family, name):
+        fam.setdefault(family, set()).add(name)
+
+    for t in tables:
+        n = t["name"]
+        keyed = bool(t.get("fields"))
+        direct = "profile" not in t
+        ternary_or_prefix = t["match"] in ("ternary", "prefix", "partitioned_prefix")
+        for a in t.get("actions", []):
+            if "entry" in a["use"]:
+                add("add", "%s%s_table_add_with_%s" % (P, n, a["name"]))
+                add("modify", "%s%s_table_modify_with_%s" % (P, n, a["name"]))
+                add("modify", "%s%s_table_modify_with_%s_by_match_spec" % (P, n, a["name"]))
+            if "default" in a["use"]:
+                add("set_default", "%s%s_set_default_action_%s" % (P, n, a["name"]))
+        if keyed:
+            for s in ("table_delete", "table_delete_by_match_spec", "match_spec_to_entry_hdl"):
+                add(s, "%s%s_%s" % (P, n, s))
+            add("unbuild_key", "unbuild_key_" + n)
+            if ternary_or_prefix:
+                add("unbuild_mask", "unbuild_mask_" + n)
+        if direct:
+            add("get_entry", "%s%s_get_entry" % (P, n))
+        for s in ("get_entry_count", "get_first_entry_handle", "get_next_entry_handles",
+                  "table_get_default_entry", "table_get_default_entry_handle",
+                  "table_reset_default_entry"):
+            add(s, "%s%s_%s" % (P, n, s))
+    params = {}
+    for t in tables:
+        for a in t.get("actions", []):
+            params[a["name"]] = a["params"]
+    for p in program["profiles"]:
+        for a in p["actions"]:
+            params[a["name"]] = a["params"]
+    for a, ps in params.items():
+        if ps:
+            add("unbuild_action_spec", "unbuild_action_spec_" + a)
+    for s in ("init", "cleanup", "dev_remove", "dev_log", "dev_restore", "device_state_cleanup",
+              "action_enum_to_string", "action_string_to_enum"):
+        add("frame", P + s)
+    add("objects", "bf_drv_hdl")
+    add("objects", P + "action_name_strings")
+
+    known = {"add": 367, "modify": 734, "set_default": 171, "table_delete": 136,
+             "table_delete_by_match_spec": 136, "match_spec_to_entry_hdl": 136,
+             "unbuild_key": 136, "unbuild_mask": 54, "unbuild_action_spec": 150,
+             "get_entry": 148, "get_entry_count": 154, "get_first_entry_handle": 154,
+             "get_next_entry_handles": 154, "table_get_default_entry": 154,
+             "table_get_default_entry_handle": 154, "table_reset_default_entry": 154,
+             "frame": 8, "objects": 2}
+    failed = False
+    for k, v in known.items():
+        if len(fam.get(k, ())) != v:
+            print("family %s: catalogue yields %d, expected %d" % (k, len(fam.get(k, ())), v))
+            failed = True
+    expected = set().union(*fam.values())
+
+    out = subprocess.run(["nm", "-D", "--defined-only", lib], check=True, capture_output=True,
+                         text=True).stdout
+    defined = set()
+    for line in out.splitlines():
+        parts = line.split()
+        if len(parts) == 3 and parts[1] in "TDRBVW":
+            defined.add(parts[2].split("@")[0])
+    missing = sorted(expected - defined)
+    extra = sorted(defined - expected)
+    for m in missing[:20]:
+        print("missing:", m)
+    for e in extra[:20]:
+        print("extra:", e)
+    if missing or extra:
+        print("%d missing, %d extra" % (len(missing), len(extra)))
+        failed = True
+    print("%d exported symbols checked" % len(defined))
+    return 1 if failed else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(sys.argv[1], sys.argv[2]))

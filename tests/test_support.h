@@ -1,0 +1,65 @@
+// Helpers for tests that look at what the library handed the driver: the
+// driver model keeps a deep copy of every record passed to it.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <cstring>
+#include <string>
+#include <vector>
+
+#include "orbisk_driver_model.h"
+#include "orbisk_switch/pd.h"
+
+using Bytes = std::vector<uint8_t>;
+
+// What one driver call received, as the model recorded it.
+struct Seen {
+  std::string function;
+  std::vector<uint64_t> args;
+  bool has_key = false;
+  pd_match_record key{};
+  Bytes value, mask;
+  bool has_action = false;
+  pd_action_record action{};
+  Bytes data;
+};
+
+Seen seen(const orbisk_model_call *c);
+// The most recent call of the named driver function; fails the test if none.
+Seen last(const char *function);
+size_t calls_of(const char *function);
+
+// Little-endian word at a byte offset of a record, as the driver reads it.
+template <typename Record>
+uint32_t word_at(const Record &r, size_t offset) {
+  uint32_t w;
+  std::memcpy(&w, reinterpret_cast<const uint8_t *>(&r) + offset, 4);
+  return w;
+}
+template <typename Record>
+uint64_t qword_at(const Record &r, size_t offset) {
+  uint64_t w;
+  std::memcpy(&w, reinterpret_cast<const uint8_t *>(&r) + offset, 8);
+  return w;
+}
+
+inline uint64_t target_word(uint32_t device, uint16_t pipe) {
+  return uint64_t(device) | uint64_t(pipe) << 32;
+}
+
+// A fresh driver model with the library started on it.
+class OnModel : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    orbisk_model_reset();
+    p4_pd_orbisk_switch_init();
+    orbisk_model_clear_calls();
+    orbisk_model_clear_log();
+  }
+  void TearDown() override { p4_pd_orbisk_switch_cleanup(); }
+
+  static constexpr pd_sess_hdl sess = 3;
+  static constexpr pd_dev_target tgt = {0, PD_DEV_PIPE_ALL};
+};
