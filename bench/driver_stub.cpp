@@ -1,0 +1,170 @@
+// A driver that does nothing: every import of the library returns success at
+// once. It is built as its own shared object so that the compiler of the
+// benchmark cannot see through the driver call and drop the work that feeds
+// it; what remains per call is the library's packing plus one call and return.
+//
+// The read functions fill the little a real driver fills, so that the
+// library's unpacking runs: an entry read answers with an l2Lookup entry
+// whose action is l2LookupKnownUcast.
+#include <cstdlib>
+#include <cstring>
+
+#include "orbisk_switch/pd_driver.h"
+
+// The member-selection state is the driver's own; one dummy serves all.
+struct pd_ms_state {
+  int unused;
+};
+
+namespace {
+
+// Handle of l2LookupKnownUcast on l2Lookup.
+constexpr pd_act_fn_hdl kL2LookupKnownUcast = 0x200000a6u;
+
+// Bytes handed back as key value, key mask and action data on a read.
+constexpr uint8_t kReadValue[8] = {0x00, 0x1b, 0x21, 0x3c, 0x4d, 0x5e, 0x00, 0x2a};
+constexpr uint8_t kReadMask[8] = {0xff, 0xff, 0xff, 0xff, 0xff, 0xff, 0x0f, 0xff};
+constexpr uint8_t kReadData[3] = {0x01, 0x02, 0x03};
+
+pd_ms_state g_ms_state{0};
+pd_entry_hdl g_next_entry_hdl = 0;
+
+void copy_key(pd_match_record *key) {
+  if (key == nullptr || key->value_bytes == nullptr || key->mask_bytes == nullptr) return;
+  size_t n = key->num_bytes < sizeof kReadValue ? key->num_bytes : sizeof kReadValue;
+  std::memcpy(key->value_bytes, kReadValue, n);
+  std::memcpy(key->mask_bytes, kReadMask, n);
+}
+
+void fill_action(pd_action_record *act) {
+  act->record_kind = PD_RECORD_KIND_DIRECT;
+  act->resource_count = 0;
+  if (act->data_bytes != nullptr && act->num_bytes >= sizeof kReadData) {
+    std::memcpy(act->data_bytes, kReadData, sizeof kReadData);
+  }
+  act->num_valid_bits = 20;
+  act->num_bytes = sizeof kReadData;
+}
+
+}  // namespace
+
+extern "C" {
+
+pd_status bf_drv_register(const char *, uint32_t *client_hdl) {
+  *client_hdl = 1;
+  return BF_SUCCESS;
+}
+
+pd_status bf_drv_deregister(uint32_t) { return BF_SUCCESS; }
+
+pd_status bf_drv_client_register_callbacks(uint32_t, pd_drv_client_callbacks *, uint32_t) {
+  return BF_SUCCESS;
+}
+
+int bf_sys_dbg_mode(void) { return 0; }
+
+void bf_sys_log_and_trace(int, int, const char *, ...) {}
+
+void *bf_sys_calloc(size_t count, size_t size) { return std::calloc(count, size); }
+
+void bf_sys_free(void *ptr) { std::free(ptr); }
+
+pd_status pipe_mgr_mat_ent_add(pd_sess_hdl, pd_dev_target, pd_tbl_hdl, pd_match_record *,
+                               pd_act_fn_hdl, pd_action_record *, uint32_t, uint32_t,
+                               pd_entry_hdl *entry_hdl) {
+  *entry_hdl = ++g_next_entry_hdl;
+  return BF_SUCCESS;
+}
+
+pd_status pipe_mgr_mat_ent_set_action(pd_sess_hdl, uint32_t, pd_tbl_hdl, pd_entry_hdl,
+                                      pd_act_fn_hdl, pd_action_record *, uint32_t) {
+  return BF_SUCCESS;
+}
+
+pd_status pipe_mgr_mat_ent_set_action_by_match_spec(pd_sess_hdl, pd_dev_target, pd_tbl_hdl,
+                                                    pd_match_record *, pd_act_fn_hdl,
+                                                    pd_action_record *, uint32_t) {
+  return BF_SUCCESS;
+}
+
+pd_status pipe_mgr_mat_ent_del(pd_sess_hdl, uint32_t, pd_tbl_hdl, pd_entry_hdl, uint32_t) {
+  return BF_SUCCESS;
+}
+
+pd_status pipe_mgr_mat_ent_del_by_match_spec(pd_sess_hdl, pd_dev_target, pd_tbl_hdl,
+                                             pd_match_record *, uint32_t) {
+  return BF_SUCCESS;
+}
+
+pd_status pipe_mgr_match_spec_to_ent_hdl(pd_sess_hdl, pd_dev_target, pd_tbl_hdl,
+                                         pd_match_record *, pd_entry_hdl *entry_hdl, uint32_t) {
+  *entry_hdl = 1;
+  return BF_SUCCESS;
+}
+
+pd_status pipe_mgr_get_entry_count(pd_sess_hdl, pd_dev_target, pd_tbl_hdl, uint32_t,
+                                   uint32_t *count) {
+  *count = 0;
+  return BF_SUCCESS;
+}
+
+pd_status pipe_mgr_get_first_entry_handle(pd_sess_hdl, pd_tbl_hdl, pd_dev_target,
+                                          pd_entry_hdl *entry_hdl) {
+  *entry_hdl = 1;
+  return BF_SUCCESS;
+}
+
+pd_status pipe_mgr_get_next_entry_handles(pd_sess_hdl, pd_tbl_hdl, pd_dev_target, pd_entry_hdl,
+                                          uint32_t count, pd_entry_hdl *next_hdls) {
+  // No further entries: the list ends at once.
+  if (count > 0) next_hdls[0] = pd_entry_hdl(-1);
+  return BF_SUCCESS;
+}
+
+pd_status pipe_mgr_get_entry(pd_sess_hdl, pd_tbl_hdl, pd_dev_target, pd_entry_hdl,
+                             pd_match_record *key, pd_action_record *act, pd_act_fn_hdl *fn,
+                             uint32_t, uint32_t, uint32_t) {
+  copy_key(key);
+  fill_action(act);
+  *fn = kL2LookupKnownUcast;
+  return BF_SUCCESS;
+}
+
+pd_status pipe_mgr_mat_default_entry_set(pd_sess_hdl, pd_dev_target, pd_tbl_hdl, pd_act_fn_hdl,
+                                         pd_action_record *, uint32_t, pd_entry_hdl *entry_hdl) {
+  *entry_hdl = 1;
+  return BF_SUCCESS;
+}
+
+pd_status pipe_mgr_table_get_default_entry(pd_sess_hdl, pd_dev_target, pd_tbl_hdl,
+                                           pd_action_record *act, pd_act_fn_hdl *fn, uint32_t,
+                                           uint32_t, uint32_t) {
+  fill_action(act);
+  *fn = kL2LookupKnownUcast;
+  return BF_SUCCESS;
+}
+
+pd_status pipe_mgr_table_get_default_entry_handle(pd_sess_hdl, pd_dev_target, pd_tbl_hdl,
+                                                  pd_entry_hdl *entry_hdl) {
+  *entry_hdl = 1;
+  return BF_SUCCESS;
+}
+
+pd_status pipe_mgr_mat_tbl_default_entry_reset(pd_sess_hdl, pd_dev_target, pd_tbl_hdl,
+                                               uint32_t) {
+  return BF_SUCCESS;
+}
+
+pd_status p4_pd_ms_init(void) { return BF_SUCCESS; }
+
+pd_ms_state *p4_pd_ms_init_state(void) { return &g_ms_state; }
+
+pd_status p4_pd_ms_destroy_state_for_dev(pd_ms_state *, uint32_t) { return BF_SUCCESS; }
+
+pd_status p4_pd_ms_destroy_txn_state_for_dev(uint32_t) { return BF_SUCCESS; }
+
+pd_status p4_pd_ms_log_state(uint32_t, pd_ms_state *, void *) { return BF_SUCCESS; }
+
+pd_status p4_pd_ms_restore_state(uint32_t, pd_ms_state *, void *) { return BF_SUCCESS; }
+
+}  // extern "C"
