@@ -1,0 +1,385 @@
+// Cost of the library's own work per call: entry adds on tables of each match
+// kind and an entry read, against a driver that returns at once, next to a
+// hand-written packing of the l2Lookup add that does only what the driver
+// needs.
+//
+// Two ways to run:
+//   bench_pd [google benchmark flags]   timed runs of every case
+//   bench_pd --loop <case> <N>          N plain calls of one case, no framework,
+//                                       then one line with the heap allocations
+//                                       and failed calls seen in the loop
+//   bench_pd --list                     names of the cases, one a line
+// The loop form is for instruction counting (see callgrind.py): the framework
+// stays out of the counted code, so two runs of N and 2N calls differ only by
+// N calls.
+#include <benchmark/benchmark.h>
+
+#include <atomic>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <string_view>
+
+#include "orbisk_switch/pd.h"
+#include "orbisk_switch/pd_driver.h"
+
+// ------------------------------------------------------------ heap count ---
+//
+// Every allocation in the process passes through here, so that the loop form
+// can tell whether a call allocates. The allocator proper is the C library's.
+
+extern "C" {
+void *__libc_malloc(size_t size) noexcept;
+void *__libc_calloc(size_t count, size_t size) noexcept;
+void *__libc_realloc(void *ptr, size_t size) noexcept;
+void *__libc_memalign(size_t alignment, size_t size) noexcept;
+}
+
+namespace {
+std::atomic<uint64_t> g_allocations{0};
+
+void count_allocation() { g_allocations.fetch_add(1, std::memory_order_relaxed); }
+}  // namespace
+
+extern "C" {
+
+void *malloc(size_t size) noexcept {
+  count_allocation();
+  return __libc_malloc(size);
+}
+
+void *calloc(size_t count, size_t size) noexcept {
+  count_allocation();
+  return __libc_calloc(count, size);
+}
+
+void *realloc(void *ptr, size_t size) noexcept {
+  count_allocation();
+  return __libc_realloc(ptr, size);
+}
+
+void *memalign(size_t alignment, size_t size) noexcept {
+  count_allocation();
+  return __libc_memalign(alignment, size);
+}
+
+void *aligned_alloc(size_t alignment, size_t size) noexcept {
+  count_allocation();
+  return __libc_memalign(alignment, size);
+}
+
+int posix_memalign(void **out, size_t alignment, size_t size) noexcept {
+  count_allocation();
+  if (alignment < sizeof(void *) || (alignment & (alignment - 1)) != 0) return 22;  // EINVAL
+  void *p = __libc_memalign(alignment, size);
+  if (p == nullptr) return 12;  // ENOMEM
+  *out = p;
+  return 0;
+}
+
+}  // extern "C"
+
+// The reference below gets no help the library's functions cannot get: no
+// inlining, and (for g++) no cloning or specialising on its callers' constants.
+#if defined(__clang__)
+#define BENCH_OUT_OF_LINE __attribute__((noinline))
+#else
+#define BENCH_OUT_OF_LINE __attribute__((noipa))
+#endif
+
+namespace orbisk_bench {
+
+// ------------------------------------------------------------ reference ---
+//
+// The l2Lookup add with l2LookupKnownUcast written out by hand: the least a
+// caller must do to hand the driver a correct pair of records. It has external
+// linkage and is kept out of line, so that it is called the way the library's
+// function is.
+BENCH_OUT_OF_LINE pd_status reference_l2Lookup_add_l2LookupKnownUcast(
+    pd_sess_hdl sess, pd_dev_target tgt, const p4_pd_orbisk_switch_l2Lookup_match_spec_t *ms,
+    const p4_pd_orbisk_switch_l2LookupKnownUcast_action_spec_t *as, pd_entry_hdl *entry_hdl) {
+  uint8_t value[8];
+  uint8_t mask[8];
+  uint8_t data[3];
+
+  // OUI (3 bytes), station (3 bytes), domain (2 bytes), most significant first.
+  value[0] = uint8_t(ms->egrMd_dmacOui >> 16);
+  value[1] = uint8_t(ms->egrMd_dmacOui >> 8);
+  value[2] = uint8_t(ms->egrMd_dmacOui);
+  value[3] = uint8_t(ms->egrMd_dmacStation >> 16);
+  value[4] = uint8_t(ms->egrMd_dmacStation >> 8);
+  value[5] = uint8_t(ms->egrMd_dmacStation);
+  value[6] = uint8_t(ms->egrMd_egrL2Domain >> 8);
+  value[7] = uint8_t(ms->egrMd_egrL2Domain);
+  std::memset(mask, 0xFF, sizeof mask);
+
+  pd_match_record key;
+  key.value_bytes = value;
+  key.mask_bytes = mask;
+  key.partition_index = 0;
+  key.priority = 0;
+  key.num_valid_bits = 60;
+  key.num_bytes = 8;
+  key.reserved = 0;
+
+  data[0] = uint8_t(as->action_egrL2Aintf >> 16);
+  data[1] = uint8_t(as->action_egrL2Aintf >> 8);
+  data[2] = uint8_t(as->action_egrL2Aintf);
+
+  pd_action_record act;
+  std::memset(&act, 0, sizeof act);
+  act.record_kind = PD_RECORD_KIND_DIRECT;
+  act.num_valid_bits = 20;
+  act.num_bytes = 3;
+  act.data_bytes = data;
+
+  return pipe_mgr_mat_ent_add(sess, tgt, 0x0100002fu, &key, 0x200000a6u, &act, 0, 0, entry_hdl);
+}
+
+}  // namespace orbisk_bench
+
+namespace {
+
+constexpr pd_sess_hdl kSess = 1;
+constexpr pd_dev_target kTarget{0, PD_DEV_PIPE_ALL};
+
+// ----------------------------------------------------------------- cases ---
+//
+// One call each, its input varied a little by the iteration number i. The
+// inputs are forced into memory before the call and the outputs are kept
+// after it, in the same way for every case.
+
+pd_status case_l2Lookup_add(uint32_t i) {
+  p4_pd_orbisk_switch_l2Lookup_match_spec_t ms;
+  ms.egrMd_dmacOui = 0x001b21u;
+  ms.egrMd_dmacStation = 0x3c0000u | (i & 0xFFFFu);
+  ms.egrMd_egrL2Domain = uint16_t(1 + (i & 0xFFu));
+  p4_pd_orbisk_switch_l2LookupKnownUcast_action_spec_t as;
+  as.action_egrL2Aintf = 0x10000u + (i & 0xFFu);
+  pd_entry_hdl hdl = 0;
+  benchmark::DoNotOptimize(ms);
+  benchmark::DoNotOptimize(as);
+  pd_status s =
+      p4_pd_orbisk_switch_l2Lookup_table_add_with_l2LookupKnownUcast(kSess, kTarget, &ms, &as, &hdl);
+  benchmark::DoNotOptimize(hdl);
+  return s;
+}
+
+pd_status case_l2Lookup_add_reference(uint32_t i) {
+  p4_pd_orbisk_switch_l2Lookup_match_spec_t ms;
+  ms.egrMd_dmacOui = 0x001b21u;
+  ms.egrMd_dmacStation = 0x3c0000u | (i & 0xFFFFu);
+  ms.egrMd_egrL2Domain = uint16_t(1 + (i & 0xFFu));
+  p4_pd_orbisk_switch_l2LookupKnownUcast_action_spec_t as;
+  as.action_egrL2Aintf = 0x10000u + (i & 0xFFu);
+  pd_entry_hdl hdl = 0;
+  benchmark::DoNotOptimize(ms);
+  benchmark::DoNotOptimize(as);
+  pd_status s = orbisk_bench::reference_l2Lookup_add_l2LookupKnownUcast(kSess, kTarget, &ms, &as, &hdl);
+  benchmark::DoNotOptimize(hdl);
+  return s;
+}
+
+pd_status case_l2DomainLookup_add(uint32_t i) {
+  p4_pd_orbisk_switch_l2DomainLookup_match_spec_t ms;
+  ms.phase0_switchPort = uint8_t(i & 1u);
+  ms.phase0_ingVPort = uint16_t(0x100u + (i & 0xFFu));
+  ms.vlanHdr_0__valid = 1;
+  ms.vlanHdr_0__vlanId = uint16_t(1 + (i & 0x7FFu));
+  ms.vlanHdr_0__vlanId_mask = 0x0FFF;
+  uint32_t priority = 10 + (i & 0xFu);
+  p4_pd_orbisk_switch_setL2DomainTagged_action_spec_t as;
+  as.action_l2Aintf = 0x20000u + (i & 0xFFu);
+  pd_entry_hdl hdl = 0;
+  benchmark::DoNotOptimize(ms);
+  benchmark::DoNotOptimize(priority);
+  benchmark::DoNotOptimize(as);
+  pd_status s = p4_pd_orbisk_switch_l2DomainLookup_table_add_with_setL2DomainTagged(
+      kSess, kTarget, &ms, priority, &as, &hdl);
+  benchmark::DoNotOptimize(hdl);
+  return s;
+}
+
+pd_status case_ipv4ShortMaskLpm_add(uint32_t i) {
+  p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec_t ms;
+  ms.l3Info_vrfId = uint8_t(1 + (i & 0x7u));
+  ms.ingIpv4_dip = 0x0a000000u | ((i & 0xFFFFu) << 8) | 0x5u;  // host bits set on purpose
+  ms.ingIpv4_dip_prefix_length = 24;
+  p4_pd_orbisk_switch_setNextHop_action_spec_t as;
+  as.action_nextHop = 0x1000u + (i & 0xFFu);
+  pd_entry_hdl hdl = 0;
+  benchmark::DoNotOptimize(ms);
+  benchmark::DoNotOptimize(as);
+  pd_status s =
+      p4_pd_orbisk_switch_ipv4ShortMaskLpm_table_add_with_setNextHop(kSess, kTarget, &ms, &as, &hdl);
+  benchmark::DoNotOptimize(hdl);
+  return s;
+}
+
+pd_status case_ipv6FinalResolve_add(uint32_t i) {
+  p4_pd_orbisk_switch_ipv6FinalResolve_match_spec_t ms;
+  ms.ingIpv6_fibPartitionIndex = uint16_t(i & 0x3FFu);
+  static constexpr uint8_t kBase[16] = {0x20, 0x01, 0x0d, 0xb8, 0x00, 0x00, 0x00, 0x00,
+                                        0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x01};
+  std::memcpy(ms.ingIpv6_dip, kBase, sizeof kBase);
+  ms.ingIpv6_dip[6] = uint8_t(i >> 8);
+  ms.ingIpv6_dip[7] = uint8_t(i);
+  ms.ingIpv6_dip_prefix_length = 64;
+  p4_pd_orbisk_switch_setNextHop_action_spec_t as;
+  as.action_nextHop = 0x2000u + (i & 0xFFu);
+  pd_entry_hdl hdl = 0;
+  benchmark::DoNotOptimize(ms);
+  benchmark::DoNotOptimize(as);
+  pd_status s =
+      p4_pd_orbisk_switch_ipv6FinalResolve_table_add_with_setNextHop(kSess, kTarget, &ms, &as, &hdl);
+  benchmark::DoNotOptimize(hdl);
+  return s;
+}
+
+pd_status case_l2Lookup_get_entry(uint32_t i) {
+  p4_pd_orbisk_switch_l2Lookup_match_spec_t ms;
+  char action_name[P4_PD_ORBISK_SWITCH_ACTION_NAME_MAX];
+  p4_pd_orbisk_switch_action_spec_u as;
+  p4_pd_orbisk_switch_action_names_t action_enum;
+  bool is_default = true;
+  pd_entry_hdl hdl = 1 + (i & 0xFFFFu);
+  benchmark::DoNotOptimize(hdl);
+  pd_status s = p4_pd_orbisk_switch_l2Lookup_get_entry(kSess, 0, hdl, false, &ms, action_name,
+                                                       &as, &action_enum, &is_default);
+  benchmark::DoNotOptimize(ms);
+  benchmark::DoNotOptimize(action_name);
+  benchmark::DoNotOptimize(as);
+  benchmark::DoNotOptimize(action_enum);
+  benchmark::DoNotOptimize(is_default);
+  return s;
+}
+
+// The floor under every add: the same input handling and one driver call
+// with records built once, outside the loop.
+pd_status case_driver_call_only(uint32_t i) {
+  static uint8_t value[8];
+  static uint8_t mask[8];
+  static uint8_t data[3];
+  static pd_match_record key{value, mask, 0, 0, 60, 8, 0};
+  static pd_action_record act{PD_RECORD_KIND_DIRECT, 0, {}, 20, 3, 0, data, 0, 0, {}};
+  pd_entry_hdl hdl = 0;
+  benchmark::DoNotOptimize(i);
+  pd_status s = pipe_mgr_mat_ent_add(kSess, kTarget, 0x0100002fu, &key, 0x200000a6u, &act, 0, 0,
+                                     &hdl);
+  benchmark::DoNotOptimize(hdl);
+  return s;
+}
+
+using CaseFn = pd_status (*)(uint32_t);
+using LoopFn = uint64_t (*)(uint64_t);
+
+// N calls of one case; returns the number that did not succeed.
+template <CaseFn F>
+uint64_t run_loop(uint64_t n) {
+  uint64_t failures = 0;
+  for (uint64_t i = 0; i < n; ++i) failures += F(uint32_t(i)) != BF_SUCCESS;
+  return failures;
+}
+
+template <CaseFn F>
+void run_benchmark(benchmark::State &state) {
+  uint32_t i = 0;
+  uint64_t failures = 0;
+  for (auto _ : state) failures += F(i++) != BF_SUCCESS;
+  if (failures != 0) state.SkipWithError("a call did not succeed");
+}
+
+struct Case {
+  const char *name;
+  LoopFn loop;
+  void (*bench)(benchmark::State &);
+  bool writes;  // a write path: must not allocate
+};
+
+template <CaseFn F>
+constexpr Case make_case(const char *name, bool writes) {
+  return Case{name, run_loop<F>, run_benchmark<F>, writes};
+}
+
+constexpr Case kCases[] = {
+    make_case<case_l2Lookup_add>("l2Lookup_add", true),
+    make_case<case_l2Lookup_add_reference>("l2Lookup_add_reference", true),
+    make_case<case_l2DomainLookup_add>("l2DomainLookup_add", true),
+    make_case<case_ipv4ShortMaskLpm_add>("ipv4ShortMaskLpm_add", true),
+    make_case<case_ipv6FinalResolve_add>("ipv6FinalResolve_add", true),
+    make_case<case_l2Lookup_get_entry>("l2Lookup_get_entry", false),
+    make_case<case_driver_call_only>("driver_call_only", true),
+};
+
+const Case *find_case(std::string_view name) {
+  for (const Case &c : kCases) {
+    if (name == c.name) return &c;
+  }
+  return nullptr;
+}
+
+// The read path must hand back what the driver gave, or its figure would be
+// that of an error path.
+bool read_path_decodes() {
+  p4_pd_orbisk_switch_l2Lookup_match_spec_t ms;
+  char action_name[P4_PD_ORBISK_SWITCH_ACTION_NAME_MAX];
+  p4_pd_orbisk_switch_action_spec_u as;
+  p4_pd_orbisk_switch_action_names_t action_enum;
+  bool is_default = true;
+  pd_status s = p4_pd_orbisk_switch_l2Lookup_get_entry(kSess, 0, 1, false, &ms, action_name, &as,
+                                                       &action_enum, &is_default);
+  return s == BF_SUCCESS && !is_default && action_enum == p4_pd_orbisk_switch_l2LookupKnownUcast &&
+         as.l2LookupKnownUcast.action_egrL2Aintf == 0x010203u && ms.egrMd_dmacOui == 0x001b21u &&
+         ms.egrMd_dmacStation == 0x3c4d5eu && ms.egrMd_egrL2Domain == 0x002au;
+}
+
+int usage(const char *argv0) {
+  std::fprintf(stderr, "usage: %s [benchmark flags] | --loop <case> <N> | --list\n", argv0);
+  return 2;
+}
+
+int loop_main(const char *argv0, const char *name, const char *count) {
+  const Case *c = find_case(name);
+  char *end = nullptr;
+  unsigned long long n = std::strtoull(count, &end, 10);
+  if (c == nullptr || end == count || *end != '\0') return usage(argv0);
+  // The count must see allocations at all, or a zero would mean nothing. Under
+  // a tool that replaces the allocator (memcheck) it sees none: the line then
+  // says "allocations -" and the tool's own heap summary is the figure.
+  void *(*volatile probe)(size_t) = malloc;
+  uint64_t before = g_allocations.load(std::memory_order_relaxed);
+  std::free(probe(16));
+  bool counted = g_allocations.load(std::memory_order_relaxed) != before;
+  before = g_allocations.load(std::memory_order_relaxed);
+  uint64_t failures = c->loop(n);
+  uint64_t allocations = g_allocations.load(std::memory_order_relaxed) - before;
+  char seen[24] = "-";
+  if (counted) std::snprintf(seen, sizeof seen, "%llu", static_cast<unsigned long long>(allocations));
+  std::printf("case %s calls %llu allocations %s failures %llu\n", c->name, n, seen,
+              static_cast<unsigned long long>(failures));
+  return failures == 0 ? 0 : 1;
+}
+
+}  // namespace
+
+int main(int argc, char **argv) {
+  if (!read_path_decodes()) {
+    std::fprintf(stderr, "%s: l2Lookup get_entry does not decode the driver's answer\n", argv[0]);
+    return 1;
+  }
+  if (argc >= 2 && std::strcmp(argv[1], "--list") == 0) {
+    for (const Case &c : kCases) std::printf("%s %s\n", c.name, c.writes ? "write" : "read");
+    return 0;
+  }
+  if (argc >= 2 && std::strcmp(argv[1], "--loop") == 0) {
+    if (argc != 4) return usage(argv[0]);
+    return loop_main(argv[0], argv[2], argv[3]);
+  }
+  for (const Case &c : kCases) benchmark::RegisterBenchmark(c.name, c.bench);
+  benchmark::Initialize(&argc, argv);
+  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return usage(argv[0]);
+  benchmark::RunSpecifiedBenchmarks();
+  benchmark::Shutdown();
+  return 0;
+}
