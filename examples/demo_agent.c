@@ -1,0 +1,367 @@
+/* A small switch agent written against the C interface of orbisk_switch.
+ *
+ * It registers with the driver, then programs one entry in each of four
+ * tables the way an agent brings up a port:
+ *   - ingressPortMapping: front-panel port 17 to its virtual port (setPhase0)
+ *   - l2DomainLookup:     tagged VLAN 100 on that virtual port (ternary, with
+ *                         a priority; setL2DomainTagged)
+ *   - l2Lookup:           a known unicast MAC in the L2 domain
+ *                         (l2LookupKnownUcast)
+ *   - ipv4ShortMaskLpm:   10.1.2.0/24 in VRF 3 to next hop 42 (setNextHop)
+ * Each entry is read back, printed in host form and compared with what was
+ * written; then every entry is deleted and each table is checked to be
+ * empty. Any failed status or difference ends the program with a message on
+ * stderr and exit status 1.
+ *
+ * Only the library's interface is used. The driver functions it calls come
+ * from whatever implements them at load time: the chip's driver in a switch,
+ * the in-memory driver model here. */
+#include <inttypes.h>
+#include <stdbool.h>
+#include <stdint.h>
+#include <stdio.h>
+#include <stdlib.h>
+#include <string.h>
+
+#include "orbisk_switch/pd.h"
+
+#define SESS ((pd_sess_hdl)0)
+#define DEVICE 0u
+
+static const pd_dev_target kTarget = {DEVICE, PD_DEV_PIPE_ALL};
+
+static int g_failures;
+
+/* A call that must succeed; the program stops at the first that does not. */
+static void must(pd_status status, const char *what) {
+  if (status != BF_SUCCESS) {
+    fprintf(stderr, "orbisk_demo: error: %s failed with status %" PRIu32 "\n", what,
+            (uint32_t)status);
+    exit(1);
+  }
+}
+
+/* A value read back that must equal the one written. */
+static void expect_u32(const char *table, const char *field, uint32_t got, uint32_t want) {
+  if (got != want) {
+    fprintf(stderr,
+            "orbisk_demo: error: %s: %s read back as %" PRIu32 ", written as %" PRIu32 "\n",
+            table, field, got, want);
+    ++g_failures;
+  }
+}
+
+/* The action name read back must be the full name of the expected action,
+ * and must agree with the action enum read back with it. */
+static void expect_action(const char *table, const char *name,
+                          p4_pd_orbisk_switch_action_names_t got,
+                          p4_pd_orbisk_switch_action_names_t want) {
+  const char *want_name = p4_pd_orbisk_switch_action_enum_to_string((uint32_t)want);
+  if (got != want || want_name == NULL || strcmp(name, want_name) != 0) {
+    fprintf(stderr,
+            "orbisk_demo: error: %s: action read back as \"%s\" (%u), expected \"%s\" (%u)\n",
+            table, name, (unsigned)got, want_name ? want_name : "?", (unsigned)want);
+    ++g_failures;
+  }
+}
+
+static void expect_not_default(const char *table, bool is_default) {
+  if (is_default) {
+    fprintf(stderr, "orbisk_demo: error: %s: entry read back as the default entry\n", table);
+    ++g_failures;
+  }
+}
+
+static void print_ipv4(const char *label, uint32_t addr) {
+  printf("    %-30s %" PRIu32 ".%" PRIu32 ".%" PRIu32 ".%" PRIu32 "\n", label, (addr >> 24) & 0xFFu,
+         (addr >> 16) & 0xFFu, (addr >> 8) & 0xFFu, addr & 0xFFu);
+}
+
+static void print_u32(const char *label, uint32_t value) {
+  printf("    %-30s %" PRIu32 "\n", label, value);
+}
+
+static void print_hex(const char *label, uint32_t value, int digits) {
+  printf("    %-30s 0x%0*" PRIx32 "\n", label, digits, value);
+}
+
+/* A MAC address is keyed as two 24-bit halves: the OUI and the station. */
+static void print_mac(const char *label, uint32_t oui, uint32_t station) {
+  printf("    %-30s %02" PRIx32 ":%02" PRIx32 ":%02" PRIx32 ":%02" PRIx32 ":%02" PRIx32
+         ":%02" PRIx32 "\n",
+         label, (oui >> 16) & 0xFFu, (oui >> 8) & 0xFFu, oui & 0xFFu, (station >> 16) & 0xFFu,
+         (station >> 8) & 0xFFu, station & 0xFFu);
+}
+
+static void print_header(const char *table, pd_entry_hdl hdl, const char *action_name) {
+  printf("%s entry %" PRIu32 ": action %s\n", table, (uint32_t)hdl, action_name);
+}
+
+/* ------------------------------------------------------------ port --- */
+
+static pd_entry_hdl add_port_mapping(void) {
+  p4_pd_orbisk_switch_ingressPortMapping_match_spec_t match;
+  p4_pd_orbisk_switch_setPhase0_action_spec_t action;
+  pd_entry_hdl hdl = 0;
+  memset(&match, 0, sizeof match);
+  memset(&action, 0, sizeof action);
+  match.ig_intr_md_ingress_port = 17;
+  action.action_ingVPort = 1017;
+  action.action_nativeAintf = 4097;
+  action.action_switchPort = 1;
+  action.action_physicalPort = 2;
+  must(p4_pd_orbisk_switch_ingressPortMapping_table_add_with_setPhase0(SESS, kTarget, &match,
+                                                                       &action, &hdl),
+       "ingressPortMapping add");
+  return hdl;
+}
+
+static void show_port_mapping(pd_entry_hdl hdl) {
+  static const char *const table = "ingressPortMapping";
+  p4_pd_orbisk_switch_ingressPortMapping_match_spec_t match;
+  p4_pd_orbisk_switch_action_spec_u action;
+  p4_pd_orbisk_switch_action_names_t action_enum = P4_PD_ORBISK_SWITCH_ACTION_COUNT;
+  char action_name[P4_PD_ORBISK_SWITCH_ACTION_NAME_MAX] = "";
+  bool is_default = true;
+  memset(&match, 0, sizeof match);
+  memset(&action, 0, sizeof action);
+  must(p4_pd_orbisk_switch_ingressPortMapping_get_entry(SESS, DEVICE, hdl, false, &match,
+                                                        action_name, &action, &action_enum,
+                                                        &is_default),
+       "ingressPortMapping get_entry");
+
+  const p4_pd_orbisk_switch_setPhase0_action_spec_t *a = &action.setPhase0;
+  print_header(table, hdl, action_name);
+  print_u32("ig_intr_md_ingress_port", match.ig_intr_md_ingress_port);
+  print_u32("action_ingVPort", a->action_ingVPort);
+  print_u32("action_nativeAintf", a->action_nativeAintf);
+  print_u32("action_switchPort", a->action_switchPort);
+  print_u32("action_physicalPort", a->action_physicalPort);
+
+  expect_action(table, action_name, action_enum, p4_pd_orbisk_switch_setPhase0);
+  expect_not_default(table, is_default);
+  expect_u32(table, "ig_intr_md_ingress_port", match.ig_intr_md_ingress_port, 17);
+  expect_u32(table, "action_ingVPort", a->action_ingVPort, 1017);
+  expect_u32(table, "action_nativeAintf", a->action_nativeAintf, 4097);
+  expect_u32(table, "action_switchPort", a->action_switchPort, 1);
+  expect_u32(table, "action_physicalPort", a->action_physicalPort, 2);
+}
+
+/* ------------------------------------------------------------ VLAN --- */
+
+#define VLAN_PRIORITY 10u
+
+static pd_entry_hdl add_vlan_member(void) {
+  p4_pd_orbisk_switch_l2DomainLookup_match_spec_t match;
+  p4_pd_orbisk_switch_setL2DomainTagged_action_spec_t action;
+  pd_entry_hdl hdl = 0;
+  memset(&match, 0, sizeof match);
+  memset(&action, 0, sizeof action);
+  match.phase0_switchPort = 1;
+  match.phase0_ingVPort = 1017;
+  match.vlanHdr_0__valid = 1;
+  match.vlanHdr_0__vlanId = 100;
+  match.vlanHdr_0__vlanId_mask = 0x0FFF;
+  action.action_l2Aintf = 0x10064;
+  must(p4_pd_orbisk_switch_l2DomainLookup_table_add_with_setL2DomainTagged(
+           SESS, kTarget, &match, VLAN_PRIORITY, &action, &hdl),
+       "l2DomainLookup add");
+  return hdl;
+}
+
+static void show_vlan_member(pd_entry_hdl hdl) {
+  static const char *const table = "l2DomainLookup";
+  p4_pd_orbisk_switch_l2DomainLookup_match_spec_t match;
+  p4_pd_orbisk_switch_action_spec_u action;
+  p4_pd_orbisk_switch_action_names_t action_enum = P4_PD_ORBISK_SWITCH_ACTION_COUNT;
+  char action_name[P4_PD_ORBISK_SWITCH_ACTION_NAME_MAX] = "";
+  uint32_t priority = 0;
+  bool is_default = true;
+  memset(&match, 0, sizeof match);
+  memset(&action, 0, sizeof action);
+  must(p4_pd_orbisk_switch_l2DomainLookup_get_entry(SESS, DEVICE, hdl, false, &match, &priority,
+                                                    action_name, &action, &action_enum,
+                                                    &is_default),
+       "l2DomainLookup get_entry");
+
+  const p4_pd_orbisk_switch_setL2DomainTagged_action_spec_t *a = &action.setL2DomainTagged;
+  print_header(table, hdl, action_name);
+  print_u32("priority", priority);
+  print_u32("phase0_switchPort", match.phase0_switchPort);
+  print_u32("phase0_ingVPort", match.phase0_ingVPort);
+  print_u32("vlanHdr_0__valid", match.vlanHdr_0__valid);
+  print_u32("vlanHdr_0__vlanId", match.vlanHdr_0__vlanId);
+  print_hex("vlanHdr_0__vlanId_mask", match.vlanHdr_0__vlanId_mask, 3);
+  print_hex("action_l2Aintf", a->action_l2Aintf, 5);
+
+  expect_action(table, action_name, action_enum, p4_pd_orbisk_switch_setL2DomainTagged);
+  expect_not_default(table, is_default);
+  expect_u32(table, "priority", priority, VLAN_PRIORITY);
+  expect_u32(table, "phase0_switchPort", match.phase0_switchPort, 1);
+  expect_u32(table, "phase0_ingVPort", match.phase0_ingVPort, 1017);
+  expect_u32(table, "vlanHdr_0__valid", match.vlanHdr_0__valid, 1);
+  expect_u32(table, "vlanHdr_0__vlanId", match.vlanHdr_0__vlanId, 100);
+  expect_u32(table, "vlanHdr_0__vlanId_mask", match.vlanHdr_0__vlanId_mask, 0x0FFF);
+  expect_u32(table, "action_l2Aintf", a->action_l2Aintf, 0x10064);
+}
+
+/* ------------------------------------------------------------- MAC --- */
+
+#define MAC_OUI 0x001B21u
+#define MAC_STATION 0x3C4D5Eu
+#define MAC_L2_DOMAIN 100u
+#define MAC_L2_AINTF 0x10065u
+
+static pd_entry_hdl add_mac(void) {
+  p4_pd_orbisk_switch_l2Lookup_match_spec_t match;
+  p4_pd_orbisk_switch_l2LookupKnownUcast_action_spec_t action;
+  pd_entry_hdl hdl = 0;
+  memset(&match, 0, sizeof match);
+  memset(&action, 0, sizeof action);
+  match.egrMd_dmacOui = MAC_OUI;
+  match.egrMd_dmacStation = MAC_STATION;
+  match.egrMd_egrL2Domain = MAC_L2_DOMAIN;
+  action.action_egrL2Aintf = MAC_L2_AINTF;
+  must(p4_pd_orbisk_switch_l2Lookup_table_add_with_l2LookupKnownUcast(SESS, kTarget, &match,
+                                                                      &action, &hdl),
+       "l2Lookup add");
+  return hdl;
+}
+
+static void show_mac(pd_entry_hdl hdl) {
+  static const char *const table = "l2Lookup";
+  p4_pd_orbisk_switch_l2Lookup_match_spec_t match;
+  p4_pd_orbisk_switch_action_spec_u action;
+  p4_pd_orbisk_switch_action_names_t action_enum = P4_PD_ORBISK_SWITCH_ACTION_COUNT;
+  char action_name[P4_PD_ORBISK_SWITCH_ACTION_NAME_MAX] = "";
+  bool is_default = true;
+  memset(&match, 0, sizeof match);
+  memset(&action, 0, sizeof action);
+  must(p4_pd_orbisk_switch_l2Lookup_get_entry(SESS, DEVICE, hdl, false, &match, action_name,
+                                              &action, &action_enum, &is_default),
+       "l2Lookup get_entry");
+
+  const p4_pd_orbisk_switch_l2LookupKnownUcast_action_spec_t *a = &action.l2LookupKnownUcast;
+  print_header(table, hdl, action_name);
+  print_hex("egrMd_dmacOui", match.egrMd_dmacOui, 6);
+  print_hex("egrMd_dmacStation", match.egrMd_dmacStation, 6);
+  print_mac("  (destination MAC)", match.egrMd_dmacOui, match.egrMd_dmacStation);
+  print_u32("egrMd_egrL2Domain", match.egrMd_egrL2Domain);
+  print_hex("action_egrL2Aintf", a->action_egrL2Aintf, 5);
+
+  expect_action(table, action_name, action_enum, p4_pd_orbisk_switch_l2LookupKnownUcast);
+  expect_not_default(table, is_default);
+  expect_u32(table, "egrMd_dmacOui", match.egrMd_dmacOui, MAC_OUI);
+  expect_u32(table, "egrMd_dmacStation", match.egrMd_dmacStation, MAC_STATION);
+  expect_u32(table, "egrMd_egrL2Domain", match.egrMd_egrL2Domain, MAC_L2_DOMAIN);
+  expect_u32(table, "action_egrL2Aintf", a->action_egrL2Aintf, MAC_L2_AINTF);
+}
+
+/* ----------------------------------------------------------- route --- */
+
+#define ROUTE_VRF 3u
+#define ROUTE_DIP 0x0A010200u /* 10.1.2.0 */
+#define ROUTE_PREFIX_LENGTH 24u
+#define ROUTE_NEXT_HOP 42u
+
+static pd_entry_hdl add_route(void) {
+  p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec_t match;
+  p4_pd_orbisk_switch_setNextHop_action_spec_t action;
+  pd_entry_hdl hdl = 0;
+  memset(&match, 0, sizeof match);
+  memset(&action, 0, sizeof action);
+  match.l3Info_vrfId = ROUTE_VRF;
+  match.ingIpv4_dip = ROUTE_DIP;
+  match.ingIpv4_dip_prefix_length = ROUTE_PREFIX_LENGTH;
+  action.action_nextHop = ROUTE_NEXT_HOP;
+  must(p4_pd_orbisk_switch_ipv4ShortMaskLpm_table_add_with_setNextHop(SESS, kTarget, &match,
+                                                                      &action, &hdl),
+       "ipv4ShortMaskLpm add");
+  return hdl;
+}
+
+static void show_route(pd_entry_hdl hdl) {
+  static const char *const table = "ipv4ShortMaskLpm";
+  p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec_t match;
+  p4_pd_orbisk_switch_action_spec_u action;
+  p4_pd_orbisk_switch_action_names_t action_enum = P4_PD_ORBISK_SWITCH_ACTION_COUNT;
+  char action_name[P4_PD_ORBISK_SWITCH_ACTION_NAME_MAX] = "";
+  bool is_default = true;
+  memset(&match, 0, sizeof match);
+  memset(&action, 0, sizeof action);
+  must(p4_pd_orbisk_switch_ipv4ShortMaskLpm_get_entry(SESS, DEVICE, hdl, false, &match,
+                                                      action_name, &action, &action_enum,
+                                                      &is_default),
+       "ipv4ShortMaskLpm get_entry");
+
+  const p4_pd_orbisk_switch_setNextHop_action_spec_t *a = &action.setNextHop;
+  print_header(table, hdl, action_name);
+  print_u32("l3Info_vrfId", match.l3Info_vrfId);
+  print_ipv4("ingIpv4_dip", match.ingIpv4_dip);
+  print_u32("ingIpv4_dip_prefix_length", match.ingIpv4_dip_prefix_length);
+  print_u32("action_nextHop", a->action_nextHop);
+
+  expect_action(table, action_name, action_enum, p4_pd_orbisk_switch_setNextHop);
+  expect_not_default(table, is_default);
+  expect_u32(table, "l3Info_vrfId", match.l3Info_vrfId, ROUTE_VRF);
+  expect_u32(table, "ingIpv4_dip", match.ingIpv4_dip, ROUTE_DIP);
+  expect_u32(table, "ingIpv4_dip_prefix_length", match.ingIpv4_dip_prefix_length,
+             ROUTE_PREFIX_LENGTH);
+  expect_u32(table, "action_nextHop", a->action_nextHop, ROUTE_NEXT_HOP);
+}
+
+/* ----------------------------------------------------------- counts --- */
+
+typedef pd_status (*count_fn)(pd_sess_hdl, pd_dev_target, uint32_t *);
+
+static void expect_count(const char *table, count_fn fn, uint32_t want) {
+  uint32_t count = UINT32_MAX;
+  char what[96];
+  snprintf(what, sizeof what, "%s get_entry_count", table);
+  must(fn(SESS, kTarget, &count), what);
+  expect_u32(table, "entry count", count, want);
+}
+
+int main(void) {
+  p4_pd_orbisk_switch_init();
+  printf("registered with the driver as client %" PRIu32 "\n", bf_drv_hdl);
+
+  pd_entry_hdl port = add_port_mapping();
+  pd_entry_hdl vlan = add_vlan_member();
+  pd_entry_hdl mac = add_mac();
+  pd_entry_hdl route = add_route();
+
+  expect_count("ingressPortMapping", p4_pd_orbisk_switch_ingressPortMapping_get_entry_count, 1);
+  expect_count("l2DomainLookup", p4_pd_orbisk_switch_l2DomainLookup_get_entry_count, 1);
+  expect_count("l2Lookup", p4_pd_orbisk_switch_l2Lookup_get_entry_count, 1);
+  expect_count("ipv4ShortMaskLpm", p4_pd_orbisk_switch_ipv4ShortMaskLpm_get_entry_count, 1);
+
+  show_port_mapping(port);
+  show_vlan_member(vlan);
+  show_mac(mac);
+  show_route(route);
+
+  must(p4_pd_orbisk_switch_ingressPortMapping_table_delete(SESS, DEVICE, port),
+       "ingressPortMapping delete");
+  must(p4_pd_orbisk_switch_l2DomainLookup_table_delete(SESS, DEVICE, vlan),
+       "l2DomainLookup delete");
+  must(p4_pd_orbisk_switch_l2Lookup_table_delete(SESS, DEVICE, mac), "l2Lookup delete");
+  must(p4_pd_orbisk_switch_ipv4ShortMaskLpm_table_delete(SESS, DEVICE, route),
+       "ipv4ShortMaskLpm delete");
+
+  expect_count("ingressPortMapping", p4_pd_orbisk_switch_ingressPortMapping_get_entry_count, 0);
+  expect_count("l2DomainLookup", p4_pd_orbisk_switch_l2DomainLookup_get_entry_count, 0);
+  expect_count("l2Lookup", p4_pd_orbisk_switch_l2Lookup_get_entry_count, 0);
+  expect_count("ipv4ShortMaskLpm", p4_pd_orbisk_switch_ipv4ShortMaskLpm_get_entry_count, 0);
+  printf("deleted 4 entries; all four tables are empty\n");
+
+  must(p4_pd_orbisk_switch_cleanup(), "cleanup");
+
+  if (g_failures) {
+    fprintf(stderr, "orbisk_demo: error: %d value(s) read back differ from those written\n",
+            g_failures);
+    return 1;
+  }
+  printf("orbisk_demo: all entries read back as written\n");
+  return 0;
+}
