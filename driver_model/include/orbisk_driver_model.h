@@ -1,0 +1,213 @@
+/* The in-memory driver model: an implementation of every driver function the
+ * orbisk_switch control-plane library imports (orbisk_switch/pd_driver.h),
+ * plus the controls and observers below, so that the library, its demo and
+ * agents can run and be checked without a chip. Compiles as C11 and as C++.
+ *
+ * What the model keeps
+ *   Per device (created on first use, any id) and per match table of the
+ *   program: the entries, keyed by their packed key -- value bytes, mask
+ *   bytes, priority and partition index, compared byte for byte -- and the
+ *   table's default entry. The pipe id of a target is recorded in the call
+ *   log but otherwise ignored: an entry belongs to the whole device.
+ *
+ * Entry handles
+ *   Given out per device and table from 1 upward, never reused until
+ *   orbisk_model_reset(). The default entry of every table has the handle
+ *   ORBISK_MODEL_DEFAULT_ENTRY_HDL; reading it with pipe_mgr_get_entry
+ *   answers with num_bytes 0 and num_valid_bits 0 in the key record (key
+ *   strings untouched), which is how a client tells a default entry apart.
+ *
+ * Walks
+ *   pipe_mgr_get_entry_count counts the entries, never the default.
+ *   pipe_mgr_get_first_entry_handle gives the lowest handle, or
+ *   ORBISK_MODEL_NO_SUCH_ENTRY on an empty table. pipe_mgr_get_next_entry_handles
+ *   fills up to count handles that follow entry_hdl in ascending order and
+ *   sets the remaining slots to ORBISK_MODEL_NO_HANDLE; when nothing follows it
+ *   succeeds with every slot ORBISK_MODEL_NO_HANDLE. An entry_hdl that is no
+ *   entry of the table (the default handle included) is ORBISK_MODEL_NO_SUCH_ENTRY.
+ *
+ * Records
+ *   A key must carry the table's num_bytes and num_valid_bits, with value and
+ *   mask strings; a keyless table holds no entries, only its default. A
+ *   direct action record (record_kind 1) must carry the action's num_bytes
+ *   and num_valid_bits, and the action must be allowed on the table as an
+ *   entry or as a default. Entries of an indirect table must be references
+ *   (record_kind 2 member or 4 group); their default may be direct or a
+ *   reference. The action handle of a reference is stored as given. Up to
+ *   four resource slots (resource_count) are stored as they come.
+ *   On a read the action record offers room for the data in num_bytes;
+ *   stored data longer than that is ORBISK_MODEL_BAD_RECORD. The answer
+ *   carries the stored record_kind, resource slots, num_bytes, num_valid_bits,
+ *   data, member and group handles, and the action handle through fn.
+ *
+ * Defaults
+ *   Every table starts with its declared default action: direct, zero data,
+ *   and one attached resource slot (tag PD_RESOURCE_TAG_ATTACHED, index 0) when
+ *   the table's entries carry a resource, none otherwise.
+ *   pipe_mgr_mat_tbl_default_entry_reset brings that back.
+ *
+ * Failures
+ *   Every failure below leaves the model and the caller's out places as they
+ *   were. Checks run in this order: table, null pointers, key record, action
+ *   record, then the entry (exists / not found / table full). A read checks
+ *   the room it is offered once it has found the entry.
+ *
+ * Member selection
+ *   p4_pd_ms_init_state gives out states owned by the model. Each holds, per
+ *   device, member handle -> action handle and group handle -> action handle.
+ *   p4_pd_ms_log_state adds "members": [{"mbr":n,"act":n},...] and
+ *   "groups": [{"grp":n,"act":n},...] to a cJSON object; p4_pd_ms_restore_state
+ *   replaces the device's maps with what the object lists (an absent array
+ *   reads as empty; a malformed one is ORBISK_MODEL_BAD_RECORD). A state that
+ *   the model did not give out is ORBISK_MODEL_BAD_RECORD.
+ *
+ * Every function here is safe to call from any thread: one lock guards the
+ * whole model. */
+#ifndef ORBISK_DRIVER_MODEL_H
+#define ORBISK_DRIVER_MODEL_H
+
+#include <stddef.h>
+#include <stdint.h>
+
+#include "orbisk_switch/pd_driver.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* ------------------------------------------------------------ statuses --- */
+
+/* An entry with the same key is in the table already. */
+#define ORBISK_MODEL_ENTRY_EXISTS ((pd_status)0x101)
+/* Unknown entry handle, or no entry with the given key. */
+#define ORBISK_MODEL_NO_SUCH_ENTRY ((pd_status)0x102)
+/* The table handle is no match table of the program. */
+#define ORBISK_MODEL_NO_SUCH_TABLE ((pd_status)0x103)
+/* The table holds as many entries as its capacity allows. */
+#define ORBISK_MODEL_TABLE_FULL ((pd_status)0x104)
+/* A record that does not fit the table or action, a null pointer where one
+ * is needed, a record_kind the table cannot hold, or a member-selection
+ * state or document the model cannot use. */
+#define ORBISK_MODEL_BAD_RECORD ((pd_status)0x105)
+/* The action is not allowed on the table, or not as an entry / as a default. */
+#define ORBISK_MODEL_NO_SUCH_ACTION ((pd_status)0x106)
+/* No client is registered under that handle. */
+#define ORBISK_MODEL_NOT_REGISTERED ((pd_status)0x107)
+
+/* Handle of the default entry of every table. */
+#define ORBISK_MODEL_DEFAULT_ENTRY_HDL ((pd_entry_hdl)0x80000000u)
+/* Fills the unused slots of pipe_mgr_get_next_entry_handles. */
+#define ORBISK_MODEL_NO_HANDLE ((pd_entry_hdl)0xFFFFFFFFu)
+/* Capacity of a table until orbisk_model_set_capacity says otherwise. */
+#define ORBISK_MODEL_DEFAULT_CAPACITY (1u << 20)
+
+/* ------------------------------------------------------------ controls --- */
+
+/* Forgets everything: entries, defaults, handles, capacities, registrations,
+ * the call log, pending faults and quirks, log lines, the allocation count
+ * and the debug mode. Member-selection states stay valid but are emptied. */
+void orbisk_model_reset(void);
+
+/* Sets how many entries (the default not counted) a table of a device may
+ * hold. Existing entries stay. ORBISK_MODEL_NO_SUCH_TABLE for an unknown table. */
+pd_status orbisk_model_set_capacity(uint32_t device_id, pd_tbl_hdl tbl, uint32_t capacity);
+
+/* Arms a fault: the nth call (1 = the next one) of the named driver function
+ * from now on returns status without doing anything else; it is still
+ * recorded in the call log. Several faults may be armed at once. nth 0
+ * disarms every pending fault of that function. Applies to the functions
+ * that return a pd_status; armed on p4_pd_ms_init_state it makes that call
+ * return null. */
+void orbisk_model_fail(const char *function, uint32_t nth, pd_status status);
+
+/* Makes the next successful pipe_mgr_get_entry or
+ * pipe_mgr_table_get_default_entry answer with this record_kind and/or this
+ * action handle in place of the stored ones; -1 leaves either as stored.
+ * For checking how a client copes with an answer it did not expect. */
+void orbisk_model_quirk_next_read(int record_kind, int64_t act_fn);
+
+/* What bf_sys_dbg_mode returns; 0 until set. */
+void orbisk_model_set_dbg_mode(int mode);
+
+/* Number of entries of a table of a device, the default not counted; 0 for
+ * an unknown table or device. */
+size_t orbisk_model_entry_count(uint32_t device_id, pd_tbl_hdl tbl);
+
+/* ------------------------------------------------------------ call log --- */
+
+#define ORBISK_MODEL_MAX_ARGS 12
+#define ORBISK_MODEL_MAX_KEY_BYTES 64
+#define ORBISK_MODEL_MAX_DATA_BYTES 64
+
+/* One driver call as the caller made it. Every function of pd_driver.h is
+ * recorded except bf_sys_calloc, bf_sys_free, bf_sys_log_and_trace and
+ * bf_sys_dbg_mode. */
+typedef struct orbisk_model_call {
+  const char *function;  /* the driver function's name */
+  pd_status status;      /* what the call returned (0 for p4_pd_ms_init_state) */
+  uint32_t num_args;
+  /* The arguments in call order: integers widened, a pd_dev_target as its
+   * word (device_id | pipe << 32), pointers as addresses. */
+  uint64_t args[ORBISK_MODEL_MAX_ARGS];
+  /* Copies, taken at call entry, of a key and an action record passed in.
+   * The pointers of the copies point at the copied strings below (null where
+   * the caller's were null); strings longer than the arrays are cut. */
+  int has_key;
+  pd_match_record key;
+  uint8_t key_value[ORBISK_MODEL_MAX_KEY_BYTES];
+  uint8_t key_mask[ORBISK_MODEL_MAX_KEY_BYTES];
+  int has_act;
+  pd_action_record act;
+  uint8_t act_data[ORBISK_MODEL_MAX_DATA_BYTES];
+} orbisk_model_call;
+
+size_t orbisk_model_call_count(void);
+/* The ith call, oldest first; null past the end. Valid until the log is
+ * cleared or the model reset. */
+const orbisk_model_call *orbisk_model_call_at(size_t i);
+/* The latest call, or null when the log is empty. */
+const orbisk_model_call *orbisk_model_last_call(void);
+void orbisk_model_clear_calls(void);
+
+/* ----------------------------------------------------- system services --- */
+
+/* Lines written with bf_sys_log_and_trace, formatted, oldest first. A line
+ * stays valid until the lines are cleared or the model reset. */
+size_t orbisk_model_log_count(void);
+const char *orbisk_model_log_at(size_t i);
+void orbisk_model_clear_log(void);
+
+/* Blocks from bf_sys_calloc not yet given back with bf_sys_free. */
+size_t orbisk_model_live_allocations(void);
+
+/* -------------------------------------------------------- registration --- */
+
+/* Name a client registered with, or null for an unknown handle. Handles are
+ * given out from 1 upward. */
+const char *orbisk_model_client_name(uint32_t client_hdl);
+/* The model's copy of a client's callback record, or null when the client
+ * is unknown or registered none. */
+const pd_drv_client_callbacks *orbisk_model_callbacks(uint32_t client_hdl);
+/* Priority the callbacks were registered with; 0 when there are none. */
+uint32_t orbisk_model_callbacks_priority(uint32_t client_hdl);
+
+/* --------------------------------------------------- member selection --- */
+
+/* Sets what a member / group of a device names in a state given out by
+ * p4_pd_ms_init_state. ORBISK_MODEL_BAD_RECORD for any other state. */
+pd_status orbisk_model_ms_set_member(pd_ms_state *state, uint32_t device_id, pd_mbr_hdl mbr,
+                                     pd_act_fn_hdl act);
+pd_status orbisk_model_ms_set_group(pd_ms_state *state, uint32_t device_id, pd_grp_hdl grp,
+                                    pd_act_fn_hdl act);
+/* Members / groups of a device in a state; 0 for an unknown state. */
+size_t orbisk_model_ms_member_count(pd_ms_state *state, uint32_t device_id);
+size_t orbisk_model_ms_group_count(pd_ms_state *state, uint32_t device_id);
+/* Action a member names, or ORBISK_MODEL_NO_HANDLE when there is no such member. */
+pd_act_fn_hdl orbisk_model_ms_member_action(pd_ms_state *state, uint32_t device_id,
+                                            pd_mbr_hdl mbr);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif
