@@ -65,9 +65,11 @@ TEST_F(Keys, NarrowTernaryFieldKeepsValueAboveWidth) {
   EXPECT_EQ(ORBISK_MODEL_NO_SUCH_ENTRY,
             p4_pd_orbisk_switch_tunnelTermination_match_spec_to_entry_hdl(sess, tgt, &ms, 1, &h));
   Seen s = last("pipe_mgr_match_spec_to_ent_hdl");
-  // The tunnel type is the first key field of the table.
-  EXPECT_EQ(0xFF, s.value[0]);
-  EXPECT_EQ(0x07, s.mask[0]);
+  // The tunnel type stands first in the host record but fourth in the key,
+  // after 3 + 3 + 4 bytes of addresses.
+  ASSERT_EQ(12u, s.value.size());
+  EXPECT_EQ(0xFF, s.value[10]);
+  EXPECT_EQ(0x07, s.mask[10]);
 }
 
 struct PrefixCase {
