@@ -10,8 +10,8 @@
  *   - ipv4ShortMaskLpm:   10.1.2.0/24 in VRF 3 to next hop 42 (setNextHop)
  * Each entry is read back, printed in host form and compared with what was
  * written; then every entry is deleted and each table is checked to be
- * empty. Any failed status or difference ends the program with a message on
- * stderr and exit status 1.
+ * empty. A failed status ends the program at once, and any difference makes
+ * it end with status 1; either is explained on stderr.
  *
  * Only the library's interface is used. The driver functions it calls come
  * from whatever implements them at load time: the chip's driver in a switch,
@@ -41,12 +41,11 @@ static void must(pd_status status, const char *what) {
   }
 }
 
-/* A value read back that must equal the one written. */
+/* A value read back that must equal the one expected. */
 static void expect_u32(const char *table, const char *field, uint32_t got, uint32_t want) {
   if (got != want) {
-    fprintf(stderr,
-            "orbisk_demo: error: %s: %s read back as %" PRIu32 ", written as %" PRIu32 "\n",
-            table, field, got, want);
+    fprintf(stderr, "orbisk_demo: error: %s: %s is %" PRIu32 ", expected %" PRIu32 "\n", table,
+            field, got, want);
     ++g_failures;
   }
 }
@@ -358,8 +357,7 @@ int main(void) {
   must(p4_pd_orbisk_switch_cleanup(), "cleanup");
 
   if (g_failures) {
-    fprintf(stderr, "orbisk_demo: error: %d value(s) read back differ from those written\n",
-            g_failures);
+    fprintf(stderr, "orbisk_demo: error: %d check(s) failed\n", g_failures);
     return 1;
   }
   printf("orbisk_demo: all entries read back as written\n");
