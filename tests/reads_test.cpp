@@ -203,9 +203,9 @@ TEST_F(ReadsDeathTest, DebugModeEndsTheProcessOnABadRecord) {
   pd_entry_hdl h = add_l2(5);
   orbisk_model_set_dbg_mode(1);
   orbisk_model_quirk_next_read(2, -1);
-  EXPECT_DEATH(read_l2(h), "0");
+  EXPECT_DEATH(read_l2(h), "src/pd:[0-9]+: p4_pd_orbisk_switch_l2Lookup_get_entry: Assertion `0' failed");
   orbisk_model_quirk_next_read(-1, 0x2000ffff);
-  EXPECT_DEATH(read_l2(h), "\\(\\(void \\*\\)0\\)");
+  EXPECT_DEATH(read_l2(h), "l2Lookup_get_entry: Assertion `\\(\\(void \\*\\)0\\)' failed");
 }
 
 }  // namespace

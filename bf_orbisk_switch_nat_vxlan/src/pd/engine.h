@@ -119,11 +119,11 @@ struct ActBuf {
   uint8_t data[N ? N : 1];
 };
 
-// Zero-fills an action record of a direct entry and points it at its data.
+// Zero-fills an action record of a direct entry and points it at its data,
+// which the action's packer then writes in full.
 template <unsigned N, unsigned Bits>
 inline void begin_action(ActBuf<N> &a) {
   std::memset(&a.rec, 0, sizeof a.rec);
-  if constexpr (N != 0) std::memset(a.data, 0, N);
   a.rec.record_kind = PD_RECORD_KIND_DIRECT;
   a.rec.num_valid_bits = Bits;
   a.rec.num_bytes = N;
