@@ -109,16 +109,18 @@ TEST_F(CallLog, QuirkBendsOnlyTheNextRead) {
   ASSERT_EQ(BF_SUCCESS, r.get(kL2Lookup, hdl));
   EXPECT_EQ(PD_RECORD_KIND_MEMBER_REF, r.act.record_kind);
   EXPECT_EQ(kKnownUcast, r.fn);
+  Read plain(8);
+  ASSERT_EQ(BF_SUCCESS, plain.get(kL2Lookup, hdl));
+  EXPECT_EQ(PD_RECORD_KIND_DIRECT, plain.act.record_kind);
 
   orbisk_model_quirk_next_read(-1, 0x12345);
   Read d(8);
   ASSERT_EQ(BF_SUCCESS, d.get_default(kL2Lookup));
   EXPECT_EQ(PD_RECORD_KIND_DIRECT, d.act.record_kind);
   EXPECT_EQ(0x12345u, d.fn);
-  Read plain(8);
-  ASSERT_EQ(BF_SUCCESS, plain.get(kL2Lookup, hdl));
-  EXPECT_EQ(PD_RECORD_KIND_DIRECT, plain.act.record_kind);
-  EXPECT_EQ(kKnownUcast, plain.fn);
+  Read again(8);
+  ASSERT_EQ(BF_SUCCESS, again.get_default(kL2Lookup));
+  EXPECT_EQ(kL2OnMiss, again.fn);
 }
 
 using Services = ModelTest;
