@@ -3,7 +3,7 @@
 // hand-written packing of the l2Lookup add that does only what the driver
 // needs.
 //
-// Two ways to run:
+// Ways to run:
 //   bench_pd [google benchmark flags]   timed runs of every case
 //   bench_pd --loop <case> <N>          N plain calls of one case, no framework,
 //                                       then one line with the heap allocations
