@@ -106,7 +106,7 @@ pd_status read_entry(const TableRead &t, const char *function, pd_sess_hdl sess,
   uint8_t mask[64];
   uint8_t data[kReadActionDataBytes];
   pd_match_record key;
-  std::memset(&key, 0, sizeof key);
+  zero_record(key);
   if (t.key_bytes) {
     std::memset(value, 0, t.key_bytes);
     std::memset(mask, 0, t.key_bytes);
@@ -116,7 +116,7 @@ pd_status read_entry(const TableRead &t, const char *function, pd_sess_hdl sess,
     key.num_bytes = t.key_bytes;
   }
   pd_action_record act;
-  std::memset(&act, 0, sizeof act);
+  zero_record(act);
   std::memset(data, 0, sizeof data);
   act.data_bytes = data;
   act.num_bytes = kReadActionDataBytes;
@@ -164,7 +164,7 @@ pd_status read_default_entry(const TableRead &t, pd_sess_hdl sess, pd_dev_target
                              bool read_from_hw, p4_pd_orbisk_switch_action_specs_t *out) {
   uint8_t data[kReadActionDataBytes];
   pd_action_record act;
-  std::memset(&act, 0, sizeof act);
+  zero_record(act);
   std::memset(data, 0, sizeof data);
   act.data_bytes = data;
   act.num_bytes = kReadActionDataBytes;
