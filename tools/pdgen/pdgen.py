@@ -47,7 +47,7 @@ def main():
     outputs["include/orbisk_switch/pd.h"] = header
     outputs["orbisk_model_tables.inc"] = emit_model.emit(prog)
     outputs.update(emit_lib.emit(prog))
-    outputs["roundtrip_tests.cpp"] = emit_tests.emit(prog)
+    outputs.update(emit_tests.emit(prog))
     if args.out:
         os.makedirs(args.out, exist_ok=True)
         for name, text in outputs.items():

@@ -3,8 +3,8 @@
  * for each resource.
  *
  * Generated from catalogue/ by tools/pdgen. Do not edit by hand: change the
- * catalogue, rebuild, and copy build/generated/pd.h over this file (a test
- * fails while the two differ).
+ * catalogue, rebuild, and copy build/generated/include/orbisk_switch/pd.h
+ * over this file (a test fails while the two differ).
  *
  * Conventions shared by every function below:
  *  - The result is the driver's status, unchanged (0 is BF_SUCCESS), except
