@@ -17,6 +17,13 @@ def fill_fields(var, members, seed):
     return o
 
 
+def entry_params(act):
+    """(bits, member, None) of an action spec filled to round-trip through an
+    entry: an index carried in a resource slot keeps 16 bits on an add."""
+    return [(min(p.bits, 16) if p.name == act.slot_only_param else p.bits, p.field, None)
+            for p in act.params]
+
+
 def key_members(t):
     """(bits, member, array length) of a key record filled to round-trip."""
     out = []
@@ -64,7 +71,7 @@ def emit_table(prog, t):
         if act.has_spec:
             o.append("    %s as;" % act.spec_type)
             o.append("    std::memset(&as, 0, sizeof as);")
-            o += ["  " + x for x in fill_fields("as", [(p.bits if p.name != act.slot_only_param else min(p.bits, 16), p.field, None) for p in act.params], seed + 50)]
+            o += ["  " + x for x in fill_fields("as", entry_params(act), seed + 50)]
         o.append("    pd_meter_spec meter = kMeter;")
         o.append("    (void)meter;")
         o.append("    pd_entry_hdl hdl = 0;")
@@ -92,7 +99,7 @@ def emit_table(prog, t):
         # Modify by handle, then by key, with new parameter values each time.
         for fam, s in (("table_modify_with", 100), ("table_modify_with_by_match_spec", 200)):
             if act.has_spec:
-                o += ["  " + x for x in fill_fields("as", [(p.bits if p.name != act.slot_only_param else min(p.bits, 16), p.field, None) for p in act.params], seed + s)]
+                o += ["  " + x for x in fill_fields("as", entry_params(act), seed + s)]
             o.append("    ASSERT_EQ(0u, %s);" % call(fns[(fam, a.name)], dict(base, entry_hdl="hdl")))
             o.append("    ASSERT_EQ(0u, %sget_entry(kSess, kDevice, hdl, false, &rb.ms, %snullptr, &rb.spec, nullptr, &rb.is_default));"
                      % (PREFIX + t.name + "_", "&rb.priority, " if t.ternary else ""))
