@@ -1,0 +1,79 @@
+#!/usr/bin/env python3
+"""Facts the catalogue of the compiled program must yield, read straight from
+the data files: a slip in a transcribed row shows up as a wrong count here."""
+
+import collections
+import glob
+import json
+import os
+import sys
+
+
+def main(root):
+    tables = []
+    for path in sorted(glob.glob(os.path.join(root, "catalogue", "*.json"))):
+        if not path.endswith("program.json"):
+            tables += json.load(open(path))["tables"]
+    program = json.load(open(os.path.join(root, "catalogue", "program.json")))
+    fields = [f for t in tables for f in t.get("fields", [])]
+    partners = [f for f in fields if f["match"] in ("ternary", "lpm")]
+    kinds = collections.Counter(t["match"] for t in tables)
+    pipes = collections.Counter(t["pipeline"] for t in tables)
+    facts = {
+        "tables": (len(tables), 154),
+        "pipeline A": (pipes["A"], 116),
+        "pipeline B": (pipes["B"], 38),
+        "keyed": (sum(1 for t in tables if t.get("fields")), 136),
+        "exact": (kinds["exact"], 82),
+        "ternary": (kinds["ternary"], 46),
+        "prefix": (kinds["prefix"], 5),
+        "partitioned prefix": (kinds["partitioned_prefix"], 3),
+        "keyless": (kinds["none"], 18),
+        "key fields": (len(fields), 487),
+        "key fields with partners": (len(fields) + len(partners), 738),
+        "actions": (len(program["actions"]), 296),
+        "distinct action names": (len(set(program["actions"])), 296),
+        "entry actions of direct tables": (
+            sum(1 for t in tables for a in t.get("actions", []) if "entry" in a["use"]), 367),
+        "default actions": (
+            sum(1 for t in tables for a in t.get("actions", []) if "default" in a["use"]), 171),
+        "idle-capable tables": (sum(1 for t in tables if "idle_timeout" in t.get("flags", [])), 17),
+        "indirect tables": (sum(1 for t in tables if "profile" in t), 6),
+        "profiles": (len(program["profiles"]), 6),
+        "profile actions": (sum(len(p["actions"]) for p in program["profiles"]), 15),
+        "counters": (len(program["counters"]), 17),
+        "meters": (len(program["meters"]), 4),
+    }
+    failed = [k for k, (got, want) in facts.items() if got != want]
+    for k in failed:
+        print("%s: %d, expected %d" % (k, facts[k][0], facts[k][1]))
+
+    # Handles: unique, in their pipeline's space, and every action's enum
+    # value names it in the enum.
+    handles = [int(t["handle"], 16) for t in tables]
+    if len(set(handles)) != len(handles):
+        print("duplicate table handles")
+        failed.append("handles")
+    for t in tables:
+        top = {"A": (0x0100, 0x2000), "B": (0x1101, 0x3000)}[t["pipeline"]]
+        if int(t["handle"], 16) >> 16 != top[0]:
+            print("table %s: handle outside pipeline %s" % (t["name"], t["pipeline"]))
+            failed.append(t["name"])
+        for a in t.get("actions", []):
+            if int(a["handle"], 16) >> 16 != top[1]:
+                print("%s/%s: action handle outside the table's space" % (t["name"], a["name"]))
+                failed.append(a["name"])
+            if program["actions"][a["enum"]] != a["name"]:
+                print("%s/%s: enum %d names %s" % (t["name"], a["name"], a["enum"],
+                                                   program["actions"][a["enum"]]))
+                failed.append(a["name"])
+    counters = [int(c["handle"], 16) for c in program["counters"]]
+    if len(set(counters)) != len(counters):
+        print("duplicate counter handles")
+        failed.append("counters")
+    print("catalogue: %d facts, %d failed" % (len(facts), len(failed)))
+    return 1 if failed else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(sys.argv[1]))
