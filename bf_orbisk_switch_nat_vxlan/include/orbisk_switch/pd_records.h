@@ -39,7 +39,7 @@ PD_STATIC_ASSERT(offsetof(pd_match_record, reserved) == 28, "reserved at 28");
 #define PD_METER_RATE_UNIT_BYTES 0u
 #define PD_METER_RATE_UNIT_PACKETS 1u
 
-/* The driver's form of a meter specification: widened rates, a unit each. */
+/* The driver's form of a meter's rates and bursts: widened, with a unit each. */
 typedef struct pd_meter_record {
   uint32_t meter_type;
   uint32_t reserved0;

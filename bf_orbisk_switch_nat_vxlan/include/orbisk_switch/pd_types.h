@@ -1,5 +1,5 @@
 /* Scalar types shared by every function of the orbisk_switch control-plane
- * interface: statuses, handles, device targets and the meter specification.
+ * interface: statuses, handles, device targets and meter settings.
  * Compiles as C11 and as C++. */
 #ifndef ORBISK_SWITCH_PD_TYPES_H
 #define ORBISK_SWITCH_PD_TYPES_H
@@ -45,11 +45,11 @@ typedef struct pd_dev_target {
 PD_STATIC_ASSERT(sizeof(pd_dev_target) == 8, "pd_dev_target is one 64-bit word");
 PD_STATIC_ASSERT(offsetof(pd_dev_target, dev_pipe_id) == 4, "pipe id in bits 32 to 47");
 
-/* Meter types of a meter specification. */
+/* Meter types of pd_meter_spec. */
 #define PD_METER_TYPE_COLOR_AWARE 0u
 #define PD_METER_TYPE_COLOR_UNAWARE 1u
 
-/* A meter specification as a caller gives it, in the meter's own unit. */
+/* A meter's rates and bursts as a caller gives them, in the meter's own unit. */
 typedef struct pd_meter_spec {
   uint32_t cir;        /* committed rate */
   uint32_t cburst;     /* committed burst */
