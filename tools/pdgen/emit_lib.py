@@ -241,6 +241,7 @@ def read_desc(prog, t):
           % (t.name, t.spec_type)) if t.keyed else "nullptr"
     um = ("[](const pd_match_record *k, void *m) { unbuild_mask_%s(k, static_cast<%s *>(m)); }"
           % (t.name, t.spec_type)) if (t.ternary or t.prefix) else "nullptr"
+    o.append("static_assert(%d <= kMaxKeyBytes, \"key of %s fits the read buffers\");" % (t.key_bytes, t.name))
     o.append("const TableRead kRead_%s = {%s, %d, %d, kActions_%s, %d, %s," % (
         t.name, hx(t.handle), t.key_bytes, t.key_bits, t.name, len(acts), spec))
     o.append("    %s," % uk)

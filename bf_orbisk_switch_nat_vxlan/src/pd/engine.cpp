@@ -102,8 +102,8 @@ pd_status read_entry(const TableRead &t, const char *function, pd_sess_hdl sess,
                      uint32_t device_id, pd_entry_hdl entry_hdl, bool read_from_hw,
                      void *match_spec, uint32_t *priority, char *action_name, void *action_spec,
                      p4_pd_orbisk_switch_action_names_t *action_enum, bool *is_default) {
-  uint8_t value[64];
-  uint8_t mask[64];
+  uint8_t value[kMaxKeyBytes];
+  uint8_t mask[kMaxKeyBytes];
   uint8_t data[kReadActionDataBytes];
   pd_match_record key;
   zero_record(key);

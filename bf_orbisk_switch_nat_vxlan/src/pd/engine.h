@@ -21,6 +21,10 @@ namespace orbisk::pd {
 // parameter string of the program, the same for every direct table.
 inline constexpr uint16_t kReadActionDataBytes = 28;
 
+// Room for the longest key of the program on a read; every table's key size
+// is checked against it where its read descriptor is generated.
+inline constexpr unsigned kMaxKeyBytes = 64;
+
 // Name of the source that assertions report.
 inline constexpr const char *kSourcePath = "bf_orbisk_switch_nat_vxlan/src/pd";
 
