@@ -121,6 +121,32 @@ TEST_F(Reads, DetachedIndexReadsAsSentinel) {
   EXPECT_EQ(0u, orbisk_model_live_allocations());
 }
 
+TEST_F(Reads, ResourceListIsMadeForSlotsAndFreed) {
+  // No slot: no list at all.
+  pd_entry_hdl h = add_l2(5);
+  ASSERT_EQ(0u, read_l2(h));
+  EXPECT_EQ(0u, orbisk_model_allocation_count());
+
+  // A detached slot still makes a list, empty, and it is freed.
+  p4_pd_orbisk_switch_egressMirrorRate_match_spec_t key{}, back{};
+  ASSERT_EQ(0u, p4_pd_orbisk_switch_egressMirrorRate_table_add_with_setEgressMirrorColorRed(sess, tgt, &key, &h));
+  ASSERT_EQ(0u, p4_pd_orbisk_switch_egressMirrorRate_get_entry(sess, 0, h, false, &back, nullptr, &spec, nullptr,
+                                                                &is_default));
+  EXPECT_EQ(1u, orbisk_model_allocation_count());
+  EXPECT_EQ(0u, orbisk_model_live_allocations());
+
+  // A default read of a table with a counter frees its list on success and
+  // keeps it when the action is unknown: a small loss accepted on that path.
+  p4_pd_orbisk_switch_action_specs_t rec{};
+  ASSERT_EQ(0u, p4_pd_orbisk_switch_l2DmacClassify_table_get_default_entry(sess, tgt, false, &rec));
+  EXPECT_EQ(p4_pd_orbisk_switch_onMiss, rec.name);
+  EXPECT_EQ(0u, orbisk_model_live_allocations());
+  orbisk_model_quirk_next_read(-1, 0x2000ffff);
+  EXPECT_EQ(15u, p4_pd_orbisk_switch_l2DmacClassify_table_get_default_entry(sess, tgt, false, &rec));
+  EXPECT_EQ(1u, orbisk_model_live_allocations());
+  EXPECT_EQ(3u, orbisk_model_allocation_count());
+}
+
 TEST_F(Reads, DriverFailureLeavesOutputsUntouched) {
   pd_entry_hdl h = add_l2(5);
   orbisk_model_fail("pipe_mgr_get_entry", 1, 0x777);

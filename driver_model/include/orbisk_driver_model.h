@@ -177,8 +177,12 @@ size_t orbisk_model_log_count(void);
 const char *orbisk_model_log_at(size_t i);
 void orbisk_model_clear_log(void);
 
-/* Blocks from bf_sys_calloc not yet given back with bf_sys_free. */
+/* Blocks from bf_sys_calloc not yet given back with bf_sys_free. A block
+ * still out at a reset stops being counted, but the model keeps track of it
+ * until it is freed. */
 size_t orbisk_model_live_allocations(void);
+/* Calls of bf_sys_calloc since the last reset. */
+size_t orbisk_model_allocation_count(void);
 
 /* -------------------------------------------------------- registration --- */
 

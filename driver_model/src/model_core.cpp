@@ -49,7 +49,9 @@ void Model::reset() {
   quirk_fn = -1;
   dbg_mode = 0;
   log_lines.clear();
+  retired_blocks.merge(live_blocks);
   live_blocks.clear();
+  allocations = 0;
   clients.clear();
   next_client = 1;
   for (auto &[ptr, state] : ms_states) state->devices.clear();
@@ -224,7 +226,12 @@ void orbisk_model_clear_log(void) {
 
 void *bf_sys_calloc(size_t count, size_t size) {
   void *p = std::calloc(count, size);
-  if (p != nullptr) locked([&](Model &m) { m.live_blocks.insert(p); });
+  if (p != nullptr) {
+    locked([&](Model &m) {
+      m.live_blocks.insert(p);
+      ++m.allocations;
+    });
+  }
   return p;
 }
 
@@ -232,12 +239,19 @@ void bf_sys_free(void *ptr) {
   if (ptr == nullptr) return;
   // A block given out before the last reset is no longer counted, but is
   // still the caller's to free.
-  locked([&](Model &m) { m.live_blocks.erase(ptr); });
+  locked([&](Model &m) {
+    m.live_blocks.erase(ptr);
+    m.retired_blocks.erase(ptr);
+  });
   std::free(ptr);
 }
 
 size_t orbisk_model_live_allocations(void) {
   return locked([](Model &m) { return m.live_blocks.size(); });
+}
+
+size_t orbisk_model_allocation_count(void) {
+  return locked([](Model &m) { return m.allocations; });
 }
 
 // --------------------------------------------------------- registration ---
