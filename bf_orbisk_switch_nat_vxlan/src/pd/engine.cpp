@@ -89,6 +89,14 @@ uint32_t resource_index_of(const pd_resource_index *list, uint32_t count, uint32
 
 namespace {
 
+// An empty action record that offers the driver room for any action's data.
+void offer_read_room(pd_action_record &act, uint8_t (&data)[kReadActionDataBytes]) {
+  zero_record(act);
+  std::memset(data, 0, sizeof data);
+  act.data_bytes = data;
+  act.num_bytes = kReadActionDataBytes;
+}
+
 const ActionRead *find_action(const TableRead &t, pd_act_fn_hdl fn) {
   for (unsigned i = 0; i < t.num_actions; ++i) {
     if (t.actions[i].handle == fn) return &t.actions[i];
@@ -116,10 +124,7 @@ pd_status read_entry(const TableRead &t, const char *function, pd_sess_hdl sess,
     key.num_bytes = t.key_bytes;
   }
   pd_action_record act;
-  zero_record(act);
-  std::memset(data, 0, sizeof data);
-  act.data_bytes = data;
-  act.num_bytes = kReadActionDataBytes;
+  offer_read_room(act, data);
 
   // A read covers every pipe of the device.
   pd_dev_target all_pipes{device_id, PD_DEV_PIPE_ALL};
@@ -145,16 +150,15 @@ pd_status read_entry(const TableRead &t, const char *function, pd_sess_hdl sess,
   }
 
   if (match_spec) {
-    if (key.value_bytes == nullptr || key.num_bytes == 0) {
-      *is_default = true;
+    // A default entry comes back without a key.
+    *is_default = key.value_bytes == nullptr || key.num_bytes == 0;
+    if (*is_default) {
       std::memset(match_spec, 0, t.match_spec_size);
-      if (priority) *priority = key.priority;
     } else {
-      *is_default = false;
       t.unbuild_key(&key, match_spec);
       if (t.unbuild_mask) t.unbuild_mask(&key, match_spec);
-      if (priority) *priority = key.priority;
     }
+    if (priority) *priority = key.priority;
   }
   if (list) bf_sys_free(list);
   return status;
@@ -164,10 +168,7 @@ pd_status read_default_entry(const TableRead &t, pd_sess_hdl sess, pd_dev_target
                              bool read_from_hw, p4_pd_orbisk_switch_action_specs_t *out) {
   uint8_t data[kReadActionDataBytes];
   pd_action_record act;
-  zero_record(act);
-  std::memset(data, 0, sizeof data);
-  act.data_bytes = data;
-  act.num_bytes = kReadActionDataBytes;
+  offer_read_room(act, data);
   pd_act_fn_hdl fn = 0;
   pd_status status =
       pipe_mgr_table_get_default_entry(sess, target, t.tbl, &act, &fn, read_from_hw, 1, 0);
