@@ -113,6 +113,8 @@ class Table:
         self.entry_priority = "entry_priority" in flags
         self.idle_timeout = "idle_timeout" in flags
         self.counter_labels = "counter_labels" in flags
+        # Entry adds pass the caller's idle time on to the driver.
+        self.ttl_on_add = "ttl_on_add" in flags
         self.profile_name = d.get("profile")
         off = 0
         self.fields = []

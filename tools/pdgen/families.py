@@ -45,8 +45,7 @@ def prio_arg(t):
 
 
 def ttl_arg(t, a):
-    # Only the learned-address table's two entry actions take an idle time.
-    return [("uint32_t", "ttl")] if t.name == "l2LearningLookup" and a.entry else []
+    return [("uint32_t", "ttl")] if t.ttl_on_add and a.entry else []
 
 
 def table_functions(t):

@@ -16,6 +16,7 @@ import sys
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 
 import catalogue  # noqa: E402
+import emit_descriptors  # noqa: E402
 import emit_header  # noqa: E402
 import emit_lib  # noqa: E402
 import emit_model  # noqa: E402
@@ -46,6 +47,7 @@ def main():
         write_if_changed(args.header, header)
     outputs["include/orbisk_switch/pd.h"] = header
     outputs["orbisk_model_tables.inc"] = emit_model.emit(prog)
+    outputs["pd_descriptors.cpp"] = emit_descriptors.emit(prog)
     outputs.update(emit_lib.emit(prog))
     outputs.update(emit_tests.emit(prog))
     if args.out:

@@ -1,0 +1,184 @@
+"""Emits pd_descriptors.cpp: the constant descriptors of every table, action,
+profile and resource (see descriptors.h), with host offsets taken by offsetof
+from the public header's records, and the dense index by table handle."""
+
+from catalogue import PREFIX
+
+FORMATS = {None: "Plain", "dec": "Dec", "port": "Port", "vport": "VPort", "mac": "Mac",
+           "v4addr": "V4Addr", "v6addr": "V6Addr"}
+KINDS = {"none": "None", "exact": "Exact", "ternary": "Ternary", "prefix": "Prefix",
+         "partitioned_prefix": "PartitionedPrefix"}
+FMATCH = {"exact": "Exact", "ternary": "Ternary", "lpm": "Lpm"}
+
+
+def hx(v):
+    return "0x%08xu" % v
+
+
+def mask_bytes(f):
+    v = int(f.static_mask, 16)
+    assert v < 1 << (8 * f.nbytes), f.name
+    return [(v >> (8 * (f.nbytes - 1 - i))) & 0xFF for i in range(f.nbytes)]
+
+
+def table_actions(t):
+    return t.profile.actions if t.indirect else t.actions
+
+
+def action_rows(name, acts, prog):
+    o = ["const TableActionDesc %s[] = {" % name]
+    for a in acts:
+        idx = -1
+        if a.index_param:
+            idx = [p.name for p in a.action.params].index(a.index_param)
+        o.append("    {&kActions[%d], %s, %s, %s, %d, %d}," % (
+            prog.enum_of[a.name], hx(a.handle), "true" if a.entry else "false",
+            "true" if a.default else "false", a.resource_tag, idx))
+    o.append("};")
+    return o
+
+
+def emit(prog):
+    o = ["// Generated from the catalogue. Do not edit.",
+         '#include "descriptors.h"', "", '#include "orbisk_switch/pd.h"', "",
+         "namespace orbisk::pd {", "namespace {", ""]
+    # Parameters of every action with any.
+    for a in prog.actions:
+        if not a.params:
+            continue
+        o.append("const ParamDesc kParams_%s[] = {" % a.name)
+        for p in a.params:
+            o.append('    {"%s", %d, %d, %d, offsetof(%s, %s), Format::%s},' % (
+                p.name, p.bits, p.nbytes, p.offset, a.spec_type, p.field, FORMATS[p.format]))
+        o.append("};")
+    o.append("")
+    # Key fields and static masks of every keyed table.
+    for t in prog.tables:
+        if not t.keyed:
+            continue
+        for f in t.fields:
+            if f.static_mask:
+                o.append("const uint8_t kMask_%s_%s[] = {%s};" % (
+                    t.name, f.name, ", ".join("0x%02x" % b for b in mask_bytes(f))))
+        o.append("const FieldDesc kFields_%s[] = {" % t.name)
+        for f in t.fields:
+            partner = "kNoOffset"
+            if f.match == "ternary":
+                partner = "offsetof(%s, %s_mask)" % (t.spec_type, f.name)
+            elif f.match == "lpm":
+                partner = "offsetof(%s, %s_prefix_length)" % (t.spec_type, f.name)
+            o.append('    {"%s", "%s", %d, %d, %d, offsetof(%s, %s), %s, FieldMatch::%s, Format::%s, %s, %s},' % (
+                f.name, f.schema, f.bits, f.nbytes, f.offset, t.spec_type, f.name, partner,
+                FMATCH[f.match], FORMATS[f.format], "true" if f.array else "false",
+                ("kMask_%s_%s" % (t.name, f.name)) if f.static_mask else "nullptr"))
+        o.append("};")
+    o.append("")
+    for t in prog.tables:
+        if not t.indirect:
+            o += action_rows("kTableActions_%s" % t.name, t.actions, prog)
+    for p in prog.profiles:
+        o += action_rows("kProfileActions_%s" % p.name, p.actions, prog)
+    o += ["", "}  // namespace", ""]
+
+    # Actions in enum order.
+    o.append("const ActionDesc kActions[] = {")
+    for a in prog.actions:
+        slot = -1
+        res = 0
+        if a.slot_only_param:
+            slot = [p.name for p in a.params].index(a.slot_only_param)
+            res = slot_resource_of(prog, a)
+        o.append('    {"%s", %d, %d, %d, %s, %d, %s, %d, %s},' % (
+            a.name, a.enum, a.data_bytes, a.data_bits,
+            ("sizeof(%s)" % a.spec_type) if a.params else "0", len(a.params),
+            ("kParams_%s" % a.name) if a.params else "nullptr", slot, hx(res)))
+    o.append("};")
+    o.append("const std::size_t kNumActions = %d;" % len(prog.actions))
+    o.append("")
+
+    res_names = list(prog.resources)
+    o.append("const ResourceDesc kResources[] = {")
+    for n in res_names:
+        r = prog.resources[n]
+        o.append('    {"%s", %s, ResourceKind::%s, %s, %s},' % (
+            r.name, hx(r.handle), "Meter" if r.is_meter else "Counter",
+            "true" if r.kind == "direct" else "false", "true" if r.unit == "packets" else "false"))
+    o.append("};")
+    o.append("const std::size_t kNumResources = %d;" % len(res_names))
+    o.append("")
+
+    table_index = {t.name: i for i, t in enumerate(prog.tables)}
+    o.append("const ProfileDesc kProfiles[] = {")
+    for p in prog.profiles:
+        o.append('    {"%s", %s, %s, %d, kProfileActions_%s, %d},' % (
+            p.name, hx(p.adt), hx(p.sel), len(p.actions), p.name, table_index[p.match_table]))
+    o.append("};")
+    o.append("const std::size_t kNumProfiles = %d;" % len(prog.profiles))
+    o.append("")
+
+    prof_index = {p.name: i for i, p in enumerate(prog.profiles)}
+    o.append("const TableDesc kTables[] = {")
+    for t in prog.tables:
+        acts = table_actions(t)
+        flags = []
+        if t.entry_priority:
+            flags.append("kEntryPriority")
+        if t.idle_timeout:
+            flags.append("kIdleTimeout")
+        if t.counter_labels:
+            flags.append("kCounterLabels")
+        if t.ttl_on_add:
+            flags.append("kTtlOnAdd")
+        lpm = next((i for i, f in enumerate(t.fields) if f.match == "lpm"), -1)
+        dflt = next((i for i, a in enumerate(acts) if a.default), 0)
+        o.append('    {"%s", %s, MatchKind::%s, \'%s\', %s, %d, %d, %d, %s, %d, %s, %d, %s, %d, %s, %s},' % (
+            t.name, hx(t.handle), KINDS[t.match], t.pipeline, " | ".join(flags) or "0", lpm,
+            t.key_bytes, t.key_bits, ("sizeof(%s)" % t.spec_type) if t.keyed else "0",
+            len(t.fields), ("kFields_%s" % t.name) if t.keyed else "nullptr", len(acts),
+            ("kProfileActions_%s" % t.profile.name) if t.indirect else ("kTableActions_%s" % t.name),
+            dflt,
+            ("&kResources[%d]" % res_names.index(t.resource)) if t.resource else "nullptr",
+            ("&kProfiles[%d]" % prof_index[t.profile.name]) if t.indirect else "nullptr"))
+    o.append("};")
+    o.append("const std::size_t kNumTables = %d;" % len(prog.tables))
+    o.append("")
+
+    # Dense index by handle: each pipeline's handles are a short run of low
+    # numbers above a fixed base.
+    bases = sorted({t.handle & 0xFFFF0000 for t in prog.tables})
+    o.append("namespace {")
+    o.append("constexpr uint8_t kNone = 0xFF;")
+    for b in bases:
+        ts = [(t.handle & 0xFFFF, table_index[t.name]) for t in prog.tables if t.handle & 0xFFFF0000 == b]
+        top = max(h for h, _ in ts) + 1
+        slots = ["kNone"] * top
+        for h, i in ts:
+            slots[h] = str(i)
+        o.append("const uint8_t kByHandle_%08x[%d] = {%s};" % (b, top, ", ".join(slots)))
+    o.append("}  // namespace")
+    o.append("")
+    o.append("const TableDesc *find_table(pd_tbl_hdl handle) {")
+    o.append("  uint8_t i = kNone;")
+    o.append("  switch (handle & 0xFFFF0000u) {")
+    for b in bases:
+        o.append("    case %s:" % hx(b))
+        o.append("      if ((handle & 0xFFFFu) < sizeof kByHandle_%08x) i = kByHandle_%08x[handle & 0xFFFFu];" % (b, b))
+        o.append("      break;")
+    o.append("    default:")
+    o.append("      break;")
+    o.append("  }")
+    o.append("  return i == kNone ? nullptr : &kTables[i];")
+    o.append("}")
+    o.append("")
+    assert len(prog.tables) < 0xFF
+    o.append("}  // namespace orbisk::pd")
+    o.append("")
+    return "\n".join(o)
+
+
+def slot_resource_of(prog, a):
+    """The resource handle that a slot-only parameter of this action names."""
+    hs = {t.name: ta for t in prog.direct_tables() for ta in t.actions if ta.name == a.name}
+    assert len(hs) == 1, a.name
+    ta = next(iter(hs.values()))
+    return prog.resources[ta.resource].handle
