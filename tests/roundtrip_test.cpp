@@ -7,6 +7,8 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <iomanip>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -59,11 +61,69 @@ struct Record {
     std::memset(words.data(), fill, words.size() * 8);
   }
   uint8_t *bytes() { return reinterpret_cast<uint8_t *>(words.data()); }
+  const uint8_t *bytes() const { return reinterpret_cast<const uint8_t *>(words.data()); }
   std::vector<uint64_t> words;
   std::size_t size;
 };
 
-bool same(const void *a, const void *b, std::size_t n) { return std::memcmp(a, b, n) == 0; }
+// Bytes of a host member: its value for a scalar, its bytes for an array.
+std::string shown(const uint8_t *at, std::size_t size, bool array) {
+  std::ostringstream os;
+  os << std::hex << "0x";
+  if (array) {
+    for (std::size_t i = 0; i < size; ++i) os << std::setw(2) << std::setfill('0') << unsigned(at[i]);
+  } else {
+    uint32_t v = 0;
+    std::memcpy(&v, at, size);  // little-endian host
+    os << v;
+  }
+  return os.str();
+}
+
+std::size_t host_size(unsigned bits) { return bits <= 8 ? 1 : bits <= 16 ? 2 : 4; }
+
+// One member of a record compared, named in the failure.
+bool differs(::testing::AssertionResult &r, const char *what, const std::string &name, const uint8_t *want,
+             const uint8_t *got, std::size_t size, bool array) {
+  if (std::memcmp(want, got, size) == 0) return false;
+  r = ::testing::AssertionFailure() << what << " " << name << ": wrote " << shown(want, size, array)
+                                    << ", read back " << shown(got, size, array);
+  return true;
+}
+
+// A key read back equals the key written: field by field, with its mask or
+// prefix length, then as a whole record.
+::testing::AssertionResult same_key(const TableDesc &t, const Record &want, const Record &got) {
+  auto r = ::testing::AssertionSuccess();
+  for (unsigned i = 0; i < t.num_fields; ++i) {
+    const FieldDesc &f = t.fields[i];
+    const std::size_t size = f.array ? f.bytes : host_size(f.bits);
+    if (differs(r, "key field", f.name, want.bytes() + f.host_offset, got.bytes() + f.host_offset, size, f.array))
+      return r;
+    if (f.match == FieldMatch::Exact) continue;
+    const bool lpm = f.match == FieldMatch::Lpm;
+    if (differs(r, "key field", std::string(f.name) + (lpm ? "_prefix_length" : "_mask"),
+                want.bytes() + f.partner_offset, got.bytes() + f.partner_offset, lpm ? 2 : size, f.array && !lpm))
+      return r;
+  }
+  if (std::memcmp(want.bytes(), got.bytes(), want.size) != 0)
+    return ::testing::AssertionFailure() << "the key records differ outside their fields";
+  return r;
+}
+
+// Parameters read back equal those written.
+::testing::AssertionResult same_params(const ActionDesc &a, const Record &want, const void *got) {
+  auto r = ::testing::AssertionSuccess();
+  const auto *g = static_cast<const uint8_t *>(got);
+  for (unsigned i = 0; i < a.num_params; ++i) {
+    const auto &p = a.params[i];
+    if (differs(r, "parameter", p.name, want.bytes() + p.host_offset, g + p.host_offset, host_size(p.bits), false))
+      return r;
+  }
+  if (std::memcmp(want.bytes(), g, want.size) != 0)
+    return ::testing::AssertionFailure() << "the action specs differ outside their parameters";
+  return r;
+}
 
 // A key that stands on its own: each field set within its width, ternary
 // masks all ones within it, prefixes at full length.
@@ -114,7 +174,7 @@ struct Readback {
 
 std::string full_name(const ActionDesc &a) { return std::string("p4_pd_orbisk_switch_") + a.name; }
 
-class RoundTrip : public ::testing::TestWithParam<const TableRow *> {
+class RoundTrip : public ::testing::TestWithParam<TableRow> {
  protected:
   void SetUp() override {
     orbisk_model_reset();
@@ -169,14 +229,14 @@ void RoundTrip::entry_round_trip(const TableRow &row, const ActionRow &ar, unsig
 
   c.entry_hdl = hdl;
   ASSERT_EQ(BF_SUCCESS, row.get_entry(c));
-  EXPECT_TRUE(same(rb.ms.bytes(), ms.bytes(), ms.size)) << "key read back";
+  EXPECT_TRUE(same_key(t, ms, rb.ms)) << "after the add";
   EXPECT_EQ(full_name(a), rb.name);
   EXPECT_EQ(a.enum_value, uint32_t(rb.action));
   EXPECT_FALSE(rb.is_default);
   if (t.ternary()) {
     EXPECT_EQ(kPriority, rb.priority);
   }
-  EXPECT_TRUE(same(&rb.spec, as.bytes(), as.size)) << "parameters read back after the add";
+  EXPECT_TRUE(same_params(a, as, &rb.spec)) << "after the add";
 
   pd_entry_hdl found = 0;
   c.entry_hdl_out = &found;
@@ -196,8 +256,8 @@ void RoundTrip::entry_round_trip(const TableRow &row, const ActionRow &ar, unsig
     c.action_name = nullptr;
     c.action_enum = nullptr;
     ASSERT_EQ(BF_SUCCESS, row.get_entry(c)) << m.what;
-    EXPECT_TRUE(same(&rb.spec, as.bytes(), as.size)) << "parameters read back after " << m.what;
-    EXPECT_TRUE(same(rb.ms.bytes(), ms.bytes(), ms.size)) << "key read back after " << m.what;
+    EXPECT_TRUE(same_params(a, as, &rb.spec)) << "after " << m.what;
+    EXPECT_TRUE(same_key(t, ms, rb.ms)) << "after " << m.what;
   }
 
   ASSERT_EQ(BF_SUCCESS, delete_by_key ? row.table_delete_by_match_spec(c) : row.table_delete(c));
@@ -228,7 +288,7 @@ void RoundTrip::default_round_trip(const TableRow &row, const ActionRow &ar, uns
 
   ASSERT_EQ(BF_SUCCESS, row.table_get_default_entry(c));
   EXPECT_EQ(a.enum_value, uint32_t(rec.name));
-  EXPECT_TRUE(same(&rec.u, as.bytes(), as.size)) << "parameters of the default read back";
+  EXPECT_TRUE(same_params(a, as, &rec.u)) << "of the default";
 
   // The default entry read through get_entry says it is one.
   c.entry_hdl = dflt;
@@ -247,7 +307,7 @@ const TableActionDesc *use_of(const TableDesc &t, const ActionDesc *a) {
 }
 
 TEST_P(RoundTrip, EveryActionAndDefault) {
-  const TableRow &row = *GetParam();
+  const TableRow &row = GetParam();
   const TableDesc &t = *row.table;
   ASSERT_EQ(&t, orbisk::pd::find_table(t.handle));
   ASSERT_EQ(t.keyed(), row.table_delete != nullptr);
@@ -287,16 +347,12 @@ TEST(RoundTripRows, EveryDirectTableHasOneInCatalogueOrder) {
   EXPECT_EQ(n, kNumTableRows);
 }
 
-std::vector<const TableRow *> all_rows() {
-  std::vector<const TableRow *> rows;
-  for (std::size_t i = 0; i < kNumTableRows; ++i) rows.push_back(&kTableRows[i]);
-  return rows;
-}
-
-INSTANTIATE_TEST_SUITE_P(Catalogue, RoundTrip, ::testing::ValuesIn(all_rows()),
-                         [](const ::testing::TestParamInfo<const TableRow *> &info) {
-                           return std::string(info.param->table->name);
-                         });
+INSTANTIATE_TEST_SUITE_P(Catalogue, RoundTrip, ::testing::ValuesIn(kTableRows, kTableRows + kNumTableRows),
+                         [](const ::testing::TestParamInfo<TableRow> &info) { return std::string(info.param.table->name); });
 
 }  // namespace
+
+// A row shows as its table in gtest's messages.
+void PrintTo(const TableRow &row, std::ostream *os) { *os << row.table->name; }
+
 }  // namespace roundtrip
