@@ -83,8 +83,8 @@ std::string shown(const uint8_t *at, std::size_t size, bool array) {
 std::size_t host_size(unsigned bits) { return bits <= 8 ? 1 : bits <= 16 ? 2 : 4; }
 
 // One member of a record compared, named in the failure.
-bool differs(::testing::AssertionResult &r, const char *what, const std::string &name, const uint8_t *want,
-             const uint8_t *got, std::size_t size, bool array) {
+bool differs(::testing::AssertionResult &r, const char *what, const std::string &name,
+             const uint8_t *want, const uint8_t *got, std::size_t size, bool array) {
   if (std::memcmp(want, got, size) == 0) return false;
   r = ::testing::AssertionFailure() << what << " " << name << ": wrote " << shown(want, size, array)
                                     << ", read back " << shown(got, size, array);
@@ -98,12 +98,13 @@ bool differs(::testing::AssertionResult &r, const char *what, const std::string 
   for (unsigned i = 0; i < t.num_fields; ++i) {
     const FieldDesc &f = t.fields[i];
     const std::size_t size = f.array ? f.bytes : host_size(f.bits);
-    if (differs(r, "key field", f.name, want.bytes() + f.host_offset, got.bytes() + f.host_offset, size, f.array))
-      return r;
+    const std::size_t at = f.host_offset;
+    if (differs(r, "key field", f.name, want.bytes() + at, got.bytes() + at, size, f.array)) return r;
     if (f.match == FieldMatch::Exact) continue;
     const bool lpm = f.match == FieldMatch::Lpm;
+    const std::size_t pat = f.partner_offset;
     if (differs(r, "key field", std::string(f.name) + (lpm ? "_prefix_length" : "_mask"),
-                want.bytes() + f.partner_offset, got.bytes() + f.partner_offset, lpm ? 2 : size, f.array && !lpm))
+                want.bytes() + pat, got.bytes() + pat, lpm ? 2 : size, f.array && !lpm))
       return r;
   }
   if (std::memcmp(want.bytes(), got.bytes(), want.size) != 0)
@@ -117,8 +118,8 @@ bool differs(::testing::AssertionResult &r, const char *what, const std::string 
   const auto *g = static_cast<const uint8_t *>(got);
   for (unsigned i = 0; i < a.num_params; ++i) {
     const auto &p = a.params[i];
-    if (differs(r, "parameter", p.name, want.bytes() + p.host_offset, g + p.host_offset, host_size(p.bits), false))
-      return r;
+    const std::size_t at = p.host_offset;
+    if (differs(r, "parameter", p.name, want.bytes() + at, g + at, host_size(p.bits), false)) return r;
   }
   if (std::memcmp(want.bytes(), g, want.size) != 0)
     return ::testing::AssertionFailure() << "the action specs differ outside their parameters";
@@ -163,7 +164,9 @@ void fill_params(const ActionDesc &a, Record &as, unsigned seed, bool on_add) {
 
 // What get_entry writes, preset to values it must overwrite.
 struct Readback {
-  explicit Readback(const TableDesc &t) : ms(t.match_spec_size, 0xEE) { std::memset(&spec, 0, sizeof spec); }
+  explicit Readback(const TableDesc &t) : ms(t.match_spec_size, 0xEE) {
+    std::memset(&spec, 0, sizeof spec);
+  }
   Record ms;
   uint32_t priority = 0;
   char name[P4_PD_ORBISK_SWITCH_ACTION_NAME_MAX] = {};
@@ -208,7 +211,8 @@ class RoundTrip : public ::testing::TestWithParam<TableRow> {
   void default_round_trip(const TableRow &row, const ActionRow &ar, unsigned seed);
 };
 
-void RoundTrip::entry_round_trip(const TableRow &row, const ActionRow &ar, unsigned seed, bool delete_by_key) {
+void RoundTrip::entry_round_trip(const TableRow &row, const ActionRow &ar, unsigned seed,
+                                 bool delete_by_key) {
   const TableDesc &t = *row.table;
   const ActionDesc &a = *ar.action;
   ASSERT_TRUE(ar.table_add_with && ar.table_modify_with && ar.table_modify_with_by_match_spec);
@@ -253,6 +257,7 @@ void RoundTrip::entry_round_trip(const TableRow &row, const ActionRow &ar, unsig
   for (const auto &m : modifies) {
     fill_params(a, as, m.seed, false);
     ASSERT_EQ(BF_SUCCESS, m.modify(c)) << m.what;
+    // Read back without asking for the name or the enum, as a caller may.
     c.action_name = nullptr;
     c.action_enum = nullptr;
     ASSERT_EQ(BF_SUCCESS, row.get_entry(c)) << m.what;
@@ -295,6 +300,7 @@ void RoundTrip::default_round_trip(const TableRow &row, const ActionRow &ar, uns
   ASSERT_EQ(BF_SUCCESS, row.get_entry(c));
   if (t.keyed()) {
     EXPECT_TRUE(rb.is_default);
+    EXPECT_TRUE(same_key(t, Record(t.match_spec_size), rb.ms)) << "a default entry has no key";
   }
   EXPECT_EQ(full_name(a), rb.name);
   ASSERT_EQ(BF_SUCCESS, row.table_reset_default_entry(c));
@@ -348,7 +354,9 @@ TEST(RoundTripRows, EveryDirectTableHasOneInCatalogueOrder) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Catalogue, RoundTrip, ::testing::ValuesIn(kTableRows, kTableRows + kNumTableRows),
-                         [](const ::testing::TestParamInfo<TableRow> &info) { return std::string(info.param.table->name); });
+                         [](const ::testing::TestParamInfo<TableRow> &info) {
+                           return std::string(info.param.table->name);
+                         });
 
 }  // namespace
 
