@@ -1,69 +1,86 @@
-// Shared pieces of the catalogue-wide round trip: a fixture that starts the
-// library on a fresh driver model, and values that stay inside a field.
+// The catalogue-wide round trip as data: one row per direct table and one per
+// (table, action), each holding small generated thunks that call one exported
+// function with its arguments taken from a common `Call` record. The sweep
+// over the rows is written once, in roundtrip_test.cpp, and fills and
+// compares records from the program's descriptors.
 #pragma once
 
-#include <gtest/gtest.h>
-
+#include <cstddef>
 #include <cstdint>
-#include <cstring>
 
-#include "orbisk_driver_model.h"
+#include "descriptors.h"
 #include "orbisk_switch/pd.h"
 
-inline constexpr pd_sess_hdl kSess = 7;
-inline constexpr uint32_t kDevice = 0;
-inline constexpr pd_dev_target kTarget = {kDevice, PD_DEV_PIPE_ALL};
-inline constexpr uint32_t kPriority = 11;
-inline constexpr uint32_t kTtl = 3000;
-inline constexpr pd_meter_spec kMeter = {1000, 200, 2000, 400, PD_METER_TYPE_COLOR_AWARE};
+namespace roundtrip {
 
-class RoundTrip : public ::testing::Test {
- protected:
-  void SetUp() override {
-    orbisk_model_reset();
-    p4_pd_orbisk_switch_init();
-  }
-  void TearDown() override {
-    EXPECT_EQ(0u, p4_pd_orbisk_switch_cleanup());
-    EXPECT_EQ(0u, orbisk_model_live_allocations()) << "a read left its resource list behind";
-  }
+// A record pointer whose type the called function decides: a thunk passes
+// it where the function takes its own match or action spec, and it converts
+// to exactly that pointer type. The sweep sizes the record from the
+// descriptors.
+struct In {
+  const void *p = nullptr;
+  template <typename T>
+  operator const T *() const { return static_cast<const T *>(p); }
+};
+struct Out {
+  void *p = nullptr;
+  template <typename T>
+  operator T *() const { return static_cast<T *>(p); }
 };
 
-// A value of `bits` bits (never all zero) that differs with the seed.
-template <typename T>
-T pattern(unsigned bits, unsigned seed) {
-  uint32_t v = (seed * 0x9E3779B1u) ^ (seed << 7) ^ 0x5A5A5A5Au;
-  if (bits < 32) v &= (1u << bits) - 1;
-  if (v == 0) v = 1;
-  return T(v);
-}
-
-template <typename T>
-T ones(unsigned bits) {
-  return T(bits >= 32 ? 0xFFFFFFFFu : (1u << bits) - 1);
-}
-
-inline void fill_bytes(uint8_t *p, unsigned n, unsigned seed) {
-  for (unsigned i = 0; i < n; ++i) p[i] = uint8_t(seed * 31 + i * 7 + 1);
-}
-
-template <typename MatchSpec>
-struct Readback {
-  MatchSpec ms;
+// Every argument any function of the sweep takes, named as the functions
+// name them. A thunk reads only the ones its function has.
+struct Call {
+  pd_sess_hdl sess_hdl = 0;
+  pd_dev_target dev_tgt = {0, PD_DEV_PIPE_ALL};
+  uint32_t dev_id = 0;
+  In match_spec;
+  Out match_spec_out;          // get_entry writes the key here
   uint32_t priority = 0;
-  char name[P4_PD_ORBISK_SWITCH_ACTION_NAME_MAX] = {};
-  p4_pd_orbisk_switch_action_spec_u spec;
-  p4_pd_orbisk_switch_action_names_t action = P4_PD_ORBISK_SWITCH_ACTION_COUNT;
-  bool is_default = true;
-  Readback() {
-    std::memset(&ms, 0xEE, sizeof ms);
-    std::memset(&spec, 0, sizeof spec);
-  }
+  uint32_t *priority_out = nullptr;
+  In action_spec;
+  const pd_meter_spec *meter_spec = nullptr;
+  uint32_t ttl = 0;
+  pd_entry_hdl entry_hdl = 0;
+  pd_entry_hdl *entry_hdl_out = nullptr;
+  uint32_t *count = nullptr;
+  bool read_from_hw = false;
+  char *action_name = nullptr;
+  p4_pd_orbisk_switch_action_spec_u *action_spec_out = nullptr;
+  p4_pd_orbisk_switch_action_names_t *action_enum = nullptr;
+  bool *is_default = nullptr;
+  pd_default_action_record *default_out = nullptr;
 };
 
-struct KeylessReadback {
-  char name[P4_PD_ORBISK_SWITCH_ACTION_NAME_MAX] = {};
-  p4_pd_orbisk_switch_action_spec_u spec;
-  p4_pd_orbisk_switch_action_names_t action = P4_PD_ORBISK_SWITCH_ACTION_COUNT;
-  KeylessReadback() { std::memset(&spec, 0, sizeof spec); }
+using Thunk = pd_status (*)(const Call &);
+
+// An action as one table uses it. Null thunks for the uses it does not have
+// (an action only ever a default has no add).
+struct ActionRow {
+  const orbisk::pd::ActionDesc *action;
+  Thunk table_add_with = nullptr;
+  Thunk table_modify_with = nullptr;
+  Thunk table_modify_with_by_match_spec = nullptr;
+  Thunk set_default_action = nullptr;
 };
+
+// A direct table; the key operations are null for a keyless table.
+struct TableRow {
+  const orbisk::pd::TableDesc *table;
+  const ActionRow *actions;
+  std::size_t num_actions;
+  Thunk get_entry_count = nullptr;
+  Thunk get_entry = nullptr;
+  Thunk match_spec_to_entry_hdl = nullptr;
+  Thunk table_delete = nullptr;
+  Thunk table_delete_by_match_spec = nullptr;
+  Thunk table_get_default_entry = nullptr;
+  Thunk table_get_default_entry_handle = nullptr;
+  Thunk table_reset_default_entry = nullptr;
+};
+
+// Generated: every direct table in catalogue order.
+extern const TableRow kTableRows[];
+extern const std::size_t kNumTableRows;
+
+}  // namespace roundtrip

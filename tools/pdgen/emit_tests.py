@@ -1,170 +1,93 @@
-"""Emits the catalogue-wide round-trip test: for every direct table and every
-action it allows, an entry goes through the driver model and comes back in
-host form, by handle and by key, and every default action is set and read."""
+"""Emits roundtrip_rows.cpp, the rows of the catalogue-wide round trip: for
+every direct table, and every action it allows, one-line thunks that call each
+exported function the sweep uses with its arguments taken from a common
+`Call` record (tests/roundtrip_support.h). The sweep itself, which fills,
+calls and compares from the descriptors, is hand-written
+(tests/roundtrip_test.cpp)."""
 
 import families
-from catalogue import AREA_FILES, PREFIX
+
+# Families the sweep calls, in the order of the members of TableRow and
+# ActionRow that hold their thunks.
+TABLE_FAMILIES = ["get_entry_count", "get_entry", "match_spec_to_entry_hdl", "table_delete",
+                  "table_delete_by_match_spec", "table_get_default_entry",
+                  "table_get_default_entry_handle", "table_reset_default_entry"]
+ACTION_FAMILIES = ["table_add_with", "table_modify_with", "table_modify_with_by_match_spec",
+                   "set_default_action"]
+
+# Call members by (C type, argument name), for arguments of one type everywhere.
+CALL_MEMBERS = {
+    ("pd_sess_hdl", "sess_hdl"): "sess_hdl",
+    ("pd_dev_target", "dev_tgt"): "dev_tgt",
+    ("uint32_t", "dev_id"): "dev_id",
+    ("uint32_t", "priority"): "priority",
+    ("uint32_t *", "priority"): "priority_out",
+    ("const pd_meter_spec *", "stormControlMeter_spec"): "meter_spec",
+    ("uint32_t", "ttl"): "ttl",
+    ("pd_entry_hdl", "entry_hdl"): "entry_hdl",
+    ("pd_entry_hdl *", "entry_hdl"): "entry_hdl_out",
+    ("uint32_t *", "count"): "count",
+    ("bool", "read_from_hw"): "read_from_hw",
+    ("char *", "action_name"): "action_name",
+    ("p4_pd_orbisk_switch_action_spec_u *", "action_spec"): "action_spec_out",
+    ("pd_default_action_record *", "action_spec"): "default_out",
+    ("p4_pd_orbisk_switch_action_names_t *", "action_enum"): "action_enum",
+    ("bool *", "is_default"): "is_default",
+}
 
 
-def fill_fields(var, members, seed):
-    """Calls that fill a host record with values inside each field's width."""
-    o = []
-    for i, (bits, name, array) in enumerate(members):
-        if array:
-            o.append("  fill_bytes(%s.%s, %d, %s + %d);" % (var, name, array, seed, i))
-        else:
-            o.append("  %s.%s = pattern<decltype(%s.%s)>(%d, %s + %d);" % (var, name, var, name, bits, seed, i))
-    return o
+def call_member(ctype, name):
+    """The Call member passed for one argument. A table's or an action's own
+    record goes through In/Out, which take the function's pointer type."""
+    if name == "match_spec":
+        return "match_spec" if ctype.startswith("const ") else "match_spec_out"
+    if name == "action_spec" and ctype.endswith("_action_spec_t *"):
+        return "action_spec"
+    member = CALL_MEMBERS.get((ctype, name))
+    assert member, "the round trip has no Call member for %s %s" % (ctype, name)
+    return member
 
 
-def entry_params(act):
-    """(bits, member, None) of an action spec filled to round-trip through an
-    entry: an index carried in a resource slot keeps 16 bits on an add."""
-    return [(min(p.bits, 16) if p.name == act.slot_only_param else p.bits, p.field, None)
-            for p in act.params]
+def thunk(f):
+    return "[](const Call &c) { return %s(%s); }" % (
+        f.name, ", ".join("c." + call_member(t, n) for t, n in f.args))
 
 
-def key_members(t):
-    """(bits, member, array length) of a key record filled to round-trip."""
-    out = []
-    for f in t.host_fields:
-        out.append((f.bits, f.name, f.nbytes if f.array else None))
-    return out
-
-
-def key_partners(t):
-    """Mask and prefix members set so that nothing is cut on the way."""
-    o = []
-    for f in t.host_fields:
-        if f.match == "ternary":
-            if f.array:
-                o.append("  std::memset(ms.%s_mask, 0xFF, %d);" % (f.name, f.nbytes))
-            else:
-                o.append("  ms.%s_mask = ones<decltype(ms.%s_mask)>(%d);" % (f.name, f.name, f.bits))
-        elif f.match == "lpm":
-            o.append("  ms.%s_prefix_length = %d;" % (f.name, f.bits))
-    return o
-
-
-def call(f, values):
-    return "%s(%s)" % (f.name, ", ".join(values[n] for _, n in f.args))
-
-
-def emit_table(prog, t):
-    fns = {(f.family, f.action.name if f.action else None): f for f in families.table_functions(t)}
-    o = ["TEST_F(RoundTrip, %s) {" % t.name]
-    keyed = t.keyed
-    seed = 1
-    base = {"sess_hdl": "kSess", "dev_tgt": "kTarget", "dev_id": "kDevice", "match_spec": "&ms",
-            "priority": "kPriority", "action_spec": "&as", "stormControlMeter_spec": "&meter",
-            "ttl": "kTtl", "entry_hdl": "&hdl", "count": "&count"}
-    for a in t.actions:
-        if not a.entry:
-            continue
-        act = a.action
-        o.append("  {  // %s" % a.name)
-        o.append("    SCOPED_TRACE(\"%s\");" % a.name)
-        o.append("    %s ms;" % t.spec_type)
-        o.append("    std::memset(&ms, 0, sizeof ms);")
-        o += ["  " + x for x in fill_fields("ms", key_members(t), seed)]
-        o += ["  " + x for x in key_partners(t)]
-        if act.has_spec:
-            o.append("    %s as;" % act.spec_type)
-            o.append("    std::memset(&as, 0, sizeof as);")
-            o += ["  " + x for x in fill_fields("as", entry_params(act), seed + 50)]
-        o.append("    pd_meter_spec meter = kMeter;")
-        o.append("    (void)meter;")
-        o.append("    pd_entry_hdl hdl = 0;")
-        o.append("    ASSERT_EQ(0u, %s);" % call(fns[("table_add_with", a.name)], base))
-        o.append("    uint32_t count = 0;")
-        o.append("    ASSERT_EQ(0u, %s);" % call(fns[("get_entry_count", None)], base))
-        o.append("    EXPECT_EQ(1u, count);")
-        # Read back.
-        o.append("    Readback<%s> rb;" % t.spec_type)
-        o.append("    ASSERT_EQ(0u, %sget_entry(kSess, kDevice, hdl, false, &rb.ms, %srb.name, &rb.spec, &rb.action, &rb.is_default));"
-                 % (PREFIX + t.name + "_", "&rb.priority, " if t.ternary else ""))
-        o.append("    EXPECT_EQ(0, std::memcmp(&rb.ms, &ms, sizeof ms));")
-        o.append("    EXPECT_STREQ(\"%s%s\", rb.name);" % (PREFIX, a.name))
-        o.append("    EXPECT_EQ(%d, int(rb.action));" % act.enum)
-        o.append("    EXPECT_FALSE(rb.is_default);")
-        if t.ternary:
-            o.append("    EXPECT_EQ(kPriority, rb.priority);")
-        if act.has_spec:
-            o.append("    EXPECT_EQ(0, std::memcmp(&rb.spec.%s, &as, sizeof as));" % a.name)
-        # Find by key.
-        o.append("    pd_entry_hdl found = 0;")
-        b2 = dict(base, entry_hdl="&found")
-        o.append("    ASSERT_EQ(0u, %s);" % call(fns[("match_spec_to_entry_hdl", None)], b2))
-        o.append("    EXPECT_EQ(hdl, found);")
-        # Modify by handle, then by key, with new parameter values each time.
-        for fam, s in (("table_modify_with", 100), ("table_modify_with_by_match_spec", 200)):
-            if act.has_spec:
-                o += ["  " + x for x in fill_fields("as", entry_params(act), seed + s)]
-            o.append("    ASSERT_EQ(0u, %s);" % call(fns[(fam, a.name)], dict(base, entry_hdl="hdl")))
-            o.append("    ASSERT_EQ(0u, %sget_entry(kSess, kDevice, hdl, false, &rb.ms, %snullptr, &rb.spec, nullptr, &rb.is_default));"
-                     % (PREFIX + t.name + "_", "&rb.priority, " if t.ternary else ""))
-            if act.has_spec:
-                o.append("    EXPECT_EQ(0, std::memcmp(&rb.spec.%s, &as, sizeof as)) << \"%s\";" % (a.name, fam))
-            o.append("    EXPECT_EQ(0, std::memcmp(&rb.ms, &ms, sizeof ms));")
-        # Delete by key on odd actions, by handle on even ones.
-        if seed % 2:
-            o.append("    ASSERT_EQ(0u, %s);" % call(fns[("table_delete_by_match_spec", None)], base))
-        else:
-            o.append("    ASSERT_EQ(0u, %s);" % call(fns[("table_delete", None)], dict(base, entry_hdl="hdl")))
-        o.append("    ASSERT_EQ(0u, %s);" % call(fns[("get_entry_count", None)], base))
-        o.append("    EXPECT_EQ(0u, count);")
-        o.append("    EXPECT_NE(0u, %s);" % call(fns[("match_spec_to_entry_hdl", None)], b2))
-        o.append("  }")
-        seed += 1
-    for a in t.actions:
-        if not a.default:
-            continue
-        act = a.action
-        o.append("  {  // default %s" % a.name)
-        o.append("    SCOPED_TRACE(\"default %s\");" % a.name)
-        if act.has_spec:
-            o.append("    %s as;" % act.spec_type)
-            o.append("    std::memset(&as, 0, sizeof as);")
-            o += ["  " + x for x in fill_fields("as", [(p.bits, p.field, None) for p in act.params], seed + 300)]
-        o.append("    pd_meter_spec meter = kMeter;")
-        o.append("    (void)meter;")
-        o.append("    pd_entry_hdl hdl = 0;")
-        o.append("    ASSERT_EQ(0u, %s);" % call(fns[("set_default_action", a.name)], base))
-        o.append("    pd_entry_hdl dflt = 0;")
-        o.append("    ASSERT_EQ(0u, %s);" % call(fns[("table_get_default_entry_handle", None)], dict(base, entry_hdl="&dflt")))
-        o.append("    EXPECT_EQ(hdl, dflt);")
-        o.append("    pd_default_action_record rec;")
-        o.append("    std::memset(&rec, 0, sizeof rec);")
-        o.append("    ASSERT_EQ(0u, %stable_get_default_entry(kSess, kTarget, false, &rec));" % (PREFIX + t.name + "_"))
-        o.append("    EXPECT_EQ(%d, int(rec.name));" % act.enum)
-        if act.has_spec:
-            o.append("    EXPECT_EQ(0, std::memcmp(&rec.u.%s, &as, sizeof as));" % a.name)
-        # The default entry read through get_entry says so.
-        if keyed:
-            o.append("    Readback<%s> rb;" % t.spec_type)
-            o.append("    ASSERT_EQ(0u, %sget_entry(kSess, kDevice, dflt, false, &rb.ms, %srb.name, &rb.spec, &rb.action, &rb.is_default));"
-                     % (PREFIX + t.name + "_", "&rb.priority, " if t.ternary else ""))
-            o.append("    EXPECT_TRUE(rb.is_default);")
-        else:
-            o.append("    KeylessReadback rb;")
-            o.append("    ASSERT_EQ(0u, %sget_entry(kSess, kDevice, dflt, false, rb.name, &rb.spec, &rb.action));"
-                     % (PREFIX + t.name + "_"))
-        o.append("    EXPECT_STREQ(\"%s%s\", rb.name);" % (PREFIX, a.name))
-        o.append("    ASSERT_EQ(0u, %stable_reset_default_entry(kSess, kTarget));" % (PREFIX + t.name + "_"))
-        o.append("  }")
-        seed += 1
-    o.append("}")
-    o.append("")
-    return o
+def emit_table(index, enum_of, t):
+    fns = families.table_functions(t)
+    per_table = {f.family: f for f in fns if f.family in TABLE_FAMILIES}
+    per_action = {}
+    for f in fns:
+        if f.family in ACTION_FAMILIES:
+            per_action.setdefault(f.action.name, {})[f.family] = f
+    o = ["// %s" % t.name, "const ActionRow kActions_%s[] = {" % t.name]
+    for name, fs in per_action.items():
+        o.append("    {.action = &kActions[%d],  // %s" % (enum_of[name], name))
+        o += ["     .%s = %s," % (fam, thunk(fs[fam])) for fam in ACTION_FAMILIES if fam in fs]
+        o.append("    },")
+    o.append("};")
+    row = ["    {.table = &kTables[%d],  // %s" % (index, t.name),
+           "     .actions = kActions_%s," % t.name,
+           "     .num_actions = %d," % len(per_action)]
+    row += ["     .%s = %s," % (fam, thunk(per_table[fam])) for fam in TABLE_FAMILIES if fam in per_table]
+    row.append("    },")
+    return o, row
 
 
 def emit(prog):
-    """One source per area, so that the test build runs in parallel."""
-    out = {}
-    for area in AREA_FILES:
-        o = ["// Generated from the catalogue. Do not edit.", '#include "roundtrip_support.h"', ""]
-        for t in prog.direct_tables():
-            if t.area_file == area:
-                o += emit_table(prog, t)
-        out["roundtrip_tests_%s.cpp" % area] = "\n".join(o)
-    return out
+    o = ["// Generated from the catalogue. Do not edit.",
+         '#include "roundtrip_support.h"', "",
+         "namespace roundtrip {", "namespace {", "",
+         "using orbisk::pd::kActions;", "using orbisk::pd::kTables;", ""]
+    rows = []
+    enum_of = {a.name: a.enum for a in prog.actions}
+    for i, t in enumerate(prog.tables):
+        if t.indirect:
+            continue
+        actions, row = emit_table(i, enum_of, t)
+        o += actions + [""]
+        rows += row
+    o += ["}  // namespace", "", "const TableRow kTableRows[] = {"] + rows + ["};"]
+    o.append("const std::size_t kNumTableRows = %d;" % len(prog.direct_tables()))
+    o += ["", "}  // namespace roundtrip", ""]
+    return {"roundtrip_rows.cpp": "\n".join(o)}
