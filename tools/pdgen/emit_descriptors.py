@@ -87,7 +87,7 @@ def emit(prog):
         res = 0
         if a.slot_only_param:
             slot = [p.name for p in a.params].index(a.slot_only_param)
-            res = slot_resource_of(prog, a)
+            res = a.slot_resource.handle
         o.append('    {"%s", %d, %d, %d, %s, %d, %s, %d, %s},' % (
             a.name, a.enum, a.data_bytes, a.data_bits,
             ("sizeof(%s)" % a.spec_type) if a.params else "0", len(a.params),
@@ -175,10 +175,3 @@ def emit(prog):
     o.append("")
     return "\n".join(o)
 
-
-def slot_resource_of(prog, a):
-    """The resource handle that a slot-only parameter of this action names."""
-    hs = {t.name: ta for t in prog.direct_tables() for ta in t.actions if ta.name == a.name}
-    assert len(hs) == 1, a.name
-    ta = next(iter(hs.values()))
-    return prog.resources[ta.resource].handle

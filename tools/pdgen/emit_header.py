@@ -131,8 +131,6 @@ def emit(prog):
     for f in fr:
         o.append(f.proto() + ";")
     o.append("")
-    for a in prog.actions:
-        pass
     area = None
     for t in prog.tables:
         if t.area != area:
