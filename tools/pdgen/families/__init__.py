@@ -37,6 +37,13 @@ def table_functions(t):
     return [fn for _, fn in sorted(keyed, key=lambda kf: kf[0])]
 
 
+def documented_families():
+    """The table and action families, in the order of a table's declarations
+    (those of an action last), for the header's family list."""
+    table = sorted((f for f in FAMILIES if f.each not in ("action", "program")), key=lambda f: f.place)
+    return table + [f for f in FAMILIES if f.each == "action"]
+
+
 def action_functions(a):
     """Every exported function of one action of the program (not of a table)."""
     return [f.fn(a=a) for f in FAMILIES if f.each == "action" and a.has_spec]

@@ -27,7 +27,7 @@ def reset_body(f):
 FAMILIES = [
     Family("set_default_action", "{p}{t}_set_default_action_{a}",
            [SESS, TGT, ACTION_SPEC, METER_SPEC, OUT_ENTRY_HDL],
-           "sets the action taken on a miss.", set_body, each="default_action", when=direct,
+           "sets the action taken on a miss. A NULL meter spec detaches the meter.", set_body, each="default_action", when=direct,
            place=(60, 0)),
     Family("table_get_default_entry", "{p}{t}_table_get_default_entry",
            [SESS, TGT, READ_FROM_HW, Arg("pd_default_action_record *", "action_spec", "out action")],

@@ -14,6 +14,7 @@ def add_body(f):
     o = []
     if t.direct_meter:
         spec = t.direct_meter.name + "_spec"
+        o.append("  // Rates are required on an add: without them the process ends.")
         o.append("  if (!%s)" % spec)
         o.append("    pd_hard_assert_failed(\"%s && \\\"direct resource has no spec\\\"\"," % spec)
         o.append("                          __func__, __LINE__);")
@@ -40,13 +41,13 @@ def modify_by_key_body(f):
 FAMILIES = [
     Family("table_add_with", "{p}{t}_table_add_with_{a}",
            [SESS, TGT, MATCH_SPEC, PRIORITY, ACTION_SPEC, METER_SPEC, TTL, OUT_ENTRY_HDL],
-           "adds an entry.", add_body, each="entry_action", when=direct, place=(10, 0)),
+           "adds an entry. A NULL meter spec ends the process; the index of a counter or meter cell goes to the driver as its low 16 bits.", add_body, each="entry_action", when=direct, place=(10, 0)),
     Family("table_modify_with", "{p}{t}_table_modify_with_{a}",
            [SESS, DEV, ENTRY_HDL, ACTION_SPEC, METER_SPEC],
-           "replaces an entry's action and its data.", modify_body, each="entry_action",
+           "replaces an entry's action and its data. A cell index goes whole; a NULL meter spec sends the meter's slot untagged.", modify_body, each="entry_action",
            when=direct, place=(20, 0)),
     Family("table_modify_with_by_match_spec", "{p}{t}_table_modify_with_{a}_by_match_spec",
            [SESS, TGT, MATCH_SPEC, PRIORITY, ACTION_SPEC, METER_SPEC],
-           "the same, for the entry with this key.", modify_by_key_body, each="entry_action",
+           "the same for the entry with this key.", modify_by_key_body, each="entry_action",
            when=direct, place=(20, 1)),
 ]

@@ -91,10 +91,13 @@ def slot_code(t, a, mode):
         spec = r.name + "_spec"
         if mode == "add":
             return ["  set_direct_meter_slot(a.rec, %s, *%s);" % (h, spec)]
-        # A modify without a spec keeps the slot but fills nothing in it; a
-        # default without one detaches the meter.
-        absent = "PD_RESOURCE_TAG_NONE" if mode == "modify" else "PD_RESOURCE_TAG_DETACHED"
-        return ["  if (%s) set_direct_meter_slot(a.rec, %s, *%s);" % (spec, h, spec),
+        if mode == "modify":
+            why = "  // No rates on a modify: the slot is sent with tag none and no rates."
+            absent = "PD_RESOURCE_TAG_NONE"
+        else:
+            why = "  // No rates for a default: the meter is detached from it."
+            absent = "PD_RESOURCE_TAG_DETACHED"
+        return [why, "  if (%s) set_direct_meter_slot(a.rec, %s, *%s);" % (spec, h, spec),
                 "  else set_slot(a.rec, %s, %s);" % (h, absent)]
     if r.kind == "direct":
         return ["  set_slot(a.rec, %s, PD_RESOURCE_TAG_ATTACHED);" % h]
@@ -103,9 +106,10 @@ def slot_code(t, a, mode):
         assert a.index_param, a.name
         assert mode != "default", a.name
         field = "action_spec->action_" + a.index_param
-        # An add passes the low 16 bits of the index, a modify all 32.
-        idx = "uint16_t(%s)" % field if mode == "add" else field
-        return ["  set_slot(a.rec, %s, PD_RESOURCE_TAG_ATTACHED, %s);" % (h, idx)]
+        if mode == "add":
+            return ["  // An add sends the low 16 bits of the cell index; a modify sends all 32.",
+                    "  set_slot(a.rec, %s, PD_RESOURCE_TAG_ATTACHED, uint16_t(%s));" % (h, field)]
+        return ["  set_slot(a.rec, %s, PD_RESOURCE_TAG_ATTACHED, %s);" % (h, field)]
     return ["  set_slot(a.rec, %s, PD_RESOURCE_TAG_DETACHED);" % h]
 
 
