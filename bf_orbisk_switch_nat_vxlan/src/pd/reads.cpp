@@ -1,91 +1,14 @@
-// Shared runtime of the entry points: assertions, resource slots and the
-// reads that turn driver records back into host records.
-#include "engine.h"
+// Reads: an entry or a default entry back from the driver.
+#include "reads.h"
 
-#include <execinfo.h>
+#include <cstring>
 
-#include <cstdlib>
-
-// The process-ending path of a failed assertion, whatever NDEBUG says.
-extern "C" [[noreturn]] void __assert_fail(const char *assertion, const char *file,
-                                           unsigned int line, const char *function) noexcept;
+#include "assertions.h"
+#include "bytes.h"
+#include "orbisk_switch/pd_driver.h"
+#include "resources.h"
 
 namespace orbisk::pd {
-
-void pd_assert_failed(const char *expr, const char *format, const char *function, int line) {
-  if (bf_sys_dbg_mode()) {
-    void *frames[128];
-    int n = backtrace(frames, 128);
-    // The symbol array is never freed: the process ends below.
-    char **symbols = backtrace_symbols(frames, n);
-    if (symbols) {
-      for (int i = 0; i < n; ++i) bf_sys_log_and_trace(0, 2, "%s", symbols[i]);
-    }
-    __assert_fail(expr, kSourcePath, unsigned(line), function);
-  }
-#pragma GCC diagnostic push
-#pragma GCC diagnostic ignored "-Wformat-nonliteral"
-  bf_sys_log_and_trace(0, 2, format, function, line);
-#pragma GCC diagnostic pop
-}
-
-void pd_hard_assert_failed(const char *expr, const char *function, int line) {
-  __assert_fail(expr, kSourcePath, unsigned(line), function);
-}
-
-uint32_t get_bytes_meter_type(uint32_t meter_type, bool has_pre_color) {
-  if (meter_type > PD_METER_TYPE_COLOR_UNAWARE) {
-    pd_assert_failed("0", PD_ASSERT_FMT_ZERO, __func__, __LINE__);
-  }
-  if (meter_type == PD_METER_TYPE_COLOR_AWARE && !has_pre_color) {
-    pd_assert_failed("has_pre_color == 1",
-                     "ASSERTION FAILED: \"has_pre_color == 1\" (has_pre_color == true) from %s:%d",
-                     __func__, __LINE__);
-  }
-  if (!has_pre_color) return PD_METER_TYPE_COLOR_UNAWARE;
-  return meter_type == PD_METER_TYPE_COLOR_UNAWARE ? PD_METER_TYPE_COLOR_UNAWARE
-                                                   : PD_METER_TYPE_COLOR_AWARE;
-}
-
-void set_direct_meter_slot(pd_action_record &rec, uint32_t meter_hdl, const pd_meter_spec &spec) {
-  set_slot(rec, meter_hdl, PD_RESOURCE_TAG_ATTACHED);
-  pd_meter_record &m = rec.resources[0].resource_spec.meter;
-  m.meter_type = get_bytes_meter_type(spec.meter_type, true);
-  m.cir_unit = PD_METER_RATE_UNIT_BYTES;
-  m.pir_unit = PD_METER_RATE_UNIT_BYTES;
-  m.cir = spec.cir;
-  m.cburst = spec.cburst;
-  m.pir = spec.pir;
-  m.pburst = spec.pburst;
-}
-
-void build_pd_res_spec(const pd_action_record *rec, pd_resource_index **list, uint32_t *count) {
-  if (rec->resource_count == 0) {
-    *count = 0;
-    return;
-  }
-  auto *out = static_cast<pd_resource_index *>(
-      bf_sys_calloc(rec->resource_count, sizeof(pd_resource_index)));
-  uint32_t n = 0;
-  for (unsigned i = 0; i < rec->resource_count && i < PD_ACTION_RESOURCE_SLOTS; ++i) {
-    const pd_resource_record &slot = rec->resources[i];
-    if (slot.resource_tag != PD_RESOURCE_TAG_ATTACHED) continue;
-    out[n].resource_hdl = slot.resource_hdl;
-    out[n].resource_index = slot.resource_index;
-    ++n;
-  }
-  *list = out;
-  *count = n;
-}
-
-uint32_t resource_index_of(const pd_resource_index *list, uint32_t count, uint32_t resource_hdl) {
-  // A detached resource reads back as this sentinel.
-  if (count == 0) return 0xFFFF;
-  for (uint32_t i = 0; i < count; ++i) {
-    if (list[i].resource_hdl == resource_hdl) return list[i].resource_index;
-  }
-  return 0;
-}
 
 namespace {
 
