@@ -38,6 +38,16 @@ def action_rows(name, acts, prog):
     return o
 
 
+def emit_limits(prog):
+    """The program's limits that the engine sizes its buffers by."""
+    return "\n".join([
+        "// Generated from the catalogue. Do not edit.", "#pragma once", "",
+        "namespace orbisk::pd {", "",
+        "// The longest key of the program, in bytes: the room a read offers for a key.",
+        "inline constexpr unsigned kMaxKeyBytes = %d;" % max(t.key_bytes for t in prog.tables), "",
+        "}  // namespace orbisk::pd", ""])
+
+
 def emit(prog):
     o = ["// Generated from the catalogue. Do not edit.",
          '#include "descriptors.h"', "", '#include "orbisk_switch/pd.h"', "",

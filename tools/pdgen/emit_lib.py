@@ -17,8 +17,6 @@ def emit_generated_header(prog):
     for a in prog.actions:
         if a.has_spec:
             o += pack_data_fn(a)
-            o.append("void unbuild_any_%s(const pd_action_record *, const pd_resource_index *, uint32_t, void *);"
-                     % a.name)
             o.append("")
     o += ["}  // namespace orbisk::pd", ""]
     return "\n".join(o)
@@ -34,16 +32,18 @@ def emit_actions_source(prog):
     o += frame.action_names(prog)
     o += frame.profile_slots(prog)
     for a in prog.actions:
-        for f in families.action_functions(a):
+        fns = families.action_functions(a)
+        if fns:
+            o += unbuilders.action_preamble(a)
+        for f in fns:
             o += definition(f)
-            o += unbuilders.unbuild_any(a)
             o.append("")
     return "\n".join(o)
 
 
 def emit_area_source(prog, area_tables):
-    o = ["// Generated from the catalogue. Do not edit.", '#include "pd_generated.h"', "",
-         "using namespace orbisk::pd;", ""]
+    o = ["// Generated from the catalogue. Do not edit.", '#include "pd_generated.h"',
+         '#include "pd_limits.h"', "", "using namespace orbisk::pd;", ""]
     for t in area_tables:
         o.append("// %s" % t.name)
         fns = families.table_functions(t)
@@ -52,9 +52,7 @@ def emit_area_source(prog, area_tables):
             o += pack_key_fn(t)
             for f in unbuild:
                 o += definition(f)
-        o.append("namespace {")
-        o += reads.read_descriptor(t)
-        o.append("}  // namespace")
+        o += reads.table_preamble(t)
         for f in fns:
             if f not in unbuild:
                 o += definition(f)

@@ -48,6 +48,7 @@ def main():
     outputs["include/orbisk_switch/pd.h"] = header
     outputs["orbisk_model_tables.inc"] = emit_model.emit(prog)
     outputs["pd_descriptors.cpp"] = emit_descriptors.emit(prog)
+    outputs["pd_limits.h"] = emit_descriptors.emit_limits(prog)
     outputs.update(emit_lib.emit(prog))
     outputs.update(emit_tests.emit(prog))
     if args.out:

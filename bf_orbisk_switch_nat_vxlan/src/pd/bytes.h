@@ -77,15 +77,43 @@ inline uint32_t pack_prefix(uint8_t *value, uint8_t *mask, uint16_t prefix_lengt
   return host_bits;
 }
 
-// Prefix length of a field of W bits from its mask: W minus the place of the
+// Reads n (1 to 4) bytes most significant first: get_be<N> with a width
+// known only at run time, for the reads that loop over descriptors.
+inline uint32_t get_be_n(const uint8_t *p, unsigned n) {
+  switch (n) {
+    case 1:
+      return get_be<1>(p);
+    case 2:
+      return get_be<2>(p);
+    case 3:
+      return get_be<3>(p);
+    default:
+      return get_be<4>(p);
+  }
+}
+
+// Prefix length of a field of w bits from its mask: w minus the place of the
 // lowest set bit; 0 when no bit is set. Holes are not looked for.
-template <unsigned W>
-inline uint16_t prefix_length_of(const uint8_t *mask) {
-  constexpr unsigned n = W / 8;
-  for (unsigned b = 0; b < W; ++b) {
-    if (mask[n - 1 - b / 8] & (1u << (b % 8))) return uint16_t(W - b);
+inline uint16_t prefix_length_of(const uint8_t *mask, unsigned w) {
+  const unsigned n = w / 8;
+  for (unsigned b = 0; b < w; ++b) {
+    if (mask[n - 1 - b / 8] & (1u << (b % 8))) return uint16_t(w - b);
   }
   return 0;
+}
+
+// Writes v into the host member at p of a field or parameter of this many
+// bits: the smallest of 8, 16 or 32 bits that holds it, high bits dropped.
+inline void put_host(void *p, unsigned bits, uint32_t v) {
+  if (bits <= 8) {
+    const uint8_t x = uint8_t(v);
+    std::memcpy(p, &x, 1);
+  } else if (bits <= 16) {
+    const uint16_t x = uint16_t(v);
+    std::memcpy(p, &x, 2);
+  } else {
+    std::memcpy(p, &v, 4);
+  }
 }
 
 // ------------------------------------------------------------- records ---

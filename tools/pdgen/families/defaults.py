@@ -12,7 +12,7 @@ def set_body(f):
 
 
 def get_body(f):
-    return ["  return read_default_entry(kRead_%s, sess_hdl, dev_tgt, read_from_hw, action_spec);" % f.table.name]
+    return ["  return read_default_entry(kTables[%d], sess_hdl, dev_tgt, read_from_hw, action_spec);" % f.table.index]
 
 
 def get_handle_body(f):

@@ -13,63 +13,24 @@ OUT_SPEC = Arg(lambda t, a: "%s *" % a.spec_type, "action_spec", "out action spe
 
 
 def unbuild_key_body(f):
-    t = f.table
-    o = ["  std::memset(match_spec, 0, sizeof *match_spec);"]
-    for i, fld in enumerate(t.fields):
-        if t.partitioned and i == 0:
-            o.append("  match_spec->%s = uint16_t(key->partition_index);" % fld.name)
-        elif fld.array:
-            o.append("  std::memcpy(match_spec->%s, key->value_bytes + %d, %d);" % (fld.name, fld.offset, fld.nbytes))
-        else:
-            o.append("  match_spec->%s = get_be<%d>(key->value_bytes + %d);" % (fld.name, fld.nbytes, fld.offset))
-    return o
+    return ["  unbuild_key(kTables[%d], key, match_spec);" % f.table.index]
 
 
 def unbuild_mask_body(f):
-    t = f.table
-    o = []
-    if t.ternary:
-        for fld in t.fields:
-            if fld.match != "ternary":
-                continue
-            if fld.array:
-                o.append("  std::memcpy(match_spec->%s_mask, key->mask_bytes + %d, %d);"
-                         % (fld.name, fld.offset, fld.nbytes))
-            else:
-                o.append("  match_spec->%s_mask = get_be<%d>(key->mask_bytes + %d);"
-                         % (fld.name, fld.nbytes, fld.offset))
-    else:
-        lf = t.lpm_field
-        o.append("  match_spec->%s_prefix_length = prefix_length_of<%d>(key->mask_bytes + %d);"
-                 % (lf.name, lf.bits, lf.offset))
-    return o
+    return ["  unbuild_mask(kTables[%d], key, match_spec);" % f.table.index]
 
 
 def unbuild_action_body(f):
     a = f.action
-    o = ["  std::memset(action_spec, 0, sizeof *action_spec);"]
-    if len(a.params) == 1 and a.slot_only_param:
-        o.append("  (void)act;")
-    for p in a.params:
-        if p.name == a.slot_only_param:
-            o.append("  action_spec->%s = resource_index_of(resources, num_resources, 0x%08xu);"
-                     % (p.field, a.slot_resource.handle))
-        else:
-            o.append("  action_spec->%s = get_be<%d>(act->data_bytes + %d);" % (p.field, p.nbytes, p.offset))
-    return o
+    res = "resources, num_resources" if a.slot_only_param else "nullptr, 0"
+    return ["  unbuild_action_spec(kActions[%d], act, %s, action_spec);" % (a.enum, res)]
 
 
-def unbuild_any(a):
-    """Glue that lets a read descriptor call an action's unbuilder."""
-    o = ["void orbisk::pd::unbuild_any_%s(const pd_action_record *act, const pd_resource_index *res," % a.name,
-         "                                uint32_t n, void *out) {"]
-    extra = "res, n, " if a.slot_only_param else ""
-    if not a.slot_only_param:
-        o.append("  (void)res;")
-        o.append("  (void)n;")
-    o.append("  unbuild_action_spec_%s(act, %sstatic_cast<%s *>(out));" % (a.name, extra, a.spec_type))
-    o.append("}")
-    return o
+def action_preamble(a):
+    """A read offers the same room for every action's data."""
+    if not a.data_bytes:
+        return []
+    return ["static_assert(%d <= kReadActionDataBytes, \"data of %s fits the read room\");" % (a.data_bytes, a.name)]
 
 
 FAMILIES = [
