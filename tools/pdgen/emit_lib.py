@@ -1,63 +1,65 @@
-"""Assembles the library's generated sources from the family modules: the
-action data packers, the per-table entry points, and the linker export list.
-What a function does is its family's; this module only places it."""
+"""Assembles the library's generated sources from the family modules: one
+source per family group and area (pd_<group>_<area>.cpp), one per group for
+the functions of actions (pd_<group>_actions.cpp), the files a module writes
+itself (the packers' headers, the frame's tables), and the linker export list.
+What a function does is its family's; this module only places it, so that a
+change to one family recompiles only its group's sources."""
 
 import families
 from catalogue import AREA_FILES
-from families import frame, reads, unbuilders
-from families.packing import pack_data_fn, pack_key_fn
+from families import packing
 
-
-def emit_generated_header(prog):
-    o = ["// Generated from the catalogue. Do not edit.", "#pragma once", "",
-         '#include "engine.h"', "", "namespace orbisk::pd {", "",
-         "// The six member-selection states, in the order of creation.",
-         "struct ProfileSlot {", "  const char *name;", "  pd_ms_state **state;", "};",
-         "extern const ProfileSlot kProfileSlots[%d];" % len(prog.profiles), ""]
-    for a in prog.actions:
-        if a.has_spec:
-            o += pack_data_fn(a)
-            o.append("")
-    o += ["}  // namespace orbisk::pd", ""]
-    return "\n".join(o)
+HEAD = "// Generated from the catalogue. Do not edit."
 
 
 def definition(f):
     return ["PD_EXPORT " + f.proto() + " {"] + f.body() + ["}"]
 
 
-def emit_actions_source(prog):
-    o = ["// Generated from the catalogue. Do not edit.", '#include "pd_generated.h"', "",
-         "using namespace orbisk::pd;", ""]
-    o += frame.action_names(prog)
-    o += frame.profile_slots(prog)
+def source(group, area, blocks):
+    o = [HEAD]
+    o += ['#include "%s"' % inc.format(area=area) for inc in group.INCLUDES]
+    o += ["", "using namespace orbisk::pd;", ""]
+    for b in blocks:
+        o += b + [""]
+    return "\n".join(o)
+
+
+def group_name(group):
+    return group.__name__.rsplit(".", 1)[1]
+
+
+def table_sources(prog, group):
+    out = {}
+    for area in AREA_FILES:
+        blocks = []
+        for t in prog.tables:
+            if t.area_file != area:
+                continue
+            fns = [f for f in families.table_functions(t) if f.kind in group.FAMILIES]
+            if not fns:
+                continue
+            b = ["// " + t.name]
+            b += group.table_preamble(t) if hasattr(group, "table_preamble") else []
+            for f in fns:
+                b += definition(f)
+            blocks.append(b)
+        if blocks:
+            out["pd_%s_%s.cpp" % (group_name(group), area)] = source(group, area, blocks)
+    return out
+
+
+def action_sources(prog, group):
+    blocks = []
     for a in prog.actions:
-        fns = families.action_functions(a)
-        if fns:
-            o += unbuilders.action_preamble(a)
+        fns = [f for f in families.action_functions(a) if f.kind in group.FAMILIES]
+        if not fns:
+            continue
+        b = group.action_preamble(a) if hasattr(group, "action_preamble") else []
         for f in fns:
-            o += definition(f)
-            o.append("")
-    return "\n".join(o)
-
-
-def emit_area_source(prog, area_tables):
-    o = ["// Generated from the catalogue. Do not edit.", '#include "pd_generated.h"',
-         '#include "pd_limits.h"', "", "using namespace orbisk::pd;", ""]
-    for t in area_tables:
-        o.append("// %s" % t.name)
-        fns = families.table_functions(t)
-        unbuild = [f for f in fns if families.group_of(f.kind) is unbuilders]
-        if t.keyed:
-            o += pack_key_fn(t)
-            for f in unbuild:
-                o += definition(f)
-        o += reads.table_preamble(t)
-        for f in fns:
-            if f not in unbuild:
-                o += definition(f)
-        o.append("")
-    return "\n".join(o)
+            b += definition(f)
+        blocks.append(b)
+    return {"pd_%s_actions.cpp" % group_name(group): source(group, "", blocks)} if blocks else {}
 
 
 def emit_version_script(prog):
@@ -69,10 +71,11 @@ def emit_version_script(prog):
 
 
 def emit(prog):
-    out = {"pd_generated.h": emit_generated_header(prog),
-           "pd_actions.cpp": emit_actions_source(prog),
-           "libob_bf_pd_nat_vxlan.map": emit_version_script(prog)}
-    for area in AREA_FILES:
-        tables = [t for t in prog.tables if t.area_file == area]
-        out["pd_tables_%s.cpp" % area] = emit_area_source(prog, tables)
+    """Every generated file of the library but the export list, by name."""
+    out = dict(packing.files(prog))
+    for group in families.GROUPS:
+        if hasattr(group, "files"):
+            out.update(group.files(prog))
+        out.update(table_sources(prog, group))
+        out.update(action_sources(prog, group))
     return out

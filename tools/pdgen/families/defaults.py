@@ -24,6 +24,9 @@ def reset_body(f):
     return ["  return pipe_mgr_mat_tbl_default_entry_reset(sess_hdl, dev_tgt, %s, 0);" % hx(f.table.handle)]
 
 
+# What its generated sources include.
+INCLUDES = ["export.h", "pd_packers.h", "reads.h", "resources.h", "orbisk_switch/pd_driver.h"]
+
 FAMILIES = [
     Family("set_default_action", "{p}{t}_set_default_action_{a}",
            [SESS, TGT, ACTION_SPEC, METER_SPEC, OUT_ENTRY_HDL],

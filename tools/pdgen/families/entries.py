@@ -38,6 +38,10 @@ def modify_by_key_body(f):
         % (hx(t.handle), hx(a.handle))]
 
 
+# What its generated sources include.
+INCLUDES = ["export.h", "assertions.h", "resources.h", "pd_packers.h", "pd_keys_{area}.h",
+            "orbisk_switch/pd_driver.h"]
+
 FAMILIES = [
     Family("table_add_with", "{p}{t}_table_add_with_{a}",
            [SESS, TGT, MATCH_SPEC, PRIORITY, ACTION_SPEC, METER_SPEC, TTL, OUT_ENTRY_HDL],

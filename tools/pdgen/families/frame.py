@@ -14,6 +14,9 @@ def program(id, args, doc, result="pd_status"):
     return Family(id, "{p}" + id, args, doc, result=result, each="program")
 
 
+# What its generated sources include.
+INCLUDES = []
+
 FAMILIES = [
     program("init", [], "Registers with the driver; call before anything else.", result="void"),
     program("cleanup", [], "Deregisters from the driver."),
@@ -30,6 +33,21 @@ FAMILIES = [
 
 # Objects the library exports besides its functions.
 EXPORTED_OBJECTS = ["bf_drv_hdl", PREFIX + "action_name_strings"]
+
+
+def files(prog):
+    """The frame's tables: the action names, exported, and the member-selection
+    state of each profile, with the header frame.cpp reads them through."""
+    h = ["// Generated from the catalogue. Do not edit.", "#pragma once", "",
+         '#include "orbisk_switch/pd_driver.h"', "", "namespace orbisk::pd {", "",
+         "// A profile's member-selection state, by name.",
+         "struct ProfileSlot {", "  const char *name;", "  pd_ms_state **state;", "};",
+         "// Every profile's, in the order of creation.",
+         "extern const ProfileSlot kProfileSlots[%d];" % len(prog.profiles), "",
+         "}  // namespace orbisk::pd", ""]
+    c = ["// Generated from the catalogue. Do not edit.", '#include "export.h"', '#include "pd_frame.h"', "",
+         "using namespace orbisk::pd;", ""]
+    return {"pd_frame.h": "\n".join(h), "pd_frame.cpp": "\n".join(c + action_names(prog) + profile_slots(prog))}
 
 
 def action_names(prog):

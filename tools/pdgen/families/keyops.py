@@ -34,6 +34,9 @@ def next_body(f):
             % hx(f.table.handle)]
 
 
+# What its generated sources include.
+INCLUDES = ["export.h", "pd_keys_{area}.h", "orbisk_switch/pd_driver.h"]
+
 FAMILIES = [
     Family("table_delete", "{p}{t}_table_delete", [SESS, DEV, ENTRY_HDL],
            "deletes an entry.", delete_body, when=keyed, place=(30, 0)),

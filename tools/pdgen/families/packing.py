@@ -25,7 +25,7 @@ def pack_data_fn(a):
 def pack_key_fn(t):
     """Straight-line key packing of one table into its value and mask strings."""
     n = t.key_bytes
-    sig = "static inline void pack_key_%s(const %s *ms, uint32_t priority, KeyBuf<%d> &k) {" % (
+    sig = "inline void pack_key_%s(const %s *ms, uint32_t priority, KeyBuf<%d> &k) {" % (
         t.name, t.spec_type, n)
     o = [sig]
     if not t.ternary:
@@ -73,6 +73,27 @@ def pack_key_fn(t):
                  % (lf.bits, t.key_bits, lf.offset, lf.offset, lf.name))
     o.append("}")
     return o
+
+
+def files(prog):
+    """The packers, as headers of inline code: the action data packers of the
+    program, and the key packers of each area's tables."""
+    from catalogue import AREA_FILES
+    head = ["// Generated from the catalogue. Do not edit.", "#pragma once", "",
+            '#include "bytes.h"', '#include "orbisk_switch/pd.h"', "", "namespace orbisk::pd {", ""]
+    tail = ["}  // namespace orbisk::pd", ""]
+    o = list(head)
+    for a in prog.actions:
+        if a.has_spec:
+            o += pack_data_fn(a) + [""]
+    out = {"pd_packers.h": "\n".join(o + tail)}
+    for area in AREA_FILES:
+        o = list(head)
+        for t in prog.tables:
+            if t.area_file == area and t.keyed:
+                o += pack_key_fn(t) + [""]
+        out["pd_keys_%s.h" % area] = "\n".join(o + tail)
+    return out
 
 
 def key_code(t):

@@ -28,6 +28,9 @@ def get_entry_body(f):
             "                    {%s});" % out]
 
 
+# What its generated sources include.
+INCLUDES = ["export.h", "pd_limits.h", "reads.h"]
+
 FAMILIES = [
     Family("get_entry", "{p}{t}_get_entry",
            [SESS, DEV, ENTRY_HDL, READ_FROM_HW, OUT_MATCH_SPEC, OUT_PRIORITY, ACTION_NAME,

@@ -33,6 +33,9 @@ def action_preamble(a):
     return ["static_assert(%d <= kReadActionDataBytes, \"data of %s fits the read room\");" % (a.data_bytes, a.name)]
 
 
+# What its generated sources include.
+INCLUDES = ["export.h", "reads.h"]
+
 FAMILIES = [
     Family("unbuild_key", "unbuild_key_{t}", [KEY, OUT_MS], "a key record's values into a match spec.",
            unbuild_key_body, result="void", when=lambda t: t.keyed, place=(90, 0)),
