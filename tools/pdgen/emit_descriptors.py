@@ -2,8 +2,6 @@
 profile and resource (see descriptors.h), with host offsets taken by offsetof
 from the public header's records, and the dense index by table handle."""
 
-from catalogue import PREFIX
-
 FORMATS = {None: "Plain", "dec": "Dec", "port": "Port", "vport": "VPort", "mac": "Mac",
            "v4addr": "V4Addr", "v6addr": "V6Addr"}
 KINDS = {"none": "None", "exact": "Exact", "ternary": "Ternary", "prefix": "Prefix",

@@ -27,10 +27,6 @@ FAMILIES = [f for g in GROUPS for f in g.FAMILIES]
 EXPORTED_OBJECTS = [o for g in GROUPS for o in getattr(g, "EXPORTED_OBJECTS", [])]
 
 
-def group_of(family):
-    return next(g for g in GROUPS if family in g.FAMILIES)
-
-
 def table_functions(t):
     """Every exported function of table t, in the order the header declares them."""
     keyed = [kf for f in FAMILIES if f.each not in ("action", "program") for kf in f.table_functions(t)]

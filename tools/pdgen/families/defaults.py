@@ -1,6 +1,6 @@
 """Defaults: the action a table takes on a miss, set, read and reset."""
 
-from .base import ACTION_SPEC, METER_SPEC, OUT_ENTRY_HDL, READ_FROM_HW, SESS, TGT, Arg, Family, always, direct
+from .base import ACTION_SPEC, METER_SPEC, OUT_ENTRY_HDL, READ_FROM_HW, SESS, TGT, Arg, Family, direct
 from .packing import action_code, hx
 
 

@@ -14,9 +14,6 @@ def program(id, args, doc, result="pd_status"):
     return Family(id, "{p}" + id, args, doc, result=result, each="program")
 
 
-# What its generated sources include.
-INCLUDES = []
-
 FAMILIES = [
     program("init", [], "Registers with the driver; call before anything else.", result="void"),
     program("cleanup", [], "Deregisters from the driver."),

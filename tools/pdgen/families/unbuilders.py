@@ -1,7 +1,7 @@
 """Unbuilders: driver records read back turned into host records (key, mask,
 action data). Exported for agents that read records themselves."""
 
-from .base import Arg, Family
+from .base import Arg, Family, keyed
 
 KEY = Arg("const pd_match_record *", "key", "key record")
 OUT_MS = Arg(lambda t, a: "%s *" % t.spec_type, "match_spec", "out match spec")
@@ -38,7 +38,7 @@ INCLUDES = ["export.h", "reads.h"]
 
 FAMILIES = [
     Family("unbuild_key", "unbuild_key_{t}", [KEY, OUT_MS], "a key record's values into a match spec.",
-           unbuild_key_body, result="void", when=lambda t: t.keyed, place=(90, 0)),
+           unbuild_key_body, result="void", when=keyed, place=(90, 0)),
     Family("unbuild_mask", "unbuild_mask_{t}", [KEY, OUT_MS],
            "its masks or prefix length into the same match spec.", unbuild_mask_body, result="void",
            when=lambda t: t.ternary or t.prefix, place=(90, 1)),
