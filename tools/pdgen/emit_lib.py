@@ -1,6 +1,7 @@
 """Assembles the library's generated sources from the family modules: one
-source per family group and area (pd_<group>_<area>.cpp), one per group for
-the functions of actions (pd_<group>_actions.cpp), the files a module writes
+source per family group and area (pd_<group>_<area>.cpp, or pd_<group>.cpp
+for a group of one-line functions), one per group for the functions of
+actions (pd_<group>_actions.cpp), the files a module writes
 itself (the packers' headers, the frame's tables), and the linker export list.
 What a function does is its family's; this module only places it, so that a
 change to one family recompiles only its group's sources."""
@@ -18,7 +19,7 @@ def definition(f):
 
 def source(group, area, blocks):
     o = [HEAD]
-    o += ['#include "%s"' % inc.format(area=area) for inc in group.INCLUDES]
+    o += ['#include "%s"' % (inc.format(area=area) if area else inc) for inc in group.INCLUDES]
     o += ["", "using namespace orbisk::pd;", ""]
     for b in blocks:
         o += b + [""]
@@ -30,11 +31,15 @@ def group_name(group):
 
 
 def table_sources(prog, group):
+    """A group's table functions: one source per area, or one in all for a
+    group whose functions are a line or two each (BY_AREA = False), where a
+    source per area would cost more to start than to compile."""
+    by_area = getattr(group, "BY_AREA", True)
     out = {}
-    for area in AREA_FILES:
+    for area in AREA_FILES if by_area else [None]:
         blocks = []
         for t in prog.tables:
-            if t.area_file != area:
+            if by_area and t.area_file != area:
                 continue
             fns = [f for f in families.table_functions(t) if f.kind in group.FAMILIES]
             if not fns:
@@ -45,7 +50,8 @@ def table_sources(prog, group):
                 b += definition(f)
             blocks.append(b)
         if blocks:
-            out["pd_%s_%s.cpp" % (group_name(group), area)] = source(group, area, blocks)
+            name = "pd_%s_%s.cpp" % (group_name(group), area) if by_area else "pd_%s.cpp" % group_name(group)
+            out[name] = source(group, area, blocks)
     return out
 
 
@@ -59,7 +65,7 @@ def action_sources(prog, group):
         for f in fns:
             b += definition(f)
         blocks.append(b)
-    return {"pd_%s_actions.cpp" % group_name(group): source(group, "", blocks)} if blocks else {}
+    return {"pd_%s_actions.cpp" % group_name(group): source(group, None, blocks)} if blocks else {}
 
 
 def emit_version_script(prog):

@@ -28,6 +28,9 @@ def get_entry_body(f):
             "                    {%s});" % out]
 
 
+# One-line functions: one generated source for all areas.
+BY_AREA = False
+
 # What its generated sources include.
 INCLUDES = ["export.h", "pd_limits.h", "reads.h"]
 

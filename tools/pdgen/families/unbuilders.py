@@ -33,6 +33,9 @@ def action_preamble(a):
     return ["static_assert(%d <= kReadActionDataBytes, \"data of %s fits the read room\");" % (a.data_bytes, a.name)]
 
 
+# One-line functions: one generated source for all areas.
+BY_AREA = False
+
 # What its generated sources include.
 INCLUDES = ["export.h", "reads.h"]
 
