@@ -42,7 +42,7 @@ def documented_families():
 
 def action_functions(a):
     """Every exported function of one action of the program (not of a table)."""
-    return [f.fn(a=a) for f in FAMILIES if f.each == "action" and a.has_spec]
+    return [f.fn(a=a) for f in FAMILIES if f.each == "action" and f.when(a)]
 
 
 def unbuild_action_fn(a):

@@ -100,10 +100,10 @@ class Family:
     doc      one line: what a function of the family does
     body     function of an Fn giving its code lines; None where the function
              is written by hand in the engine
-    each     'table': one per table that `when` admits; 'entry_action' and
-             'default_action': one per action a table allows as an entry's or
-             as its default; 'action': one per action with parameters;
-             'program': one for the program
+    each     'table': one per table; 'entry_action' and 'default_action': one
+             per action a table allows as an entry's or as its default;
+             'action': one per action of the program; 'program': one
+    when     which tables (or, for 'action', which actions) have its functions
     place    (block, step): where its declarations stand among a table's; the
              functions of one block are grouped by action, then by step
     """

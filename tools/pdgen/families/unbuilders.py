@@ -47,5 +47,5 @@ FAMILIES = [
            when=lambda t: t.ternary or t.prefix, place=(90, 1)),
     Family("unbuild_action_spec", "unbuild_action_spec_{a}", [ACT, RESOURCES, NUM_RESOURCES, OUT_SPEC],
            "an action record's data into an action spec.", unbuild_action_body, result="void",
-           each="action"),
+           each="action", when=lambda a: a.has_spec),
 ]
