@@ -59,8 +59,10 @@ class Action:
             self.params.append(q)
         self.data_bytes = off
         self.data_bits = sum(p.bits for p in self.params)
-        # Parameters that stand only in a resource slot, set by a table row.
+        # Parameters that stand only in a resource slot, set by a table row,
+        # and the resource whose slot index carries it.
         self.slot_only_param = None
+        self.slot_resource = None
 
     @property
     def spec_type(self):
@@ -132,6 +134,8 @@ class Table:
             act = program.action(a["name"], a["enum"], a["params"])
             self.actions.append(TableAction(act, a))
         self.profile = None
+        self.index = None  # place in the catalogue, and in the descriptors
+        self.carried = None  # the Resource named by `resource`
 
     @property
     def keyed(self):
@@ -167,6 +171,12 @@ class Table:
         names = {a.resource for a in self.actions if a.resource}
         assert len(names) <= 1
         return names.pop() if names else None
+
+    @property
+    def direct_meter(self):
+        """The meter every entry carries, whose rates each write passes."""
+        r = self.carried
+        return r if r and r.is_meter and r.kind == "direct" else None
 
     def host_members(self):
         """(C type, member name, array length or None) in host record order."""
@@ -231,11 +241,18 @@ class Program:
         for p in self.profiles:
             by_table[p.match_table].profile = p
             assert by_table[p.match_table].profile_name == p.name
-        for t in self.tables:
+        for i, t in enumerate(self.tables):
+            t.index = i
+            t.carried = self.resources[t.resource] if t.resource else None
             assert not t.indirect or t.profile is not None, t.name
             for a in t.actions:
                 if a.index_param:
                     a.action.slot_only_param = None if a.index_also_data else a.index_param
+        for a in self.actions:
+            if a.slot_only_param:
+                rows = [ta for t in self.direct_tables() for ta in t.actions if ta.name == a.name]
+                assert len(rows) == 1, a.name
+                a.slot_resource = self.resources[rows[0].resource]
         # Every action name of the enum is used somewhere, with one enum value.
         assert set(self._actions) == set(self.enum_names)
 

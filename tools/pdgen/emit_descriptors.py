@@ -2,8 +2,6 @@
 profile and resource (see descriptors.h), with host offsets taken by offsetof
 from the public header's records, and the dense index by table handle."""
 
-from catalogue import PREFIX
-
 FORMATS = {None: "Plain", "dec": "Dec", "port": "Port", "vport": "VPort", "mac": "Mac",
            "v4addr": "V4Addr", "v6addr": "V6Addr"}
 KINDS = {"none": "None", "exact": "Exact", "ternary": "Ternary", "prefix": "Prefix",
@@ -36,6 +34,16 @@ def action_rows(name, acts, prog):
             "true" if a.default else "false", a.resource_tag, idx))
     o.append("};")
     return o
+
+
+def emit_limits(prog):
+    """The program's limits that the engine sizes its buffers by."""
+    return "\n".join([
+        "// Generated from the catalogue. Do not edit.", "#pragma once", "",
+        "namespace orbisk::pd {", "",
+        "// The longest key of the program, in bytes: the room a read offers for a key.",
+        "inline constexpr unsigned kMaxKeyBytes = %d;" % max(t.key_bytes for t in prog.tables), "",
+        "}  // namespace orbisk::pd", ""])
 
 
 def emit(prog):
@@ -87,7 +95,7 @@ def emit(prog):
         res = 0
         if a.slot_only_param:
             slot = [p.name for p in a.params].index(a.slot_only_param)
-            res = slot_resource_of(prog, a)
+            res = a.slot_resource.handle
         o.append('    {"%s", %d, %d, %d, %s, %d, %s, %d, %s},' % (
             a.name, a.enum, a.data_bytes, a.data_bits,
             ("sizeof(%s)" % a.spec_type) if a.params else "0", len(a.params),
@@ -175,10 +183,3 @@ def emit(prog):
     o.append("")
     return "\n".join(o)
 
-
-def slot_resource_of(prog, a):
-    """The resource handle that a slot-only parameter of this action names."""
-    hs = {t.name: ta for t in prog.direct_tables() for ta in t.actions if ta.name == a.name}
-    assert len(hs) == 1, a.name
-    ta = next(iter(hs.values()))
-    return prog.resources[ta.resource].handle

@@ -2,6 +2,8 @@
 action enum, the host records, and every exported prototype grouped by
 table."""
 
+import textwrap
+
 import families
 from catalogue import PREFIX
 
@@ -26,30 +28,17 @@ INTRO = """\
  *  - Every record and string lives on the caller's stack for one call; the
  *    driver copies what it keeps. Nothing is allocated on a write.
  *
- * Families, for <t> a table and <a> an action of it:
- *  <t>_table_add_with_<a>(sess, target, match spec, [priority], [action
- *      spec], [meter spec], [ttl], out entry handle): adds an entry.
- *  <t>_table_modify_with_<a>(sess, device id, entry handle, [action spec],
- *      [meter spec]) and <t>_table_modify_with_<a>_by_match_spec(sess,
- *      target, match spec, [priority], [action spec], [meter spec]):
- *      replace an entry's action and its data.
- *  <t>_table_delete(sess, device id, entry handle),
- *  <t>_table_delete_by_match_spec(sess, target, match spec, [priority]),
- *  <t>_match_spec_to_entry_hdl(sess, target, match spec, [priority], out).
- *  <t>_get_entry(sess, device id, entry handle, read from hardware, [out
- *      match spec], [out priority], out action name or NULL, out action
- *      spec, out action enum or NULL, [out is-default]): reads an entry
- *      back across all pipes. Status 15 when the driver returns a record the
- *      table cannot hold.
- *  <t>_get_entry_count, <t>_get_first_entry_handle,
- *  <t>_get_next_entry_handles: walk a table.
- *  <t>_set_default_action_<a>(sess, target, [action spec], [meter spec],
- *      out entry handle), <t>_table_get_default_entry (status 15 for a
- *      record the table cannot hold), <t>_table_get_default_entry_handle,
- *  <t>_table_reset_default_entry: the action taken on a miss.
- *  unbuild_key_<t>, unbuild_mask_<t>, unbuild_action_spec_<a>: turn driver
- *      records read back into host records.
- */"""
+ * Families, for <t> a table and <a> an action of it:"""
+
+
+def family_list():
+    """The family list of the header's opening comment, one entry per family
+    from its documentation line, in the order of a table's declarations."""
+    o = []
+    for fam in families.documented_families():
+        o += textwrap.wrap(fam.doc_line(), 78, initial_indent=" *  ", subsequent_indent=" *      ",
+                           break_on_hyphens=False)
+    return o + [" */"]
 
 
 def field_decl(ctype, name, array):
@@ -75,7 +64,7 @@ def describe(t):
 
 
 def emit(prog):
-    o = [INTRO, "#ifndef ORBISK_SWITCH_PD_H", "#define ORBISK_SWITCH_PD_H", "",
+    o = [INTRO] + family_list() + ["#ifndef ORBISK_SWITCH_PD_H", "#define ORBISK_SWITCH_PD_H", "",
          "#include <stdbool.h>", "", '#include "orbisk_switch/pd_records.h"',
          '#include "orbisk_switch/pd_types.h"', "",
          "#ifdef __cplusplus", 'extern "C" {', "#endif", ""]
@@ -126,13 +115,10 @@ def emit(prog):
     o.append("")
     o.append("/* ---------------------------------------------------- lifecycle --- */")
     o.append("")
-    o.append("/* Registers with the driver; call before anything else. */")
-    fr = families.frame_functions()
-    for f in fr:
+    for f in families.frame_functions():
+        o.append("/* %s */" % f.kind.doc)
         o.append(f.proto() + ";")
     o.append("")
-    for a in prog.actions:
-        pass
     area = None
     for t in prog.tables:
         if t.area != area:
@@ -148,17 +134,12 @@ def emit(prog):
                 o.append(field_decl(ctype, name, arr))
             o.append("} %s;" % t.spec_type)
         for f in families.table_functions(t):
-            if f.family in ("unbuild_key", "unbuild_mask"):
-                continue
             o.append(f.proto() + ";")
-        for f in families.table_functions(t):
-            if f.family in ("unbuild_key", "unbuild_mask"):
-                o.append(f.proto() + ";")
         o.append("")
     o.append("/* ------------------------------------ action data read back --- */")
     o.append("")
     for a in prog.actions:
-        if a.has_spec:
-            o.append(families.unbuild_action_fn(a).proto() + ";")
+        for f in families.action_functions(a):
+            o.append(f.proto() + ";")
     o += ["", "#ifdef __cplusplus", "}", "#endif", "", "#endif", ""]
     return "\n".join(o)

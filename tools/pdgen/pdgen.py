@@ -7,6 +7,7 @@ only the public header (to check or refresh the checked-in copy).
 
   pdgen.py --root <source root> --out <dir>
   pdgen.py --root <source root> --header <path>
+  pdgen.py --root <source root> --list      (what --out writes, by kind)
 """
 
 import argparse
@@ -34,25 +35,44 @@ def write_if_changed(path, text):
         f.write(text)
 
 
+def generate(prog, header_only=False):
+    """(kind, path under the output directory, text) of every generated file.
+    Kinds: header (the public header), descriptors (the program's descriptor
+    source), lib (library sources), map (the export list), tests (test
+    sources), other (headers and tables that those include)."""
+    out = [("header", "include/orbisk_switch/pd.h", emit_header.emit(prog))]
+    if header_only:
+        return out
+    out.append(("descriptors", "pd_descriptors.cpp", emit_descriptors.emit(prog)))
+    out.append(("other", "pd_limits.h", emit_descriptors.emit_limits(prog)))
+    out.append(("other", "orbisk_model_tables.inc", emit_model.emit(prog)))
+    out.append(("map", "libob_bf_pd_nat_vxlan.map", emit_lib.emit_version_script(prog)))
+    for name, text in sorted(emit_lib.emit(prog).items()):
+        out.append(("lib" if name.endswith(".cpp") else "other", name, text))
+    for name, text in sorted(emit_tests.emit(prog).items()):
+        out.append(("tests" if name.endswith(".cpp") else "other", name, text))
+    return out
+
+
 def main():
     ap = argparse.ArgumentParser()
     ap.add_argument("--root", required=True)
     ap.add_argument("--out")
     ap.add_argument("--header")
+    ap.add_argument("--list", action="store_true",
+                    help="print the files it would write, one 'kind path' a line, and write none")
     args = ap.parse_args()
     prog = catalogue.Program(args.root)
-    outputs = {}
-    header = emit_header.emit(prog)
+    outputs = generate(prog, header_only=not (args.out or args.list))
+    if args.list:
+        for kind, name, _ in outputs:
+            print(kind, name)
+        return 0
     if args.header:
-        write_if_changed(args.header, header)
-    outputs["include/orbisk_switch/pd.h"] = header
-    outputs["orbisk_model_tables.inc"] = emit_model.emit(prog)
-    outputs["pd_descriptors.cpp"] = emit_descriptors.emit(prog)
-    outputs.update(emit_lib.emit(prog))
-    outputs.update(emit_tests.emit(prog))
+        write_if_changed(args.header, outputs[0][2])
     if args.out:
         os.makedirs(args.out, exist_ok=True)
-        for name, text in outputs.items():
+        for _, name, text in outputs:
             path = os.path.join(args.out, name)
             os.makedirs(os.path.dirname(path), exist_ok=True)
             write_if_changed(path, text)

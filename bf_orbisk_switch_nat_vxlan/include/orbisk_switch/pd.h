@@ -20,27 +20,45 @@
  *
  * Families, for <t> a table and <a> an action of it:
  *  <t>_table_add_with_<a>(sess, target, match spec, [priority], [action
- *      spec], [meter spec], [ttl], out entry handle): adds an entry.
+ *      spec], [meter spec], [ttl], out entry handle): adds an entry. A NULL
+ *      meter spec ends the process; the index of a counter or meter cell goes
+ *      to the driver as its low 16 bits.
  *  <t>_table_modify_with_<a>(sess, device id, entry handle, [action spec],
- *      [meter spec]) and <t>_table_modify_with_<a>_by_match_spec(sess,
- *      target, match spec, [priority], [action spec], [meter spec]):
- *      replace an entry's action and its data.
- *  <t>_table_delete(sess, device id, entry handle),
- *  <t>_table_delete_by_match_spec(sess, target, match spec, [priority]),
- *  <t>_match_spec_to_entry_hdl(sess, target, match spec, [priority], out).
+ *      [meter spec]): replaces an entry's action and its data. A cell index
+ *      goes whole; a NULL meter spec sends the meter's slot untagged.
+ *  <t>_table_modify_with_<a>_by_match_spec(sess, target, match spec,
+ *      [priority], [action spec], [meter spec]): the same for the entry with
+ *      this key.
+ *  <t>_table_delete(sess, device id, entry handle): deletes an entry.
+ *  <t>_table_delete_by_match_spec(sess, target, match spec, [priority]):
+ *      deletes the entry with this key.
+ *  <t>_match_spec_to_entry_hdl(sess, target, match spec, [priority], out):
+ *      finds the handle of the entry with this key.
  *  <t>_get_entry(sess, device id, entry handle, read from hardware, [out
- *      match spec], [out priority], out action name or NULL, out action
- *      spec, out action enum or NULL, [out is-default]): reads an entry
- *      back across all pipes. Status 15 when the driver returns a record the
- *      table cannot hold.
- *  <t>_get_entry_count, <t>_get_first_entry_handle,
- *  <t>_get_next_entry_handles: walk a table.
- *  <t>_set_default_action_<a>(sess, target, [action spec], [meter spec],
- *      out entry handle), <t>_table_get_default_entry (status 15 for a
- *      record the table cannot hold), <t>_table_get_default_entry_handle,
- *  <t>_table_reset_default_entry: the action taken on a miss.
- *  unbuild_key_<t>, unbuild_mask_<t>, unbuild_action_spec_<a>: turn driver
- *      records read back into host records.
+ *      match spec], [out priority], out action name or NULL, out action spec,
+ *      out action enum or NULL, [out is-default]): reads an entry back across
+ *      all pipes. Status 15 when the driver returns a record the table cannot
+ *      hold.
+ *  <t>_get_entry_count(sess, target, out count): counts a table's entries.
+ *  <t>_get_first_entry_handle(sess, target, out entry handle): starts a walk
+ *      of a table.
+ *  <t>_get_next_entry_handles(sess, target, entry handle, n, out handles):
+ *      goes on with a walk: up to n handles after this one.
+ *  <t>_set_default_action_<a>(sess, target, [action spec], [meter spec], out
+ *      entry handle): sets the action taken on a miss. A NULL meter spec
+ *      detaches the meter.
+ *  <t>_table_get_default_entry(sess, target, read from hardware, out action):
+ *      reads it back. Status 15 for a record the table cannot hold.
+ *  <t>_table_get_default_entry_handle(sess, target, out entry handle): the
+ *      default entry's handle.
+ *  <t>_table_reset_default_entry(sess, target): puts back the default the
+ *      table starts with.
+ *  unbuild_key_<t>(key record, out match spec): a key record's values into a
+ *      match spec.
+ *  unbuild_mask_<t>(key record, out match spec): its masks or prefix length
+ *      into the same match spec.
+ *  unbuild_action_spec_<a>(action record, [resources], [count], out action
+ *      spec): an action record's data into an action spec.
  */
 #ifndef ORBISK_SWITCH_PD_H
 #define ORBISK_SWITCH_PD_H
@@ -1323,14 +1341,21 @@ PD_STATIC_ASSERT(offsetof(p4_pd_orbisk_switch_action_specs_t, u) == 4,
 
 /* Registers with the driver; call before anything else. */
 void p4_pd_orbisk_switch_init(void);
+/* Deregisters from the driver. */
 pd_status p4_pd_orbisk_switch_cleanup(void);
+/* Forgets a device's member-selection state. */
 pd_status p4_pd_orbisk_switch_dev_remove(uint32_t device_id);
+/* Writes a device's member-selection state into a JSON object. */
 pd_status p4_pd_orbisk_switch_dev_log(uint32_t device_id,
     void *cjson_object);
+/* Reads a device's member-selection state back from one. */
 pd_status p4_pd_orbisk_switch_dev_restore(uint32_t device_id,
     void *cjson_object);
+/* Nothing to release: kept for agents that call it. */
 void p4_pd_orbisk_switch_device_state_cleanup(void);
+/* Full name of an action; NULL past the last. */
 const char * p4_pd_orbisk_switch_action_enum_to_string(uint32_t action);
+/* Action of a full name; P4_PD_ORBISK_SWITCH_ACTION_COUNT for none. */
 p4_pd_orbisk_switch_action_names_t p4_pd_orbisk_switch_action_string_to_enum(const char *name);
 
 /* ================================================================== */

@@ -14,6 +14,10 @@
 
 #include "orbisk_switch/pd_types.h"
 
+// Never exported: every shared object that links the descriptors keeps its
+// own copy, and its code reaches them without an indirection.
+#pragma GCC visibility push(hidden)
+
 namespace orbisk::pd {
 
 enum class MatchKind : uint8_t { None, Exact, Ternary, Prefix, PartitionedPrefix };
@@ -142,3 +146,5 @@ extern const std::size_t kNumResources;
 const TableDesc *find_table(pd_tbl_hdl handle);
 
 }  // namespace orbisk::pd
+
+#pragma GCC visibility pop

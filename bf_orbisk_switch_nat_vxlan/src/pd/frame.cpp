@@ -2,8 +2,13 @@
 // the action enum.
 #include <cjson/cJSON.h>
 
-#include "engine.h"
-#include "pd_generated.h"
+#include <cstring>
+
+#include "assertions.h"
+#include "export.h"
+#include "orbisk_switch/pd.h"
+#include "orbisk_switch/pd_driver.h"
+#include "pd_frame.h"
 
 using namespace orbisk::pd;
 

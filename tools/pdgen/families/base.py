@@ -1,0 +1,151 @@
+"""What every family module is made of: the arguments its functions take,
+the family itself (names, arguments, one documentation line, body), and the
+exported function it yields for one table or action."""
+
+from catalogue import PREFIX
+
+
+def _value(v, t, a):
+    return v(t, a) if callable(v) else v
+
+
+class Arg:
+    """One argument of a family's functions. ctype and name are strings, or
+    functions of (table, action) for those that differ by table; `when` says
+    whether a table and action take it at all. The label is how the family's
+    documentation line shows it (in brackets when not every function has it)."""
+
+    def __init__(self, ctype, name, label, when=None):
+        self.ctype = ctype
+        self.name = name
+        self.label = label
+        self.when = when
+
+    def applies(self, t, a=None):
+        return self.when is None or bool(self.when(t, a))
+
+    def resolve(self, t, a=None):
+        if not self.applies(t, a):
+            return []
+        return [(_value(self.ctype, t, a), _value(self.name, t, a))]
+
+    @property
+    def doc(self):
+        return "[%s]" % self.label if self.when else self.label
+
+
+# Arguments shared by several families.
+SESS = Arg("pd_sess_hdl", "sess_hdl", "sess")
+TGT = Arg("pd_dev_target", "dev_tgt", "target")
+DEV = Arg("uint32_t", "dev_id", "device id")
+ENTRY_HDL = Arg("pd_entry_hdl", "entry_hdl", "entry handle")
+OUT_ENTRY_HDL = Arg("pd_entry_hdl *", "entry_hdl", "out entry handle")
+MATCH_SPEC = Arg(lambda t, a: "const %s *" % t.spec_type, "match_spec", "match spec")
+PRIORITY = Arg("uint32_t", "priority", "priority", when=lambda t, a: t.ternary)
+ACTION_SPEC = Arg(lambda t, a: "const %s *" % a.action.spec_type, "action_spec", "action spec",
+                  when=lambda t, a: a.action.has_spec)
+# A table whose entries carry a direct meter takes its rates with every
+# action; the argument is named after the meter.
+METER_SPEC = Arg("const pd_meter_spec *", lambda t, a: t.direct_meter.name + "_spec", "meter spec",
+                 when=lambda t, a: t.direct_meter)
+READ_FROM_HW = Arg("bool", "read_from_hw", "read from hardware")
+
+# Which tables a family covers.
+def direct(t):
+    return not t.indirect
+
+
+def keyed(t):
+    return t.keyed
+
+
+def always(t):
+    return True
+
+
+class Fn:
+    """One exported function: its name, result, arguments (C type, name), the
+    family it belongs to, and the table and action it is for."""
+
+    def __init__(self, name, result, args, family, table=None, action=None, kind=None):
+        self.name = name
+        self.result = result
+        self.args = args
+        self.family = family
+        self.table = table
+        self.action = action
+        self.kind = kind
+
+    def has_arg(self, name):
+        return any(n == name for _, n in self.args)
+
+    def proto(self, indent="    "):
+        if not self.args:
+            return "%s %s(void)" % (self.result, self.name)
+        parts = ["%s%s%s" % (t, "" if t.endswith("*") else " ", n) for t, n in self.args]
+        return "%s %s(%s)" % (self.result, self.name, (",\n" + indent).join(
+            [parts[0]] + parts[1:]) if len(parts) > 1 else parts[0])
+
+    def body(self):
+        return self.kind.body(self)
+
+
+class Family:
+    """A family of exported functions.
+
+    id       the family's tag (the round-trip tests key on it)
+    name     format of the function name: {p} the common prefix, {t} the
+             table, {a} the action
+    args     list of Arg, in order
+    doc      one line: what a function of the family does
+    body     function of an Fn giving its code lines; None where the function
+             is written by hand in the engine
+    each     'table': one per table; 'entry_action' and 'default_action': one
+             per action a table allows as an entry's or as its default;
+             'action': one per action of the program; 'program': one
+    when     which tables (or, for 'action', which actions) have its functions
+    place    (block, step): where its declarations stand among a table's; the
+             functions of one block are grouped by action, then by step
+    """
+
+    def __init__(self, id, name, args, doc, body=None, result="pd_status", each="table",
+                 when=always, place=(0, 0)):
+        self.id = id
+        self.name = name
+        self.args = args
+        self.doc = doc
+        self.body = body
+        self.result = result
+        self.each = each
+        self.when = when
+        self.place = place
+
+    def fn(self, t=None, a=None):
+        if self.each == "action":
+            name = self.name.format(p=PREFIX, a=a.name)
+            args = [x for arg in self.args for x in arg.resolve(None, a)]
+            return Fn(name, self.result, args, self.id, action=a, kind=self)
+        if self.each == "program":
+            args = [x for arg in self.args for x in arg.resolve(None, None)]
+            return Fn(self.name.format(p=PREFIX), self.result, args, self.id, kind=self)
+        name = self.name.format(p=PREFIX, t=t.name, a=a.name if a else "")
+        args = [x for arg in self.args for x in arg.resolve(t, a)]
+        return Fn(name, self.result, args, self.id, t, a, kind=self)
+
+    def table_functions(self, t):
+        """(sort key, Fn) for every function of this family on table t."""
+        if not self.when(t):
+            return []
+        if self.each == "table":
+            return [((self.place[0], -1, self.place[1]), self.fn(t))]
+        use = "entry" if self.each == "entry_action" else "default"
+        return [((self.place[0], i, self.place[1]), self.fn(t, a))
+                for i, a in enumerate(t.actions) if getattr(a, use)]
+
+    def pattern(self):
+        """The name as the documentation shows it."""
+        return self.name.format(p="", t="<t>", a="<a>")
+
+    def doc_line(self):
+        """Name, arguments and what it does, for the header's family list."""
+        return "%s(%s): %s" % (self.pattern(), ", ".join(x.doc for x in self.args), self.doc)
