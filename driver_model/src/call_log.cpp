@@ -46,7 +46,8 @@ orbisk_model_call *CallLog::append(Fn fn, std::initializer_list<uint64_t> args,
   for (const Passing::Item &p : passed) total += words(p.size);
 
   Rec &rec = calls_.emplace_back();
-  rec.block = std::make_unique<uint64_t[]>(total);  // zeroed: padding stays 0
+  // Not zeroed: every byte that is read back is written below.
+  rec.block = std::make_unique_for_overwrite<uint64_t[]>(total);
   uint64_t *w = rec.block.get();
 
   orbisk_model_call &c = rec.call;

@@ -271,14 +271,13 @@ uint32_t MatchTable::hash_of(const uint8_t *value, const uint8_t *mask, uint32_t
   return uint32_t(h);
 }
 
-pd_entry_hdl MatchTable::find(const pd_match_record &key) const {
-  const uint32_t place = by_key_.find(
-      hash_of(key.value_bytes, key.mask_bytes, key.priority, key.partition_index), [&](uint32_t p) {
-        const Entry e = entry_at(p);
-        return e.head->priority == key.priority && e.head->partition == key.partition_index &&
-               std::memcmp(e.value, key.value_bytes, key_bytes_) == 0 &&
-               std::memcmp(e.mask, key.mask_bytes, key_bytes_) == 0;
-      });
+pd_entry_hdl MatchTable::find(const pd_match_record &key, uint32_t hash) const {
+  const uint32_t place = by_key_.find(hash, [&](uint32_t p) {
+    const Entry e = entry_at(p);
+    return e.head->priority == key.priority && e.head->partition == key.partition_index &&
+           std::memcmp(e.value, key.value_bytes, key_bytes_) == 0 &&
+           std::memcmp(e.mask, key.mask_bytes, key_bytes_) == 0;
+  });
   return place == KeyIndex::kNone ? 0 : entry_at(place).head->hdl;
 }
 
@@ -298,26 +297,26 @@ void MatchTable::write_action(Entry e, pd_act_fn_hdl fn, const pd_action_record 
     h.member = act.member_hdl;
     h.group = act.group_hdl;
   }
-  h.resource_count = act.resource_count;
-  if (act.resource_count == 0) {
-    slots_.erase(e.place);
-  } else {
+  if (act.resource_count != 0) {
     slots_[e.place].assign(act.resources, act.resources + act.resource_count);
+  } else if (h.resource_count != 0) {
+    slots_.erase(e.place);
   }
+  h.resource_count = act.resource_count;
 }
 
-pd_entry_hdl MatchTable::insert(const pd_match_record &key, pd_act_fn_hdl fn,
+pd_entry_hdl MatchTable::insert(const pd_match_record &key, uint32_t hash, pd_act_fn_hdl fn,
                                 const pd_action_record &act, uint32_t ttl) {
   const pd_entry_hdl hdl = handles_.next_free(cursor);
   if (hdl == 0) return 0;
   cursor = hdl == kMaxEntryHdl ? 1 : hdl + 1;
   const uint32_t place = slab_.alloc();
   const Entry e = entry_at(place);
-  new (e.head) EntryHead{hdl, 0, key.priority, key.partition_index, ttl, 0, 0, 0, 0, 0, 0};
+  new (e.head) EntryHead{hdl, 0, key.priority, key.partition_index, ttl, 0, 0, hash, 0, 0, 0, 0};
   std::memcpy(e.value, key.value_bytes, key_bytes_);
   std::memcpy(e.mask, key.mask_bytes, key_bytes_);
   handles_.insert(hdl, place);
-  by_key_.insert(hash_of(e.value, e.mask, key.priority, key.partition_index), place);
+  by_key_.insert(hash, place);
   write_action(e, fn, act);
   return hdl;
 }
@@ -329,7 +328,7 @@ void MatchTable::set_action(Entry e, pd_act_fn_hdl fn, const pd_action_record &a
 void MatchTable::erase(pd_entry_hdl hdl) {
   const uint32_t place = handles_.find(hdl);
   const Entry e = entry_at(place);
-  by_key_.erase(hash_of(e.value, e.mask, e.head->priority, e.head->partition), place);
+  by_key_.erase(e.head->hash, place);
   handles_.erase(hdl);
   if (e.head->resource_count != 0) slots_.erase(place);
   e.head->hdl = 0;

@@ -157,6 +157,7 @@ struct EntryHead {
   uint32_t ttl;
   pd_mbr_hdl member;
   pd_grp_hdl group;
+  uint32_t hash;  // of the key, to leave the key index without hashing again
   uint16_t bits;
   uint16_t data_len;
   uint8_t kind;
@@ -186,11 +187,17 @@ class MatchTable {
   std::size_t size() const { return handles_.size(); }
   // The entry with this handle; head null when there is none.
   Entry find(pd_entry_hdl hdl) const;
-  // The handle of the entry with this key (of the table's size), 0 for none.
-  pd_entry_hdl find(const pd_match_record &key) const;
-  // Adds an entry whose key is not in the table; 0 when no handle is free.
-  pd_entry_hdl insert(const pd_match_record &key, pd_act_fn_hdl fn, const pd_action_record &act,
-                      uint32_t ttl);
+  // What a key (of the table's size) is found by.
+  uint32_t hash_of(const pd_match_record &key) const {
+    return hash_of(key.value_bytes, key.mask_bytes, key.priority, key.partition_index);
+  }
+  // The handle of the entry with this key, 0 for none.
+  pd_entry_hdl find(const pd_match_record &key) const { return find(key, hash_of(key)); }
+  pd_entry_hdl find(const pd_match_record &key, uint32_t hash) const;
+  // Adds an entry whose key, of that hash, is not in the table; 0 when no
+  // handle is free.
+  pd_entry_hdl insert(const pd_match_record &key, uint32_t hash, pd_act_fn_hdl fn,
+                      const pd_action_record &act, uint32_t ttl);
   void set_action(Entry e, pd_act_fn_hdl fn, const pd_action_record &act);
   void erase(pd_entry_hdl hdl);
   ActionView action(Entry e) const;

@@ -75,10 +75,16 @@ pd_status pipe_mgr_mat_ent_add(pd_sess_hdl sess, pd_dev_target target, pd_tbl_hd
                if (pd_status s = check_key(*d, key)) return s;
                if (pd_status s = check_action(*d, fn, act, false)) return s;
                MatchTable *t = m.tables.find(target.device_id, *d);
-               if (t != nullptr && t->find(*key) != 0) return ORBISK_MODEL_ENTRY_EXISTS;
-               if (t != nullptr && t->size() >= t->capacity) return ORBISK_MODEL_TABLE_FULL;
-               if (t == nullptr) t = &m.tables.make(target.device_id, *d);
-               const pd_entry_hdl hdl = t->insert(*key, fn, *act, ttl);
+               uint32_t hash = 0;
+               if (t != nullptr) {
+                 hash = t->hash_of(*key);
+                 if (t->find(*key, hash) != 0) return ORBISK_MODEL_ENTRY_EXISTS;
+                 if (t->size() >= t->capacity) return ORBISK_MODEL_TABLE_FULL;
+               } else {
+                 t = &m.tables.make(target.device_id, *d);
+                 hash = t->hash_of(*key);
+               }
+               const pd_entry_hdl hdl = t->insert(*key, hash, fn, *act, ttl);
                if (hdl == 0) return ORBISK_MODEL_TABLE_FULL;  // every handle in use
                *entry_hdl = hdl;
                return kOk;
