@@ -105,10 +105,9 @@ TEST_F(Entries, RejectedAddsChangeNothing) {
   pd_entry_hdl hdl = 0;
   EXPECT_EQ(ORBISK_MODEL_BAD_RECORD,
             pipe_mgr_mat_ent_add(kSess, kDev0, l2.handle, nullptr, ucast, &a.rec, 0, 0, &hdl));
-  // A failed add gives out no handle.
   Key k(l2, 1);
   ASSERT_EQ(BF_SUCCESS, add(l2.handle, k, ucast, a, &hdl));
-  EXPECT_EQ(1u, hdl);
+  EXPECT_EQ(1u, hdl) << "a refused add gave out a handle";
 }
 
 TEST_F(Entries, ProfileTableEntriesNameMembers) {

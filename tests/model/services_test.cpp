@@ -190,18 +190,14 @@ TEST_F(Services, DebugModeLogAndAllocations) {
   EXPECT_STREQ("ASSERTION FAILED: \"0\" from fn:12", line);
   EXPECT_EQ(nullptr, orbisk_model_log_at(101));
 
-  void *p = bf_sys_calloc(4, 8);
-  void *q = bf_sys_calloc(1, 1);
-  EXPECT_EQ(2u, orbisk_model_live_allocations());
-  bf_sys_free(p);
+  void *kept = bf_sys_calloc(1, 1);
   bf_sys_free(nullptr);
   EXPECT_EQ(1u, orbisk_model_live_allocations());
-
   orbisk_model_reset();
   EXPECT_EQ(0, bf_sys_dbg_mode());
   EXPECT_EQ(0u, orbisk_model_log_count());
   EXPECT_EQ(0u, orbisk_model_live_allocations());
-  bf_sys_free(q);  // from before the reset: freed, not counted
+  bf_sys_free(kept);  // from before the reset: freed, not counted
   EXPECT_EQ(0u, orbisk_model_live_allocations());
 }
 
