@@ -167,7 +167,7 @@ class ResourceStore final : public Store {
 };
 
 // Idle state of entries of ageing tables: the time left and whether the
-// entry was hit, per device, table and entry; ageing runs on the model's clock.
+// entry was hit, per device, table and entry, aged by a clock tests advance.
 class IdleStore final : public Store {
  public:
   struct Entry {
