@@ -60,7 +60,7 @@ TEST_F(Reads, TernaryValueAboveWidthAndCutMask) {
 }
 
 TEST_F(Reads, PrefixLengthFromTheMask) {
-  for (auto [written, read] : {std::pair{20, 20}, {33, 32}, {0, 0}}) {
+  for (auto [written, read] : {std::pair{20, 20}, {32, 32}, {0, 0}}) {
     p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec_t in{}, out{};
     in.l3Info_vrfId = uint8_t(written);
     in.ingIpv4_dip = 0x0A010203;
@@ -71,6 +71,17 @@ TEST_F(Reads, PrefixLengthFromTheMask) {
                                                                   nullptr, &is_default));
     EXPECT_EQ(read, out.ingIpv4_dip_prefix_length) << "written " << written;
   }
+  // A prefix longer than the field goes out as a full mask with priority key
+  // bits + 1: the driver refuses it rather than keep a second /32.
+  p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec_t too_long{};
+  too_long.ingIpv4_dip_prefix_length = 33;
+  pd_entry_hdl refused = 0;
+  EXPECT_EQ(ORBISK_MODEL_BAD_RECORD,
+            p4_pd_orbisk_switch_ipv4ShortMaskLpm_table_add_with_ipv4ShortMaskLpmMiss(sess, tgt, &too_long, &refused));
+  EXPECT_EQ(41u, last("pipe_mgr_mat_ent_add").key.priority);
+  uint32_t n = 0;
+  ASSERT_EQ(0u, p4_pd_orbisk_switch_ipv4ShortMaskLpm_get_entry_count(sess, tgt, &n));
+  EXPECT_EQ(3u, n);
   p4_pd_orbisk_switch_ipv6FinalResolve_match_spec_t v6{}, back{};
   v6.ingIpv6_fibPartitionIndex = 0xBEEF;
   v6.ingIpv6_dip[0] = 0x20;

@@ -1,19 +1,29 @@
 #include "test_support.h"
 
+namespace {
+
+Bytes copy_of(const orbisk_model_call *c, const char *name) {
+  size_t n = 0;
+  const uint8_t *p = orbisk_model_call_bytes(c, name, &n);
+  return p ? Bytes(p, p + n) : Bytes{};
+}
+
+}  // namespace
+
 Seen seen(const orbisk_model_call *c) {
   Seen s;
   s.function = c->function;
   s.args.assign(c->args, c->args + c->num_args);
-  s.has_key = c->has_key;
-  if (c->has_key) {
-    s.key = c->key;
-    s.value.assign(c->key_value, c->key_value + c->key.num_bytes);
-    s.mask.assign(c->key_mask, c->key_mask + c->key.num_bytes);
+  s.has_key = c->key != nullptr;
+  if (s.has_key) {
+    s.key = *c->key;
+    s.value = copy_of(c, "key.value");
+    s.mask = copy_of(c, "key.mask");
   }
-  s.has_action = c->has_act;
-  if (c->has_act) {
-    s.action = c->act;
-    s.data.assign(c->act_data, c->act_data + c->act.num_bytes);
+  s.has_action = c->act != nullptr;
+  if (s.has_action) {
+    s.action = *c->act;
+    s.data = copy_of(c, "act.data");
   }
   return s;
 }

@@ -3,16 +3,38 @@
  * plus the controls and observers below, so that the library, its demo and
  * agents can run and be checked without a chip. Compiles as C11 and as C++.
  *
- * What the model keeps
- *   Per device (created on first use, any id) and per match table of the
- *   program: the entries, keyed by their packed key -- value bytes, mask
- *   bytes, priority and partition index, compared byte for byte -- and the
- *   table's default entry. The pipe id of a target is recorded in the call
- *   log but otherwise ignored: an entry belongs to the whole device.
+ * What the model keeps, one store per service
+ *   Match tables: per device and match table of the program, the entries,
+ *     found by their packed key -- value bytes, mask bytes, priority and
+ *     partition index, compared byte for byte -- and the table's default.
+ *     The pipe of a target is recorded in the call log but otherwise ignored:
+ *     an entry belongs to the whole device.
+ *   Member-selection states (p4_pd_ms_init_state): per device, what each
+ *     member and group names.
+ *   Clients: their names, callback records and priorities.
+ *   The call log, armed faults, log lines and memory blocks (see below).
+ *   Homes, empty for now, for what later driver services keep: action data
+ *     and selector tables per profile and device; counters, meters and
+ *     registers by device, resource handle and pipe; idle state; digests;
+ *     snapshots by device and pipe; placement data.
+ *   What the model knows of the program (tables, key fields and widths,
+ *   actions, parameters, resources) comes from the descriptors generated from
+ *   the catalogue, the same ones the library is built from.
+ *
+ * Devices
+ *   Any device id may be used. A device and a table get state only from a
+ *   write that succeeds (an add, a default set, a capacity or handle control);
+ *   a refused call, a faulted one and any read keep nothing. A read of a table
+ *   without state answers as an empty table holding its declared default.
  *
  * Entry handles
- *   Given out per device and table from 1 upward, never reused until
- *   orbisk_model_reset(). The default entry of every table has the handle
+ *   Given out per device and table by a cursor that only moves up: an add
+ *   takes the first handle at or after the cursor that is not in use, and
+ *   past 0x7FFFFFFF the cursor goes round to 1. So handles come fresh until
+ *   the space is spent, and a freed handle is given again only once the
+ *   cursor comes round to it. An entry never gets 0 or a handle from
+ *   ORBISK_MODEL_DEFAULT_ENTRY_HDL (0x80000000) up, ORBISK_MODEL_NO_HANDLE
+ *   included. The default entry of every table has the handle
  *   ORBISK_MODEL_DEFAULT_ENTRY_HDL; reading it with pipe_mgr_get_entry
  *   answers with num_bytes 0 and num_valid_bits 0 in the key record (key
  *   strings untouched), which is how a client tells a default entry apart.
@@ -40,6 +62,22 @@
  *   carries the stored record_kind, resource slots, num_bytes, num_valid_bits,
  *   data, member and group handles, and the action handle through fn.
  *
+ * Widths
+ *   Keys and action data are checked against the widths of the key fields
+ *   and parameters, and refused with ORBISK_MODEL_BAD_RECORD:
+ *   - exact tables, and the fields of prefix tables other than the prefix:
+ *     value bits above a field's width (a 12-bit field of 0x1064). Their mask
+ *     is not looked at: all ones, above the width too, is what is sent;
+ *   - ternary tables: mask bits above a field's width, and value bits outside
+ *     the mask within the width. Value bits above the width, where the mask
+ *     is cut, are kept as they come;
+ *   - the prefix field of a prefix table: a priority above its width (how a
+ *     prefix longer than the field is marked), a mask that is not the prefix
+ *     of length width - priority, and value bits outside that prefix;
+ *   - partitioned prefix tables: a partition_index that does not fit the
+ *     width of the table's first field;
+ *   - direct action data: bits of a parameter above its width.
+ *
  * Defaults
  *   Every table starts with its declared default action: direct, zero data,
  *   and one attached resource slot (tag PD_RESOURCE_TAG_ATTACHED, index 0) when
@@ -60,6 +98,11 @@
  *   replaces the device's maps with what the object lists (an absent array
  *   reads as empty; a malformed one is ORBISK_MODEL_BAD_RECORD). A state that
  *   the model did not give out is ORBISK_MODEL_BAD_RECORD.
+ *
+ * Notifications
+ *   Calls into the clients' callbacks are queued while the model holds its
+ *   lock and made once it is released, by the same call, in the caller's
+ *   thread. A callback may therefore call back into the driver.
  *
  * Every function here is safe to call from any thread: one lock guards the
  * whole model. */
@@ -85,14 +128,20 @@ extern "C" {
 #define ORBISK_MODEL_NO_SUCH_TABLE ((pd_status)0x103)
 /* The table holds as many entries as its capacity allows. */
 #define ORBISK_MODEL_TABLE_FULL ((pd_status)0x104)
-/* A record that does not fit the table or action, a null pointer where one
- * is needed, a record_kind the table cannot hold, or a member-selection
- * state or document the model cannot use. */
+/* A record that does not fit the table or action (sizes or widths), a null
+ * pointer where one is needed, a record_kind the table cannot hold, or a
+ * member-selection state or document the model cannot use. */
 #define ORBISK_MODEL_BAD_RECORD ((pd_status)0x105)
 /* The action is not allowed on the table, or not as an entry / as a default. */
 #define ORBISK_MODEL_NO_SUCH_ACTION ((pd_status)0x106)
 /* No client is registered under that handle. */
 #define ORBISK_MODEL_NOT_REGISTERED ((pd_status)0x107)
+/* orbisk_model_fail was given a name that is none of the model's driver
+ * functions (or null). */
+#define ORBISK_MODEL_NO_SUCH_FUNCTION ((pd_status)0x108)
+/* A control was given a value it cannot take: a fault of status 0, an entry
+ * handle outside 1 to 0x7FFFFFFF, an unknown call log mode. */
+#define ORBISK_MODEL_BAD_CONTROL ((pd_status)0x109)
 
 /* Handle of the default entry of every table. */
 #define ORBISK_MODEL_DEFAULT_ENTRY_HDL ((pd_entry_hdl)0x80000000u)
@@ -104,21 +153,34 @@ extern "C" {
 /* ------------------------------------------------------------ controls --- */
 
 /* Forgets everything: entries, defaults, handles, capacities, registrations,
- * the call log, pending faults and quirks, log lines, the allocation count
- * and the debug mode. Member-selection states stay valid but are emptied. */
+ * the call log and its mode, pending faults and quirks, log lines, the
+ * allocation count and the debug mode. Member-selection states stay valid
+ * but are emptied. */
 void orbisk_model_reset(void);
+
+/* The device goes away: everything the model keeps for it is forgotten, then
+ * the device_remove callback of every registered client is called with its
+ * id, in registration order, outside the model's lock. */
+void orbisk_model_remove_device(uint32_t device_id);
 
 /* Sets how many entries (the default not counted) a table of a device may
  * hold. Existing entries stay. ORBISK_MODEL_NO_SUCH_TABLE for an unknown table. */
 pd_status orbisk_model_set_capacity(uint32_t device_id, pd_tbl_hdl tbl, uint32_t capacity);
 
+/* Moves a table's handle cursor: the next add takes the first handle at or
+ * after hdl not in use. For testing what happens when the handle space runs
+ * out without 2^31 adds. ORBISK_MODEL_BAD_CONTROL unless 1 <= hdl <= 0x7FFFFFFF. */
+pd_status orbisk_model_set_next_handle(uint32_t device_id, pd_tbl_hdl tbl, pd_entry_hdl hdl);
+
 /* Arms a fault: the nth call (1 = the next one) of the named driver function
  * from now on returns status without doing anything else; it is still
  * recorded in the call log. Several faults may be armed at once. nth 0
- * disarms every pending fault of that function. Applies to the functions
- * that return a pd_status; armed on p4_pd_ms_init_state it makes that call
- * return null. */
-void orbisk_model_fail(const char *function, uint32_t nth, pd_status status);
+ * disarms every pending fault of that function. Any function of
+ * pd_driver.h but the four bf_sys_* services may be named; armed on
+ * p4_pd_ms_init_state a fault makes that call return null.
+ * ORBISK_MODEL_NO_SUCH_FUNCTION for any other name, and ORBISK_MODEL_BAD_CONTROL
+ * for a status of 0 with nth above 0: a fault must fail. Nothing is armed then. */
+pd_status orbisk_model_fail(const char *function, uint32_t nth, pd_status status);
 
 /* Makes the next successful pipe_mgr_get_entry or
  * pipe_mgr_table_get_default_entry answer with this record_kind and/or this
@@ -133,11 +195,22 @@ void orbisk_model_set_dbg_mode(int mode);
  * an unknown table or device. */
 size_t orbisk_model_entry_count(uint32_t device_id, pd_tbl_hdl tbl);
 
+/* Number of devices whose tables hold state: a device counts from its first
+ * successful write until a reset or its removal. */
+size_t orbisk_model_device_count(void);
+
 /* ------------------------------------------------------------ call log --- */
 
-#define ORBISK_MODEL_MAX_ARGS 12
-#define ORBISK_MODEL_MAX_KEY_BYTES 64
-#define ORBISK_MODEL_MAX_DATA_BYTES 64
+/* One record a call passed in, copied whole when the call began. Names: "key"
+ * (the pd_match_record), "key.value" and "key.mask" (its strings, num_bytes
+ * each), "act" (the pd_action_record), "act.data" (its data, num_bytes),
+ * "callbacks" (the pd_drv_client_callbacks record). A null record or string
+ * has no copy. */
+typedef struct orbisk_model_bytes {
+  const char *name;
+  const uint8_t *bytes;
+  size_t size;
+} orbisk_model_bytes;
 
 /* One driver call as the caller made it. Every function of pd_driver.h is
  * recorded except bf_sys_calloc, bf_sys_free, bf_sys_log_and_trace and
@@ -146,27 +219,47 @@ typedef struct orbisk_model_call {
   const char *function;  /* the driver function's name */
   pd_status status;      /* what the call returned (0 for p4_pd_ms_init_state) */
   uint32_t num_args;
-  /* The arguments in call order: integers widened, a pd_dev_target as its
+  /* Every argument in call order: integers widened, a pd_dev_target as its
    * word (device_id | pipe << 32), pointers as addresses. */
-  uint64_t args[ORBISK_MODEL_MAX_ARGS];
-  /* Copies, taken at call entry, of a key and an action record passed in.
-   * The pointers of the copies point at the copied strings below (null where
-   * the caller's were null); strings longer than the arrays are cut. */
-  int has_key;
-  pd_match_record key;
-  uint8_t key_value[ORBISK_MODEL_MAX_KEY_BYTES];
-  uint8_t key_mask[ORBISK_MODEL_MAX_KEY_BYTES];
-  int has_act;
-  pd_action_record act;
-  uint8_t act_data[ORBISK_MODEL_MAX_DATA_BYTES];
+  const uint64_t *args;
+  uint32_t num_records;
+  const orbisk_model_bytes *records;  /* in the order the call's arguments name them */
+  /* Typed views of the "key" and "act" copies, null when the call passed
+   * none; their string pointers point at the "key.value", "key.mask" and
+   * "act.data" copies (null where the caller's were null). */
+  const pd_match_record *key;
+  const pd_action_record *act;
 } orbisk_model_call;
 
+typedef enum orbisk_model_log_mode {
+  ORBISK_MODEL_LOG_OFF = 0,  /* nothing is recorded: for long runs */
+  ORBISK_MODEL_LOG_RING = 1, /* the latest ring_size calls are kept */
+  ORBISK_MODEL_LOG_ALL = 2   /* every call is kept until cleared */
+} orbisk_model_log_mode;
+
+/* Calls kept in ring mode unless another size is asked for. */
+#define ORBISK_MODEL_LOG_RING_DEFAULT 4096
+
+/* Sets the log's mode. The model starts, and comes back from every reset, in
+ * ring mode with ORBISK_MODEL_LOG_RING_DEFAULT calls. ring_size counts in
+ * ring mode only; 0 means the default. Going to OFF forgets every call; a
+ * smaller ring forgets the oldest. ORBISK_MODEL_BAD_CONTROL for another mode. */
+pd_status orbisk_model_set_call_log(orbisk_model_log_mode mode, size_t ring_size);
+
+/* Calls the log holds. */
 size_t orbisk_model_call_count(void);
-/* The ith call, oldest first; null past the end. Valid until the log is
- * cleared or the model reset. */
+/* The ith call held, oldest first; null past the end. A call, with its
+ * arguments and copies, stays valid until it leaves the log: when the log is
+ * cleared, the model reset or the mode changed so that it goes, or in ring
+ * mode once ring_size newer calls have been made. */
 const orbisk_model_call *orbisk_model_call_at(size_t i);
 /* The latest call, or null when the log is empty. */
 const orbisk_model_call *orbisk_model_last_call(void);
+/* The copy of the record of that name a call passed in, with its size in
+ * *size (when size is not null); null when the call passed none. */
+const uint8_t *orbisk_model_call_bytes(const orbisk_model_call *call, const char *name,
+                                       size_t *size);
+/* Forgets every call and gives their memory back; the mode stays. */
 void orbisk_model_clear_calls(void);
 
 /* ----------------------------------------------------- system services --- */

@@ -5,7 +5,22 @@
 
 #include <cmath>
 
-#include "model_state.h"
+#include "model.h"
+
+namespace orbisk_model {
+
+void MsStore::clear() {
+  for (auto &[ptr, state] : states_) state->devices.clear();
+}
+
+pd_ms_state *MsStore::make() {
+  auto state = std::make_unique<pd_ms_state>();
+  pd_ms_state *made = state.get();
+  states_.emplace(made, std::move(state));
+  return made;
+}
+
+}  // namespace orbisk_model
 
 using namespace orbisk_model;
 
@@ -48,12 +63,12 @@ bool read_map(const cJSON *obj, const char *list_name, const char *hdl_name, Han
 }
 
 pd_ms_state::Device *device_of(Model &m, pd_ms_state *state, uint32_t device_id) {
-  pd_ms_state *s = m.ms_state(state);
+  pd_ms_state *s = m.ms.find(state);
   return s == nullptr ? nullptr : &s->devices[device_id];
 }
 
 const pd_ms_state::Device *find_device(Model &m, pd_ms_state *state, uint32_t device_id) {
-  pd_ms_state *s = m.ms_state(state);
+  pd_ms_state *s = m.ms.find(state);
   if (s == nullptr) return nullptr;
   auto it = s->devices.find(device_id);
   return it == s->devices.end() ? nullptr : &it->second;
@@ -64,40 +79,37 @@ const pd_ms_state::Device *find_device(Model &m, pd_ms_state *state, uint32_t de
 extern "C" {
 
 pd_status p4_pd_ms_init(void) {
-  return run("p4_pd_ms_init", {}, nullptr, nullptr, [](Model &) { return BF_SUCCESS; });
+  return run(Fn::p4_pd_ms_init, {}, [](Model &) { return BF_SUCCESS; });
 }
 
 pd_ms_state *p4_pd_ms_init_state(void) {
   pd_ms_state *made = nullptr;
-  run("p4_pd_ms_init_state", {}, nullptr, nullptr, [&](Model &m) {
-    auto state = std::make_unique<pd_ms_state>();
-    made = state.get();
-    m.ms_states.emplace(made, std::move(state));
+  run(Fn::p4_pd_ms_init_state, {}, [&](Model &m) {
+    made = m.ms.make();
     return BF_SUCCESS;
   });
   return made;
 }
 
 pd_status p4_pd_ms_destroy_state_for_dev(pd_ms_state *state, uint32_t device_id) {
-  return run("p4_pd_ms_destroy_state_for_dev", {arg(state), arg(device_id)}, nullptr, nullptr,
-             [&](Model &m) {
-               pd_ms_state *s = m.ms_state(state);
-               if (s == nullptr) return ORBISK_MODEL_BAD_RECORD;
-               s->devices.erase(device_id);
-               return BF_SUCCESS;
-             });
+  return run(Fn::p4_pd_ms_destroy_state_for_dev, {arg(state), arg(device_id)}, [&](Model &m) {
+    pd_ms_state *s = m.ms.find(state);
+    if (s == nullptr) return ORBISK_MODEL_BAD_RECORD;
+    s->devices.erase(device_id);
+    return BF_SUCCESS;
+  });
 }
 
 pd_status p4_pd_ms_destroy_txn_state_for_dev(uint32_t device_id) {
   // Nothing is kept per transaction.
-  return run("p4_pd_ms_destroy_txn_state_for_dev", {arg(device_id)}, nullptr, nullptr,
+  return run(Fn::p4_pd_ms_destroy_txn_state_for_dev, {arg(device_id)},
              [](Model &) { return BF_SUCCESS; });
 }
 
 pd_status p4_pd_ms_log_state(uint32_t device_id, pd_ms_state *state, void *cjson_object) {
-  return run("p4_pd_ms_log_state", {arg(device_id), arg(state), arg(cjson_object)}, nullptr,
-             nullptr, [&](Model &m) {
-               if (m.ms_state(state) == nullptr || cjson_object == nullptr) {
+  return run(Fn::p4_pd_ms_log_state, {arg(device_id), arg(state), arg(cjson_object)},
+             [&](Model &m) {
+               if (m.ms.find(state) == nullptr || cjson_object == nullptr) {
                  return ORBISK_MODEL_BAD_RECORD;
                }
                auto *obj = static_cast<cJSON *>(cjson_object);
@@ -109,9 +121,9 @@ pd_status p4_pd_ms_log_state(uint32_t device_id, pd_ms_state *state, void *cjson
 }
 
 pd_status p4_pd_ms_restore_state(uint32_t device_id, pd_ms_state *state, void *cjson_object) {
-  return run("p4_pd_ms_restore_state", {arg(device_id), arg(state), arg(cjson_object)}, nullptr,
-             nullptr, [&](Model &m) {
-               pd_ms_state *s = m.ms_state(state);
+  return run(Fn::p4_pd_ms_restore_state, {arg(device_id), arg(state), arg(cjson_object)},
+             [&](Model &m) {
+               pd_ms_state *s = m.ms.find(state);
                if (s == nullptr || cjson_object == nullptr) return ORBISK_MODEL_BAD_RECORD;
                const auto *obj = static_cast<const cJSON *>(cjson_object);
                pd_ms_state::Device read;
@@ -128,7 +140,7 @@ pd_status p4_pd_ms_restore_state(uint32_t device_id, pd_ms_state *state, void *c
 
 pd_status orbisk_model_ms_set_member(pd_ms_state *state, uint32_t device_id, pd_mbr_hdl mbr,
                                      pd_act_fn_hdl act) {
-  return locked([&](Model &m) {
+  return in_frame([&](Model &m) {
     pd_ms_state::Device *d = device_of(m, state, device_id);
     if (d == nullptr) return ORBISK_MODEL_BAD_RECORD;
     d->members[mbr] = act;
@@ -138,7 +150,7 @@ pd_status orbisk_model_ms_set_member(pd_ms_state *state, uint32_t device_id, pd_
 
 pd_status orbisk_model_ms_set_group(pd_ms_state *state, uint32_t device_id, pd_grp_hdl grp,
                                     pd_act_fn_hdl act) {
-  return locked([&](Model &m) {
+  return in_frame([&](Model &m) {
     pd_ms_state::Device *d = device_of(m, state, device_id);
     if (d == nullptr) return ORBISK_MODEL_BAD_RECORD;
     d->groups[grp] = act;
@@ -147,14 +159,14 @@ pd_status orbisk_model_ms_set_group(pd_ms_state *state, uint32_t device_id, pd_g
 }
 
 size_t orbisk_model_ms_member_count(pd_ms_state *state, uint32_t device_id) {
-  return locked([&](Model &m) -> size_t {
+  return in_frame([&](Model &m) -> size_t {
     const pd_ms_state::Device *d = find_device(m, state, device_id);
     return d ? d->members.size() : 0;
   });
 }
 
 size_t orbisk_model_ms_group_count(pd_ms_state *state, uint32_t device_id) {
-  return locked([&](Model &m) -> size_t {
+  return in_frame([&](Model &m) -> size_t {
     const pd_ms_state::Device *d = find_device(m, state, device_id);
     return d ? d->groups.size() : 0;
   });
@@ -162,7 +174,7 @@ size_t orbisk_model_ms_group_count(pd_ms_state *state, uint32_t device_id) {
 
 pd_act_fn_hdl orbisk_model_ms_member_action(pd_ms_state *state, uint32_t device_id,
                                             pd_mbr_hdl mbr) {
-  return locked([&](Model &m) -> pd_act_fn_hdl {
+  return in_frame([&](Model &m) -> pd_act_fn_hdl {
     const pd_ms_state::Device *d = find_device(m, state, device_id);
     if (d == nullptr) return ORBISK_MODEL_NO_HANDLE;
     auto it = d->members.find(mbr);

@@ -1,142 +1,91 @@
-// Match table entries and defaults: adds, changes, deletes, reads and walks.
-// Every check runs before anything is written, so a failed call leaves both
-// the model and the caller's out places as they were.
+// Match table entries and defaults: adds, changes, deletes, reads and walks,
+// and the controls and observers of the match tables store. Every check runs
+// before anything is written, so a failed call leaves the model and the
+// caller's out places as they were, and makes no state for a device or a
+// table that had none.
 #include <algorithm>
 #include <cstring>
 
-#include "model_state.h"
+#include "model.h"
+#include "record_checks.h"
 
 using namespace orbisk_model;
+using orbisk::pd::find_table;
 
 namespace {
 
 constexpr pd_status kOk = BF_SUCCESS;
 constexpr pd_status kBad = ORBISK_MODEL_BAD_RECORD;
 
-// A key record as the table's entries are packed.
-pd_status check_key(const TableRow &row, const pd_match_record *key) {
-  if (key == nullptr || row.key_bytes == 0) return kBad;  // a keyless table has no entries
-  if (key->num_bytes != row.key_bytes || key->num_valid_bits != row.key_bits) return kBad;
-  if (key->value_bytes == nullptr || key->mask_bytes == nullptr) return kBad;
-  return kOk;
-}
-
-Key key_of(const pd_match_record &key) {
-  return Key{{key.value_bytes, key.value_bytes + key.num_bytes},
-             {key.mask_bytes, key.mask_bytes + key.num_bytes},
-             key.priority,
-             key.partition_index};
-}
-
-const ActionRow *find_action(const TableRow &row, pd_act_fn_hdl fn) {
-  for (uint16_t i = 0; i < row.num_actions; ++i) {
-    if (row.actions[i].handle == fn) return &row.actions[i];
-  }
-  return nullptr;
-}
-
-bool is_reference(uint8_t kind) {
-  return kind == PD_RECORD_KIND_MEMBER_REF || kind == PD_RECORD_KIND_GROUP_REF;
-}
-
-// An action record for an entry (as_default false) or the default of a table.
-pd_status check_action(const TableRow &row, pd_act_fn_hdl fn, const pd_action_record *act,
-                       bool as_default) {
-  if (act == nullptr || act->resource_count > PD_ACTION_RESOURCE_SLOTS) return kBad;
-  if (is_reference(act->record_kind)) return row.indirect ? kOk : kBad;
-  if (act->record_kind != PD_RECORD_KIND_DIRECT) return kBad;
-  if (row.indirect && !as_default) return kBad;  // entries of a profile table name a member
-  const ActionRow *a = find_action(row, fn);
-  if (a == nullptr || !(as_default ? a->default_use : a->entry_use)) {
-    return ORBISK_MODEL_NO_SUCH_ACTION;
-  }
-  if (act->num_bytes != a->data_bytes || act->num_valid_bits != a->data_bits) return kBad;
-  if (act->num_bytes != 0 && act->data_bytes == nullptr) return kBad;
-  return kOk;
-}
-
-Action action_of(pd_act_fn_hdl fn, const pd_action_record &act) {
-  Action a;
-  a.fn = fn;
-  a.kind = act.record_kind;
-  if (is_reference(act.record_kind)) {
-    a.member = act.member_hdl;
-    a.group = act.group_hdl;
-  } else {
-    a.bits = act.num_valid_bits;
-    a.data.assign(act.data_bytes, act.data_bytes + act.num_bytes);
-  }
-  a.resource_count = act.resource_count;
-  std::copy_n(act.resources, act.resource_count, a.slots);
-  return a;
+Passing passing(const pd_match_record *key, const pd_action_record *act) {
+  Passing p;
+  p.key(key);
+  p.act(act);
+  return p;
 }
 
 // Whether a read's action record has room for what is stored.
-pd_status check_room(const Action &stored, const pd_action_record *act, const pd_act_fn_hdl *fn) {
+pd_status check_room(const ActionView &stored, const pd_action_record *act,
+                     const pd_act_fn_hdl *fn) {
   if (act == nullptr || fn == nullptr) return kBad;
-  if (stored.data.size() > act->num_bytes) return kBad;
-  if (!stored.data.empty() && act->data_bytes == nullptr) return kBad;
+  if (stored.data_len > act->num_bytes) return kBad;
+  if (stored.data_len != 0 && act->data_bytes == nullptr) return kBad;
   return kOk;
 }
 
 // Answers a read with a stored action, bent by a pending quirk if any.
-void write_action(Model &m, const Action &stored, pd_action_record *act, pd_act_fn_hdl *fn) {
+void write_action(TableStore &s, const ActionView &stored, pd_action_record *act,
+                  pd_act_fn_hdl *fn) {
   act->record_kind = stored.kind;
   act->resource_count = stored.resource_count;
   std::copy_n(stored.slots, stored.resource_count, act->resources);
   act->num_valid_bits = stored.bits;
-  act->num_bytes = uint16_t(stored.data.size());
-  if (!stored.data.empty()) std::memcpy(act->data_bytes, stored.data.data(), stored.data.size());
+  act->num_bytes = stored.data_len;
+  if (stored.data_len != 0) std::memcpy(act->data_bytes, stored.data, stored.data_len);
   act->member_hdl = stored.member;
   act->group_hdl = stored.group;
   *fn = stored.fn;
-  if (m.quirk_kind >= 0) act->record_kind = uint8_t(m.quirk_kind);
-  if (m.quirk_fn >= 0) *fn = pd_act_fn_hdl(m.quirk_fn);
-  m.quirk_kind = -1;
-  m.quirk_fn = -1;
+  if (s.quirk_kind >= 0) act->record_kind = uint8_t(s.quirk_kind);
+  if (s.quirk_fn >= 0) *fn = pd_act_fn_hdl(s.quirk_fn);
+  s.quirk_kind = -1;
+  s.quirk_fn = -1;
 }
 
-Entry *find_entry(Table &t, pd_entry_hdl hdl) {
-  auto it = t.entries.find(hdl);
-  return it == t.entries.end() ? nullptr : &it->second;
-}
-
-// The entry with this key, after the key record has been checked.
-Entry *find_by_key(Table &t, const pd_match_record &key, pd_entry_hdl *hdl = nullptr) {
-  auto it = t.by_key.find(key_of(key));
-  if (it == t.by_key.end()) return nullptr;
-  if (hdl != nullptr) *hdl = it->second;
-  return &t.entries.at(it->second);
-}
-
-void erase_entry(Table &t, pd_entry_hdl hdl) {
-  auto it = t.entries.find(hdl);
-  t.by_key.erase(it->second.key);
-  t.entries.erase(it);
+// The default a table holds: its own once written, else the declared one.
+DefaultAction default_of(const MatchTable *t, const TableDesc &d) {
+  return t != nullptr ? t->default_action : DefaultAction::declared(d);
 }
 
 }  // namespace
 
 extern "C" {
 
+// ------------------------------------------------------------- entries ---
+
 pd_status pipe_mgr_mat_ent_add(pd_sess_hdl sess, pd_dev_target target, pd_tbl_hdl tbl,
                                pd_match_record *key, pd_act_fn_hdl fn, pd_action_record *act,
                                uint32_t ttl, uint32_t flags, pd_entry_hdl *entry_hdl) {
-  return run("pipe_mgr_mat_ent_add",
+  return run(Fn::pipe_mgr_mat_ent_add,
              {arg(sess), arg(target), arg(tbl), arg(key), arg(fn), arg(act), arg(ttl), arg(flags),
               arg(entry_hdl)},
-             key, act, [&](Model &m) {
-               Table *t = m.table(target.device_id, tbl);
-               if (t == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
+             passing(key, act), [&](Model &m) {
+               const TableDesc *d = find_table(tbl);
+               if (d == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
                if (entry_hdl == nullptr) return kBad;
-               if (pd_status s = check_key(*t->row, key)) return s;
-               if (pd_status s = check_action(*t->row, fn, act, false)) return s;
-               Key k = key_of(*key);
-               if (t->by_key.count(k)) return ORBISK_MODEL_ENTRY_EXISTS;
-               if (t->entries.size() >= t->capacity) return ORBISK_MODEL_TABLE_FULL;
-               pd_entry_hdl hdl = t->next_hdl++;
-               t->by_key.emplace(k, hdl);
-               t->entries.emplace(hdl, Entry{std::move(k), action_of(fn, *act), ttl});
+               if (pd_status s = check_key(*d, key)) return s;
+               if (pd_status s = check_action(*d, fn, act, false)) return s;
+               MatchTable *t = m.tables.find(target.device_id, *d);
+               uint32_t hash = 0;
+               if (t != nullptr) {
+                 hash = t->hash_of(*key);
+                 if (t->find(*key, hash) != 0) return ORBISK_MODEL_ENTRY_EXISTS;
+                 if (t->size() >= t->capacity) return ORBISK_MODEL_TABLE_FULL;
+               } else {
+                 t = &m.tables.make(target.device_id, *d);
+                 hash = t->hash_of(*key);
+               }
+               const pd_entry_hdl hdl = t->insert(*key, hash, fn, *act, ttl);
+               if (hdl == 0) return ORBISK_MODEL_TABLE_FULL;  // every handle in use
                *entry_hdl = hdl;
                return kOk;
              });
@@ -145,15 +94,16 @@ pd_status pipe_mgr_mat_ent_add(pd_sess_hdl sess, pd_dev_target target, pd_tbl_hd
 pd_status pipe_mgr_mat_ent_set_action(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl tbl,
                                       pd_entry_hdl entry_hdl, pd_act_fn_hdl fn,
                                       pd_action_record *act, uint32_t flags) {
-  return run("pipe_mgr_mat_ent_set_action",
+  return run(Fn::pipe_mgr_mat_ent_set_action,
              {arg(sess), arg(device_id), arg(tbl), arg(entry_hdl), arg(fn), arg(act), arg(flags)},
-             nullptr, act, [&](Model &m) {
-               Table *t = m.table(device_id, tbl);
-               if (t == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
-               if (pd_status s = check_action(*t->row, fn, act, false)) return s;
-               Entry *e = find_entry(*t, entry_hdl);
-               if (e == nullptr) return ORBISK_MODEL_NO_SUCH_ENTRY;
-               e->action = action_of(fn, *act);
+             passing(nullptr, act), [&](Model &m) {
+               const TableDesc *d = find_table(tbl);
+               if (d == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
+               if (pd_status s = check_action(*d, fn, act, false)) return s;
+               MatchTable *t = m.tables.find(device_id, *d);
+               const MatchTable::Entry e = t ? t->find(entry_hdl) : MatchTable::Entry{};
+               if (e.head == nullptr) return ORBISK_MODEL_NO_SUCH_ENTRY;
+               t->set_action(e, fn, *act);
                return kOk;
              });
 }
@@ -162,45 +112,48 @@ pd_status pipe_mgr_mat_ent_set_action_by_match_spec(pd_sess_hdl sess, pd_dev_tar
                                                     pd_tbl_hdl tbl, pd_match_record *key,
                                                     pd_act_fn_hdl fn, pd_action_record *act,
                                                     uint32_t flags) {
-  return run("pipe_mgr_mat_ent_set_action_by_match_spec",
-             {arg(sess), arg(target), arg(tbl), arg(key), arg(fn), arg(act), arg(flags)}, key, act,
-             [&](Model &m) {
-               Table *t = m.table(target.device_id, tbl);
-               if (t == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
-               if (pd_status s = check_key(*t->row, key)) return s;
-               if (pd_status s = check_action(*t->row, fn, act, false)) return s;
-               Entry *e = find_by_key(*t, *key);
-               if (e == nullptr) return ORBISK_MODEL_NO_SUCH_ENTRY;
-               e->action = action_of(fn, *act);
+  return run(Fn::pipe_mgr_mat_ent_set_action_by_match_spec,
+             {arg(sess), arg(target), arg(tbl), arg(key), arg(fn), arg(act), arg(flags)},
+             passing(key, act), [&](Model &m) {
+               const TableDesc *d = find_table(tbl);
+               if (d == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
+               if (pd_status s = check_key(*d, key)) return s;
+               if (pd_status s = check_action(*d, fn, act, false)) return s;
+               MatchTable *t = m.tables.find(target.device_id, *d);
+               const pd_entry_hdl hdl = t ? t->find(*key) : 0;
+               if (hdl == 0) return ORBISK_MODEL_NO_SUCH_ENTRY;
+               t->set_action(t->find(hdl), fn, *act);
                return kOk;
              });
 }
 
 pd_status pipe_mgr_mat_ent_del(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl tbl,
                                pd_entry_hdl entry_hdl, uint32_t flags) {
-  return run("pipe_mgr_mat_ent_del",
-             {arg(sess), arg(device_id), arg(tbl), arg(entry_hdl), arg(flags)}, nullptr, nullptr,
-             [&](Model &m) {
-               Table *t = m.table(device_id, tbl);
-               if (t == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
-               if (find_entry(*t, entry_hdl) == nullptr) return ORBISK_MODEL_NO_SUCH_ENTRY;
-               erase_entry(*t, entry_hdl);
+  return run(Fn::pipe_mgr_mat_ent_del,
+             {arg(sess), arg(device_id), arg(tbl), arg(entry_hdl), arg(flags)}, [&](Model &m) {
+               const TableDesc *d = find_table(tbl);
+               if (d == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
+               MatchTable *t = m.tables.find(device_id, *d);
+               if (t == nullptr || t->find(entry_hdl).head == nullptr) {
+                 return ORBISK_MODEL_NO_SUCH_ENTRY;
+               }
+               t->erase(entry_hdl);
                return kOk;
              });
 }
 
-pd_status pipe_mgr_mat_ent_del_by_match_spec(pd_sess_hdl sess, pd_dev_target target,
-                                             pd_tbl_hdl tbl, pd_match_record *key,
-                                             uint32_t flags) {
-  return run("pipe_mgr_mat_ent_del_by_match_spec",
-             {arg(sess), arg(target), arg(tbl), arg(key), arg(flags)}, key, nullptr,
+pd_status pipe_mgr_mat_ent_del_by_match_spec(pd_sess_hdl sess, pd_dev_target target, pd_tbl_hdl tbl,
+                                             pd_match_record *key, uint32_t flags) {
+  return run(Fn::pipe_mgr_mat_ent_del_by_match_spec,
+             {arg(sess), arg(target), arg(tbl), arg(key), arg(flags)}, passing(key, nullptr),
              [&](Model &m) {
-               Table *t = m.table(target.device_id, tbl);
-               if (t == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
-               if (pd_status s = check_key(*t->row, key)) return s;
-               pd_entry_hdl hdl = 0;
-               if (find_by_key(*t, *key, &hdl) == nullptr) return ORBISK_MODEL_NO_SUCH_ENTRY;
-               erase_entry(*t, hdl);
+               const TableDesc *d = find_table(tbl);
+               if (d == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
+               if (pd_status s = check_key(*d, key)) return s;
+               MatchTable *t = m.tables.find(target.device_id, *d);
+               const pd_entry_hdl hdl = t ? t->find(*key) : 0;
+               if (hdl == 0) return ORBISK_MODEL_NO_SUCH_ENTRY;
+               t->erase(hdl);
                return kOk;
              });
 }
@@ -208,15 +161,16 @@ pd_status pipe_mgr_mat_ent_del_by_match_spec(pd_sess_hdl sess, pd_dev_target tar
 pd_status pipe_mgr_match_spec_to_ent_hdl(pd_sess_hdl sess, pd_dev_target target, pd_tbl_hdl tbl,
                                          pd_match_record *key, pd_entry_hdl *entry_hdl,
                                          uint32_t flags) {
-  return run("pipe_mgr_match_spec_to_ent_hdl",
-             {arg(sess), arg(target), arg(tbl), arg(key), arg(entry_hdl), arg(flags)}, key,
-             nullptr, [&](Model &m) {
-               Table *t = m.table(target.device_id, tbl);
-               if (t == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
+  return run(Fn::pipe_mgr_match_spec_to_ent_hdl,
+             {arg(sess), arg(target), arg(tbl), arg(key), arg(entry_hdl), arg(flags)},
+             passing(key, nullptr), [&](Model &m) {
+               const TableDesc *d = find_table(tbl);
+               if (d == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
                if (entry_hdl == nullptr) return kBad;
-               if (pd_status s = check_key(*t->row, key)) return s;
-               pd_entry_hdl hdl = 0;
-               if (find_by_key(*t, *key, &hdl) == nullptr) return ORBISK_MODEL_NO_SUCH_ENTRY;
+               if (pd_status s = check_key(*d, key)) return s;
+               const MatchTable *t = m.tables.find(target.device_id, *d);
+               const pd_entry_hdl hdl = t ? t->find(*key) : 0;
+               if (hdl == 0) return ORBISK_MODEL_NO_SUCH_ENTRY;
                *entry_hdl = hdl;
                return kOk;
              });
@@ -226,26 +180,27 @@ pd_status pipe_mgr_match_spec_to_ent_hdl(pd_sess_hdl sess, pd_dev_target target,
 
 pd_status pipe_mgr_get_entry_count(pd_sess_hdl sess, pd_dev_target target, pd_tbl_hdl tbl,
                                    uint32_t read_from_hw, uint32_t *count) {
-  return run("pipe_mgr_get_entry_count",
-             {arg(sess), arg(target), arg(tbl), arg(read_from_hw), arg(count)}, nullptr, nullptr,
-             [&](Model &m) {
-               Table *t = m.table(target.device_id, tbl);
-               if (t == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
+  return run(Fn::pipe_mgr_get_entry_count,
+             {arg(sess), arg(target), arg(tbl), arg(read_from_hw), arg(count)}, [&](Model &m) {
+               const TableDesc *d = find_table(tbl);
+               if (d == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
                if (count == nullptr) return kBad;
-               *count = uint32_t(t->entries.size());
+               const MatchTable *t = m.tables.find(target.device_id, *d);
+               *count = t ? uint32_t(t->size()) : 0;
                return kOk;
              });
 }
 
 pd_status pipe_mgr_get_first_entry_handle(pd_sess_hdl sess, pd_tbl_hdl tbl, pd_dev_target target,
                                           pd_entry_hdl *entry_hdl) {
-  return run("pipe_mgr_get_first_entry_handle",
-             {arg(sess), arg(tbl), arg(target), arg(entry_hdl)}, nullptr, nullptr, [&](Model &m) {
-               Table *t = m.table(target.device_id, tbl);
-               if (t == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
+  return run(Fn::pipe_mgr_get_first_entry_handle,
+             {arg(sess), arg(tbl), arg(target), arg(entry_hdl)}, [&](Model &m) {
+               const TableDesc *d = find_table(tbl);
+               if (d == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
                if (entry_hdl == nullptr) return kBad;
-               if (t->entries.empty()) return ORBISK_MODEL_NO_SUCH_ENTRY;
-               *entry_hdl = t->entries.begin()->first;
+               const MatchTable *t = m.tables.find(target.device_id, *d);
+               if (t == nullptr || t->size() == 0) return ORBISK_MODEL_NO_SUCH_ENTRY;
+               *entry_hdl = t->next(0);
                return kOk;
              });
 }
@@ -253,59 +208,66 @@ pd_status pipe_mgr_get_first_entry_handle(pd_sess_hdl sess, pd_tbl_hdl tbl, pd_d
 pd_status pipe_mgr_get_next_entry_handles(pd_sess_hdl sess, pd_tbl_hdl tbl, pd_dev_target target,
                                           pd_entry_hdl entry_hdl, uint32_t count,
                                           pd_entry_hdl *next_hdls) {
-  return run("pipe_mgr_get_next_entry_handles",
+  return run(Fn::pipe_mgr_get_next_entry_handles,
              {arg(sess), arg(tbl), arg(target), arg(entry_hdl), arg(count), arg(next_hdls)},
-             nullptr, nullptr, [&](Model &m) {
-               Table *t = m.table(target.device_id, tbl);
-               if (t == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
+             [&](Model &m) {
+               const TableDesc *d = find_table(tbl);
+               if (d == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
                if (count != 0 && next_hdls == nullptr) return kBad;
-               auto it = t->entries.find(entry_hdl);
-               if (it == t->entries.end()) return ORBISK_MODEL_NO_SUCH_ENTRY;
+               const MatchTable *t = m.tables.find(target.device_id, *d);
+               if (t == nullptr || t->find(entry_hdl).head == nullptr) {
+                 return ORBISK_MODEL_NO_SUCH_ENTRY;
+               }
+               pd_entry_hdl h = entry_hdl;
                for (uint32_t i = 0; i < count; ++i) {
-                 if (it != t->entries.end()) ++it;
-                 next_hdls[i] = it == t->entries.end() ? ORBISK_MODEL_NO_HANDLE : it->first;
+                 if (h != 0) h = t->next(h);
+                 next_hdls[i] = h != 0 ? h : ORBISK_MODEL_NO_HANDLE;
                }
                return kOk;
              });
 }
 
 pd_status pipe_mgr_get_entry(pd_sess_hdl sess, pd_tbl_hdl tbl, pd_dev_target target,
-                             pd_entry_hdl entry_hdl, pd_match_record *key,
-                             pd_action_record *act, pd_act_fn_hdl *fn, uint32_t read_from_hw,
-                             uint32_t resource_get_flags, uint32_t reserved) {
-  return run("pipe_mgr_get_entry",
-             {arg(sess), arg(tbl), arg(target), arg(entry_hdl), arg(key), arg(act), arg(fn),
-              arg(read_from_hw), arg(resource_get_flags), arg(reserved)},
-             key, act, [&](Model &m) {
-               Table *t = m.table(target.device_id, tbl);
-               if (t == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
-               if (key == nullptr) return kBad;
-               if (entry_hdl == ORBISK_MODEL_DEFAULT_ENTRY_HDL) {
-                 if (pd_status s = check_room(t->default_action, act, fn)) return s;
-                 // A key of no bytes marks the default entry.
-                 key->num_bytes = 0;
-                 key->num_valid_bits = 0;
-                 key->priority = 0;
-                 key->partition_index = 0;
-                 write_action(m, t->default_action, act, fn);
-                 return kOk;
-               }
-               Entry *e = find_entry(*t, entry_hdl);
-               if (e == nullptr) return ORBISK_MODEL_NO_SUCH_ENTRY;
-               const std::size_t n = e->key.value.size();
-               if (key->num_bytes < n || key->value_bytes == nullptr || key->mask_bytes == nullptr) {
-                 return kBad;
-               }
-               if (pd_status s = check_room(e->action, act, fn)) return s;
-               std::memcpy(key->value_bytes, e->key.value.data(), n);
-               std::memcpy(key->mask_bytes, e->key.mask.data(), n);
-               key->num_bytes = t->row->key_bytes;
-               key->num_valid_bits = t->row->key_bits;
-               key->priority = e->key.priority;
-               key->partition_index = e->key.partition;
-               write_action(m, e->action, act, fn);
-               return kOk;
-             });
+                             pd_entry_hdl entry_hdl, pd_match_record *key, pd_action_record *act,
+                             pd_act_fn_hdl *fn, uint32_t read_from_hw, uint32_t resource_get_flags,
+                             uint32_t reserved) {
+  return run(
+      Fn::pipe_mgr_get_entry,
+      {arg(sess), arg(tbl), arg(target), arg(entry_hdl), arg(key), arg(act), arg(fn),
+       arg(read_from_hw), arg(resource_get_flags), arg(reserved)},
+      passing(key, act), [&](Model &m) {
+        const TableDesc *d = find_table(tbl);
+        if (d == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
+        if (key == nullptr) return kBad;
+        const MatchTable *t = m.tables.find(target.device_id, *d);
+        if (entry_hdl == ORBISK_MODEL_DEFAULT_ENTRY_HDL) {
+          const DefaultAction dflt = default_of(t, *d);
+          if (pd_status s = check_room(dflt.view(), act, fn)) return s;
+          // A key of no bytes marks the default entry.
+          key->num_bytes = 0;
+          key->num_valid_bits = 0;
+          key->priority = 0;
+          key->partition_index = 0;
+          write_action(m.tables, dflt.view(), act, fn);
+          return kOk;
+        }
+        const MatchTable::Entry e = t ? t->find(entry_hdl) : MatchTable::Entry{};
+        if (e.head == nullptr) return ORBISK_MODEL_NO_SUCH_ENTRY;
+        const uint16_t n = d->key_bytes;
+        if (key->num_bytes < n || key->value_bytes == nullptr || key->mask_bytes == nullptr) {
+          return kBad;
+        }
+        const ActionView stored = t->action(e);
+        if (pd_status s = check_room(stored, act, fn)) return s;
+        std::memcpy(key->value_bytes, e.value, n);
+        std::memcpy(key->mask_bytes, e.mask, n);
+        key->num_bytes = n;
+        key->num_valid_bits = d->key_bits;
+        key->priority = e.head->priority;
+        key->partition_index = e.head->partition;
+        write_action(m.tables, stored, act, fn);
+        return kOk;
+      });
 }
 
 // ------------------------------------------------------------- defaults ---
@@ -313,40 +275,41 @@ pd_status pipe_mgr_get_entry(pd_sess_hdl sess, pd_tbl_hdl tbl, pd_dev_target tar
 pd_status pipe_mgr_mat_default_entry_set(pd_sess_hdl sess, pd_dev_target target, pd_tbl_hdl tbl,
                                          pd_act_fn_hdl fn, pd_action_record *act, uint32_t flags,
                                          pd_entry_hdl *entry_hdl) {
-  return run("pipe_mgr_mat_default_entry_set",
+  return run(Fn::pipe_mgr_mat_default_entry_set,
              {arg(sess), arg(target), arg(tbl), arg(fn), arg(act), arg(flags), arg(entry_hdl)},
-             nullptr, act, [&](Model &m) {
-               Table *t = m.table(target.device_id, tbl);
-               if (t == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
+             passing(nullptr, act), [&](Model &m) {
+               const TableDesc *d = find_table(tbl);
+               if (d == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
                if (entry_hdl == nullptr) return kBad;
-               if (pd_status s = check_action(*t->row, fn, act, true)) return s;
-               t->default_action = action_of(fn, *act);
+               if (pd_status s = check_action(*d, fn, act, true)) return s;
+               m.tables.make(target.device_id, *d).default_action = DefaultAction::of(fn, *act);
                *entry_hdl = ORBISK_MODEL_DEFAULT_ENTRY_HDL;
                return kOk;
              });
 }
 
-pd_status pipe_mgr_table_get_default_entry(pd_sess_hdl sess, pd_dev_target target,
-                                           pd_tbl_hdl tbl, pd_action_record *act,
-                                           pd_act_fn_hdl *fn, uint32_t read_from_hw,
-                                           uint32_t resource_get_flags, uint32_t reserved) {
-  return run("pipe_mgr_table_get_default_entry",
+pd_status pipe_mgr_table_get_default_entry(pd_sess_hdl sess, pd_dev_target target, pd_tbl_hdl tbl,
+                                           pd_action_record *act, pd_act_fn_hdl *fn,
+                                           uint32_t read_from_hw, uint32_t resource_get_flags,
+                                           uint32_t reserved) {
+  return run(Fn::pipe_mgr_table_get_default_entry,
              {arg(sess), arg(target), arg(tbl), arg(act), arg(fn), arg(read_from_hw),
               arg(resource_get_flags), arg(reserved)},
-             nullptr, act, [&](Model &m) {
-               Table *t = m.table(target.device_id, tbl);
-               if (t == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
-               if (pd_status s = check_room(t->default_action, act, fn)) return s;
-               write_action(m, t->default_action, act, fn);
+             passing(nullptr, act), [&](Model &m) {
+               const TableDesc *d = find_table(tbl);
+               if (d == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
+               const DefaultAction dflt = default_of(m.tables.find(target.device_id, *d), *d);
+               if (pd_status s = check_room(dflt.view(), act, fn)) return s;
+               write_action(m.tables, dflt.view(), act, fn);
                return kOk;
              });
 }
 
 pd_status pipe_mgr_table_get_default_entry_handle(pd_sess_hdl sess, pd_dev_target target,
                                                   pd_tbl_hdl tbl, pd_entry_hdl *entry_hdl) {
-  return run("pipe_mgr_table_get_default_entry_handle",
-             {arg(sess), arg(target), arg(tbl), arg(entry_hdl)}, nullptr, nullptr, [&](Model &m) {
-               if (m.table(target.device_id, tbl) == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
+  return run(Fn::pipe_mgr_table_get_default_entry_handle,
+             {arg(sess), arg(target), arg(tbl), arg(entry_hdl)}, [&](Model &) {
+               if (find_table(tbl) == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
                if (entry_hdl == nullptr) return kBad;
                *entry_hdl = ORBISK_MODEL_DEFAULT_ENTRY_HDL;
                return kOk;
@@ -355,13 +318,56 @@ pd_status pipe_mgr_table_get_default_entry_handle(pd_sess_hdl sess, pd_dev_targe
 
 pd_status pipe_mgr_mat_tbl_default_entry_reset(pd_sess_hdl sess, pd_dev_target target,
                                                pd_tbl_hdl tbl, uint32_t flags) {
-  return run("pipe_mgr_mat_tbl_default_entry_reset",
-             {arg(sess), arg(target), arg(tbl), arg(flags)}, nullptr, nullptr, [&](Model &m) {
-               Table *t = m.table(target.device_id, tbl);
-               if (t == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
-               t->default_action = declared_default(*t->row);
+  return run(Fn::pipe_mgr_mat_tbl_default_entry_reset,
+             {arg(sess), arg(target), arg(tbl), arg(flags)}, [&](Model &m) {
+               const TableDesc *d = find_table(tbl);
+               if (d == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
+               // A table without state holds its declared default already.
+               if (MatchTable *t = m.tables.find(target.device_id, *d)) {
+                 t->default_action = DefaultAction::declared(*d);
+               }
                return kOk;
              });
+}
+
+// ---------------------------------------------------- controls, observers ---
+
+pd_status orbisk_model_set_capacity(uint32_t device_id, pd_tbl_hdl tbl, uint32_t capacity) {
+  return in_frame([&](Model &m) {
+    const TableDesc *d = find_table(tbl);
+    if (d == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
+    m.tables.make(device_id, *d).capacity = capacity;
+    return kOk;
+  });
+}
+
+pd_status orbisk_model_set_next_handle(uint32_t device_id, pd_tbl_hdl tbl, pd_entry_hdl hdl) {
+  return in_frame([&](Model &m) {
+    const TableDesc *d = find_table(tbl);
+    if (d == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
+    if (hdl == 0 || hdl > kMaxEntryHdl) return ORBISK_MODEL_BAD_CONTROL;
+    m.tables.make(device_id, *d).cursor = hdl;
+    return kOk;
+  });
+}
+
+void orbisk_model_quirk_next_read(int record_kind, int64_t act_fn) {
+  in_frame([&](Model &m) {
+    m.tables.quirk_kind = record_kind;
+    m.tables.quirk_fn = act_fn;
+  });
+}
+
+size_t orbisk_model_entry_count(uint32_t device_id, pd_tbl_hdl tbl) {
+  return in_frame([&](Model &m) -> size_t {
+    const TableDesc *d = find_table(tbl);
+    const MatchTable *t = d ? m.tables.find(device_id, *d) : nullptr;
+    return t ? t->size() : 0;
+  });
+}
+
+size_t orbisk_model_device_count(void) {
+  return in_frame([](Model &m) { return m.tables.device_count(); });
 }
 
 }  // extern "C"

@@ -11,6 +11,8 @@ int c_view_last_call(char *function, size_t room, uint64_t *first_arg, uint8_t *
   strncpy(function, c->function, room - 1);
   function[room - 1] = '\0';
   *first_arg = c->num_args > 0 ? c->args[0] : 0;
-  *first_key_byte = c->has_key && c->key.value_bytes ? c->key.value_bytes[0] : 0;
+  size_t n = 0;
+  const uint8_t *value = orbisk_model_call_bytes(c, "key.value", &n);
+  *first_key_byte = value != NULL && n > 0 ? value[0] : 0;
   return 1;
 }

@@ -1,5 +1,5 @@
-// Entries, walks and defaults of the model, driven through the driver
-// functions with hand-built records.
+// Entries, walks, defaults, widths, handles and devices of the model, driven
+// through the driver functions with records built from the descriptors.
 #include "model_test_support.h"
 
 using namespace model_test;
@@ -9,21 +9,21 @@ namespace {
 using Entries = ModelTest;
 
 TEST_F(Entries, AddedEntryReadsBackAsStored) {
-  L2Key k(0x10);
-  UcastAct a(7);
+  Key k(l2, 0x10);
+  Act a(ucast_desc, 7);
   pd_entry_hdl hdl = 0;
-  ASSERT_EQ(BF_SUCCESS, pipe_mgr_mat_ent_add(kSess, kDev0, kL2Lookup, &k.rec, kKnownUcast, &a.rec,
-                                             3000, 0, &hdl));
+  ASSERT_EQ(BF_SUCCESS,
+            pipe_mgr_mat_ent_add(kSess, kDev0, l2.handle, &k.rec, ucast, &a.rec, 3000, 0, &hdl));
   EXPECT_EQ(1u, hdl);
-  EXPECT_EQ(1u, orbisk_model_entry_count(0, kL2Lookup));
+  EXPECT_EQ(1u, orbisk_model_entry_count(0, l2.handle));
 
   Read r(8);
-  ASSERT_EQ(BF_SUCCESS, r.get(kL2Lookup, hdl));
+  ASSERT_EQ(BF_SUCCESS, r.get(l2.handle, hdl));
   EXPECT_EQ(0, std::memcmp(r.value, k.value, 8));
   EXPECT_EQ(0, std::memcmp(r.mask, k.mask, 8));
   EXPECT_EQ(8u, r.key.num_bytes);
   EXPECT_EQ(60u, r.key.num_valid_bits);
-  EXPECT_EQ(kKnownUcast, r.fn);
+  EXPECT_EQ(ucast, r.fn);
   EXPECT_EQ(PD_RECORD_KIND_DIRECT, r.act.record_kind);
   EXPECT_EQ(3u, r.act.num_bytes);
   EXPECT_EQ(20u, r.act.num_valid_bits);
@@ -33,33 +33,43 @@ TEST_F(Entries, AddedEntryReadsBackAsStored) {
 }
 
 TEST_F(Entries, TernaryKeysDifferByPriorityAndKeepTheirSlot) {
-  Key k1(8, 57, 0x20, 5), k2(8, 57, 0x20, 6), dup(8, 57, 0x20, 5);
-  Act a(2, 9, 1);
+  Key k1(dmac, 0x20, 5), k2(dmac, 0x20, 6), dup(dmac, 0x20, 5);
+  Act a(*use(dmac, "setL2ControlFrame").action, 1);
   a.rec.resource_count = 1;
-  a.rec.resources[0].resource_hdl = kDmacCounter;
+  a.rec.resources[0].resource_hdl = dmac.resource->handle;
   a.rec.resources[0].resource_index = 42;
   a.rec.resources[0].resource_tag = PD_RESOURCE_TAG_ATTACHED;
+  const pd_act_fn_hdl set = fn(dmac, "setL2ControlFrame");
   pd_entry_hdl h1 = 0, h2 = 0, h3 = 0x5555;
-  ASSERT_EQ(BF_SUCCESS, add(kDmac, k1, kSetL2ControlFrame, a, &h1));
-  ASSERT_EQ(BF_SUCCESS, add(kDmac, k2, kSetL2ControlFrame, a, &h2));
-  EXPECT_EQ(ORBISK_MODEL_ENTRY_EXISTS, add(kDmac, dup, kSetL2ControlFrame, a, &h3));
+  ASSERT_EQ(BF_SUCCESS, add(dmac.handle, k1, set, a, &h1));
+  ASSERT_EQ(BF_SUCCESS, add(dmac.handle, k2, set, a, &h2));
+  EXPECT_EQ(ORBISK_MODEL_ENTRY_EXISTS, add(dmac.handle, dup, set, a, &h3));
   EXPECT_EQ(0x5555u, h3);
-  EXPECT_EQ(2u, orbisk_model_entry_count(0, kDmac));
+  EXPECT_EQ(2u, orbisk_model_entry_count(0, dmac.handle));
 
   // A mask differing in one bit is another key.
   dup.mask[7] = 0xFE;
-  EXPECT_EQ(BF_SUCCESS, add(kDmac, dup, kSetL2ControlFrame, a, &h3));
+  dup.value[7] &= 0xFE;
+  EXPECT_EQ(BF_SUCCESS, add(dmac.handle, dup, set, a, &h3));
 
   Read r(8);
-  ASSERT_EQ(BF_SUCCESS, r.get(kDmac, h2));
+  ASSERT_EQ(BF_SUCCESS, r.get(dmac.handle, h2));
   EXPECT_EQ(6u, r.key.priority);
   ASSERT_EQ(1u, r.act.resource_count);
-  EXPECT_EQ(kDmacCounter, r.act.resources[0].resource_hdl);
+  EXPECT_EQ(dmac.resource->handle, r.act.resources[0].resource_hdl);
   EXPECT_EQ(42u, r.act.resources[0].resource_index);
   EXPECT_EQ(PD_RESOURCE_TAG_ATTACHED, r.act.resources[0].resource_tag);
+  // The slot goes with the entry: a change of action without one drops it.
+  Act plain(*use(dmac, "setL2ControlFrame").action, 2);
+  ASSERT_EQ(BF_SUCCESS, pipe_mgr_mat_ent_set_action(kSess, 0, dmac.handle, h2, set, &plain.rec, 0));
+  ASSERT_EQ(BF_SUCCESS, r.get(dmac.handle, h2));
+  EXPECT_EQ(0u, r.act.resource_count);
+  ASSERT_EQ(BF_SUCCESS, r.get(dmac.handle, h1));
+  EXPECT_EQ(42u, r.act.resources[0].resource_index);
 }
 
 TEST_F(Entries, RejectedAddsChangeNothing) {
+  const pd_act_fn_hdl other = fn(dmac, "setL2ControlFrame");
   struct Case {
     const char *what;
     pd_tbl_hdl tbl;
@@ -69,22 +79,21 @@ TEST_F(Entries, RejectedAddsChangeNothing) {
     pd_status want;
   };
   const Case cases[] = {
-      {"unknown table", kNoTable, 8, 60, 3, 20, kKnownUcast, 1, ORBISK_MODEL_NO_SUCH_TABLE},
-      {"key bytes", kL2Lookup, 9, 60, 3, 20, kKnownUcast, 1, ORBISK_MODEL_BAD_RECORD},
-      {"key bits", kL2Lookup, 8, 59, 3, 20, kKnownUcast, 1, ORBISK_MODEL_BAD_RECORD},
-      {"data bytes", kL2Lookup, 8, 60, 2, 20, kKnownUcast, 1, ORBISK_MODEL_BAD_RECORD},
-      {"data bits", kL2Lookup, 8, 60, 3, 21, kKnownUcast, 1, ORBISK_MODEL_BAD_RECORD},
-      {"other table's action", kL2Lookup, 8, 60, 2, 9, kSetL2ControlFrame, 1,
-       ORBISK_MODEL_NO_SUCH_ACTION},
-      {"member ref on direct table", kL2Lookup, 8, 60, 3, 20, kKnownUcast, 2,
-       ORBISK_MODEL_BAD_RECORD},
-      {"unknown record kind", kL2Lookup, 8, 60, 3, 20, kKnownUcast, 3, ORBISK_MODEL_BAD_RECORD},
-      {"keyless table", kIngStpCheck, 0, 0, 0, 0, kIngStpAction, 1, ORBISK_MODEL_BAD_RECORD},
-      {"direct entry on profile table", kEcmpGroup, 2, 15, 0, 0, 0x30000019, 1,
+      {"unknown table", kNoTable, 8, 60, 3, 20, ucast, 1, ORBISK_MODEL_NO_SUCH_TABLE},
+      {"key bytes", l2.handle, 9, 60, 3, 20, ucast, 1, ORBISK_MODEL_BAD_RECORD},
+      {"key bits", l2.handle, 8, 59, 3, 20, ucast, 1, ORBISK_MODEL_BAD_RECORD},
+      {"data bytes", l2.handle, 8, 60, 2, 20, ucast, 1, ORBISK_MODEL_BAD_RECORD},
+      {"data bits", l2.handle, 8, 60, 3, 21, ucast, 1, ORBISK_MODEL_BAD_RECORD},
+      {"other table's action", l2.handle, 8, 60, 2, 9, other, 1, ORBISK_MODEL_NO_SUCH_ACTION},
+      {"member ref on direct table", l2.handle, 8, 60, 3, 20, ucast, 2, ORBISK_MODEL_BAD_RECORD},
+      {"unknown record kind", l2.handle, 8, 60, 3, 20, ucast, 3, ORBISK_MODEL_BAD_RECORD},
+      {"keyless table", stp.handle, 0, 0, 0, 0, stp.actions[0].handle, 1, ORBISK_MODEL_BAD_RECORD},
+      {"direct entry on profile table", ecmp.handle, 2, 15, 0, 0, ecmp.actions[0].handle, 1,
        ORBISK_MODEL_BAD_RECORD},
   };
   for (const Case &c : cases) {
     Key k(c.key_bytes, c.key_bits, 1);
+    k.value[6] = 0;  // the l2Lookup domain within its width
     Act a(c.data_bytes, c.data_bits, 1);
     a.rec.record_kind = c.kind;
     pd_entry_hdl hdl = 0x5555;
@@ -92,202 +101,165 @@ TEST_F(Entries, RejectedAddsChangeNothing) {
     EXPECT_EQ(0x5555u, hdl) << c.what;
     EXPECT_EQ(0u, orbisk_model_entry_count(0, c.tbl)) << c.what;
   }
-  UcastAct a(1);
+  Act a(ucast_desc, 1);
   pd_entry_hdl hdl = 0;
   EXPECT_EQ(ORBISK_MODEL_BAD_RECORD,
-            pipe_mgr_mat_ent_add(kSess, kDev0, kL2Lookup, nullptr, kKnownUcast, &a.rec, 0, 0, &hdl));
-  // A failed add gives out no handle.
-  L2Key k(1);
-  ASSERT_EQ(BF_SUCCESS, add(kL2Lookup, k, kKnownUcast, a, &hdl));
-  EXPECT_EQ(1u, hdl);
+            pipe_mgr_mat_ent_add(kSess, kDev0, l2.handle, nullptr, ucast, &a.rec, 0, 0, &hdl));
+  Key k(l2, 1);
+  ASSERT_EQ(BF_SUCCESS, add(l2.handle, k, ucast, a, &hdl));
+  EXPECT_EQ(1u, hdl) << "a refused add gave out a handle";
 }
 
 TEST_F(Entries, ProfileTableEntriesNameMembers) {
-  Key k(2, 15, 3);
+  Key k(ecmp, 3);
   Act a(0, 0, 0);
   a.rec.record_kind = PD_RECORD_KIND_GROUP_REF;
   a.rec.group_hdl = 77;
   pd_entry_hdl hdl = 0;
-  ASSERT_EQ(BF_SUCCESS, add(kEcmpGroup, k, 0x30000018, a, &hdl));
+  ASSERT_EQ(BF_SUCCESS, add(ecmp.handle, k, ecmp.actions[0].handle, a, &hdl));
   Read r(2);
-  ASSERT_EQ(BF_SUCCESS, r.get(kEcmpGroup, hdl));
+  ASSERT_EQ(BF_SUCCESS, r.get(ecmp.handle, hdl));
   EXPECT_EQ(PD_RECORD_KIND_GROUP_REF, r.act.record_kind);
   EXPECT_EQ(77u, r.act.group_hdl);
   EXPECT_EQ(0u, r.act.num_bytes);
 }
 
-TEST_F(Entries, CapacityAndHandlesAreNeverReused) {
-  EXPECT_EQ(ORBISK_MODEL_NO_SUCH_TABLE, orbisk_model_set_capacity(0, kNoTable, 1));
-  ASSERT_EQ(BF_SUCCESS, orbisk_model_set_capacity(0, kL2Lookup, 2));
-  L2Key k1(1), k2(2), k3(3);
-  UcastAct a(1);
-  pd_entry_hdl h1, h2, h3 = 0x5555;
-  ASSERT_EQ(BF_SUCCESS, add(kL2Lookup, k1, kKnownUcast, a, &h1));
-  ASSERT_EQ(BF_SUCCESS, add(kL2Lookup, k2, kKnownUcast, a, &h2));
-  EXPECT_EQ(ORBISK_MODEL_TABLE_FULL, add(kL2Lookup, k3, kKnownUcast, a, &h3));
-  EXPECT_EQ(0x5555u, h3);
-  // Another device has its own table, capacity and handles.
-  ASSERT_EQ(BF_SUCCESS, add(kL2Lookup, k3, kKnownUcast, a, &h3, kDev1));
-  EXPECT_EQ(1u, h3);
-
-  ASSERT_EQ(BF_SUCCESS, pipe_mgr_mat_ent_del(kSess, 0, kL2Lookup, h1, 0));
-  ASSERT_EQ(BF_SUCCESS, add(kL2Lookup, k1, kKnownUcast, a, &h3));
-  EXPECT_EQ(3u, h3);
-  Read r(8);
-  EXPECT_EQ(ORBISK_MODEL_NO_SUCH_ENTRY, r.get(kL2Lookup, h1));
-}
-
 TEST_F(Entries, ChangeFindAndDeleteByHandleAndByKey) {
-  L2Key k(9), other(10);
-  UcastAct a(1);
-  Act mcast(2, 16, 4);
+  Key k(l2, 9), other(l2, 10);
+  Act a(ucast_desc, 1);
+  const pd_act_fn_hdl mcast = fn(l2, "l2LookupKnownMcast");
+  Act m(*use(l2, "l2LookupKnownMcast").action, 4);
   pd_entry_hdl hdl = 0, found = 0;
-  ASSERT_EQ(BF_SUCCESS, add(kL2Lookup, k, kKnownUcast, a, &hdl));
-
+  ASSERT_EQ(BF_SUCCESS, add(l2.handle, k, ucast, a, &hdl));
+  // Every way to an entry that is not there, or with the wrong record.
   EXPECT_EQ(ORBISK_MODEL_NO_SUCH_ENTRY,
-            pipe_mgr_mat_ent_set_action(kSess, 0, kL2Lookup, hdl + 1, kKnownMcast, &mcast.rec, 0));
+            pipe_mgr_mat_ent_set_action(kSess, 0, l2.handle, hdl + 1, mcast, &m.rec, 0));
   EXPECT_EQ(ORBISK_MODEL_BAD_RECORD,
-            pipe_mgr_mat_ent_set_action(kSess, 0, kL2Lookup, hdl, kKnownMcast, &a.rec, 0));
-  ASSERT_EQ(BF_SUCCESS,
-            pipe_mgr_mat_ent_set_action(kSess, 0, kL2Lookup, hdl, kKnownMcast, &mcast.rec, 0));
-  Read r(8);
-  ASSERT_EQ(BF_SUCCESS, r.get(kL2Lookup, hdl));
-  EXPECT_EQ(kKnownMcast, r.fn);
-  EXPECT_EQ(2u, r.act.num_bytes);
-  EXPECT_EQ(0, std::memcmp(r.data, mcast.data, 2));
-
+            pipe_mgr_mat_ent_set_action(kSess, 0, l2.handle, hdl, mcast, &a.rec, 0));
   EXPECT_EQ(ORBISK_MODEL_NO_SUCH_ENTRY, pipe_mgr_mat_ent_set_action_by_match_spec(
-                                            kSess, kDev0, kL2Lookup, &other.rec, kKnownUcast,
-                                            &a.rec, 0));
-  ASSERT_EQ(BF_SUCCESS, pipe_mgr_mat_ent_set_action_by_match_spec(kSess, kDev0, kL2Lookup, &k.rec,
-                                                                  kKnownUcast, &a.rec, 0));
-  Read again(8);
-  ASSERT_EQ(BF_SUCCESS, again.get(kL2Lookup, hdl));
-  EXPECT_EQ(kKnownUcast, again.fn);
-
+                                            kSess, kDev0, l2.handle, &other.rec, ucast, &a.rec, 0));
   EXPECT_EQ(ORBISK_MODEL_NO_SUCH_ENTRY,
-            pipe_mgr_match_spec_to_ent_hdl(kSess, kDev0, kL2Lookup, &other.rec, &found, 0));
-  ASSERT_EQ(BF_SUCCESS, pipe_mgr_match_spec_to_ent_hdl(kSess, kDev0, kL2Lookup, &k.rec, &found, 0));
+            pipe_mgr_match_spec_to_ent_hdl(kSess, kDev0, l2.handle, &other.rec, &found, 0));
+  EXPECT_EQ(ORBISK_MODEL_NO_SUCH_ENTRY,
+            pipe_mgr_mat_ent_del_by_match_spec(kSess, kDev0, l2.handle, &other.rec, 0));
+  EXPECT_EQ(ORBISK_MODEL_NO_SUCH_ENTRY, pipe_mgr_mat_ent_del(kSess, 0, l2.handle, hdl + 1, 0));
+
+  ASSERT_EQ(BF_SUCCESS, pipe_mgr_mat_ent_set_action_by_match_spec(kSess, kDev0, l2.handle, &k.rec,
+                                                                  mcast, &m.rec, 0));
+  Read r(8);
+  ASSERT_EQ(BF_SUCCESS, r.get(l2.handle, hdl));
+  EXPECT_EQ(mcast, r.fn);
+  EXPECT_EQ(2u, r.act.num_bytes);
+  EXPECT_EQ(0, std::memcmp(r.data, m.data, 2));
+  ASSERT_EQ(BF_SUCCESS, pipe_mgr_match_spec_to_ent_hdl(kSess, kDev0, l2.handle, &k.rec, &found, 0));
   EXPECT_EQ(hdl, found);
-
-  EXPECT_EQ(ORBISK_MODEL_NO_SUCH_ENTRY,
-            pipe_mgr_mat_ent_del_by_match_spec(kSess, kDev0, kL2Lookup, &other.rec, 0));
-  ASSERT_EQ(BF_SUCCESS, pipe_mgr_mat_ent_del_by_match_spec(kSess, kDev0, kL2Lookup, &k.rec, 0));
-  EXPECT_EQ(0u, orbisk_model_entry_count(0, kL2Lookup));
-  EXPECT_EQ(ORBISK_MODEL_NO_SUCH_ENTRY, pipe_mgr_mat_ent_del(kSess, 0, kL2Lookup, hdl, 0));
-  // The key is free again.
-  EXPECT_EQ(BF_SUCCESS, add(kL2Lookup, k, kKnownUcast, a, &hdl));
+  ASSERT_EQ(BF_SUCCESS, pipe_mgr_mat_ent_del_by_match_spec(kSess, kDev0, l2.handle, &k.rec, 0));
+  EXPECT_EQ(0u, orbisk_model_entry_count(0, l2.handle));
+  EXPECT_EQ(ORBISK_MODEL_NO_SUCH_ENTRY, pipe_mgr_mat_ent_del(kSess, 0, l2.handle, hdl, 0));
+  EXPECT_EQ(BF_SUCCESS, add(l2.handle, k, ucast, a, &hdl)) << "the key is free again";
 }
 
 TEST_F(Entries, ReadWithoutRoomWritesNothing) {
-  L2Key k(1);
-  UcastAct a(1);
+  Key k(l2, 1);
+  Act a(ucast_desc, 1);
   pd_entry_hdl hdl = 0;
-  ASSERT_EQ(BF_SUCCESS, add(kL2Lookup, k, kKnownUcast, a, &hdl));
+  ASSERT_EQ(BF_SUCCESS, add(l2.handle, k, ucast, a, &hdl));
   Read small(8, 2);
-  EXPECT_EQ(ORBISK_MODEL_BAD_RECORD, small.get(kL2Lookup, hdl));
+  EXPECT_EQ(ORBISK_MODEL_BAD_RECORD, small.get(l2.handle, hdl));
   EXPECT_EQ(0xEE, small.value[0]);
   EXPECT_EQ(0xEE, small.data[0]);
   EXPECT_EQ(0xEEEEEEEEu, small.fn);
   Read short_key(7);
-  EXPECT_EQ(ORBISK_MODEL_BAD_RECORD, short_key.get(kL2Lookup, hdl));
+  EXPECT_EQ(ORBISK_MODEL_BAD_RECORD, short_key.get(l2.handle, hdl));
   EXPECT_EQ(0xEE, short_key.value[0]);
 }
 
-TEST_F(Entries, WalkGoesUpByHandle) {
-  pd_entry_hdl first = 0;
-  EXPECT_EQ(ORBISK_MODEL_NO_SUCH_ENTRY,
-            pipe_mgr_get_first_entry_handle(kSess, kL2Lookup, kDev0, &first));
-  UcastAct a(1);
-  for (uint8_t i = 1; i <= 5; ++i) {
-    L2Key k(i);
+// Many entries, so the key index grows and closes its gaps on deletes, and
+// a walk crosses the handle map's pages.
+TEST_F(Entries, ManyEntriesWalkUpByHandleAndStayFoundByKey) {
+  constexpr unsigned kCount = 3000;
+  Act a(ucast_desc, 1);
+  for (unsigned i = 1; i <= kCount; ++i) {
+    Key k(l2, 0);
+    std::memcpy(k.value, &i, sizeof i);
     pd_entry_hdl hdl;
-    ASSERT_EQ(BF_SUCCESS, add(kL2Lookup, k, kKnownUcast, a, &hdl));
+    ASSERT_EQ(BF_SUCCESS, add(l2.handle, k, ucast, a, &hdl));
+    ASSERT_EQ(i, hdl);
   }
-  ASSERT_EQ(BF_SUCCESS, pipe_mgr_mat_ent_del(kSess, 0, kL2Lookup, 1, 0));
-  ASSERT_EQ(BF_SUCCESS, pipe_mgr_mat_ent_del(kSess, 0, kL2Lookup, 3, 0));
+  pd_entry_hdl first = 0;
+  for (unsigned i = 1; i <= kCount; i += 2) {
+    ASSERT_EQ(BF_SUCCESS, pipe_mgr_mat_ent_del(kSess, 0, l2.handle, i, 0));
+  }
+  for (unsigned i = 1; i <= kCount; ++i) {
+    Key k(l2, 0);
+    std::memcpy(k.value, &i, sizeof i);
+    pd_entry_hdl found = 0;
+    const pd_status want = i % 2 ? ORBISK_MODEL_NO_SUCH_ENTRY : BF_SUCCESS;
+    ASSERT_EQ(want, pipe_mgr_match_spec_to_ent_hdl(kSess, kDev0, l2.handle, &k.rec, &found, 0))
+        << i;
+    if (want == BF_SUCCESS) {
+      ASSERT_EQ(i, found);
+    }
+  }
   uint32_t count = 0;
-  ASSERT_EQ(BF_SUCCESS, pipe_mgr_get_entry_count(kSess, kDev0, kL2Lookup, 0, &count));
-  EXPECT_EQ(3u, count);
-  ASSERT_EQ(BF_SUCCESS, pipe_mgr_get_first_entry_handle(kSess, kL2Lookup, kDev0, &first));
+  ASSERT_EQ(BF_SUCCESS, pipe_mgr_get_entry_count(kSess, kDev0, l2.handle, 0, &count));
+  EXPECT_EQ(kCount / 2, count);
+  ASSERT_EQ(BF_SUCCESS, pipe_mgr_get_first_entry_handle(kSess, l2.handle, kDev0, &first));
   EXPECT_EQ(2u, first);
-
   pd_entry_hdl next[3];
-  ASSERT_EQ(BF_SUCCESS, pipe_mgr_get_next_entry_handles(kSess, kL2Lookup, kDev0, 2, 3, next));
-  EXPECT_EQ(4u, next[0]);
-  EXPECT_EQ(5u, next[1]);
+  ASSERT_EQ(BF_SUCCESS, pipe_mgr_get_next_entry_handles(kSess, l2.handle, kDev0, 1022, 3, next));
+  EXPECT_EQ(1024u, next[0]);
+  EXPECT_EQ(1026u, next[1]);
+  ASSERT_EQ(BF_SUCCESS,
+            pipe_mgr_get_next_entry_handles(kSess, l2.handle, kDev0, kCount - 2, 3, next));
+  EXPECT_EQ(kCount, next[0]);
+  EXPECT_EQ(ORBISK_MODEL_NO_HANDLE, next[1]);
   EXPECT_EQ(ORBISK_MODEL_NO_HANDLE, next[2]);
-  ASSERT_EQ(BF_SUCCESS, pipe_mgr_get_next_entry_handles(kSess, kL2Lookup, kDev0, 5, 3, next));
+  ASSERT_EQ(BF_SUCCESS, pipe_mgr_get_next_entry_handles(kSess, l2.handle, kDev0, kCount, 1, next));
   EXPECT_EQ(ORBISK_MODEL_NO_HANDLE, next[0]);
   EXPECT_EQ(ORBISK_MODEL_NO_SUCH_ENTRY,
-            pipe_mgr_get_next_entry_handles(kSess, kL2Lookup, kDev0, 3, 3, next));
+            pipe_mgr_get_next_entry_handles(kSess, l2.handle, kDev0, 3, 3, next));
 }
 
 using Defaults = ModelTest;
 
-TEST_F(Defaults, TablesStartWithTheirDeclaredDefault) {
-  Read r(8);
-  ASSERT_EQ(BF_SUCCESS, r.get_default(kL2Lookup));
-  EXPECT_EQ(kL2OnMiss, r.fn);
-  EXPECT_EQ(PD_RECORD_KIND_DIRECT, r.act.record_kind);
-  EXPECT_EQ(0u, r.act.num_bytes);
-  EXPECT_EQ(0u, r.act.resource_count);
-
-  Read d(8);
-  ASSERT_EQ(BF_SUCCESS, d.get_default(kDmac));
-  EXPECT_EQ(kDmacOnMiss, d.fn);
-  ASSERT_EQ(1u, d.act.resource_count);
-  EXPECT_EQ(kDmacCounter, d.act.resources[0].resource_hdl);
-  EXPECT_EQ(PD_RESOURCE_TAG_ATTACHED, d.act.resources[0].resource_tag);
-
-  pd_entry_hdl hdl = 0;
-  ASSERT_EQ(BF_SUCCESS, pipe_mgr_table_get_default_entry_handle(kSess, kDev0, kDmac, &hdl));
-  EXPECT_EQ(ORBISK_MODEL_DEFAULT_ENTRY_HDL, hdl);
-  // Read as an entry, the default shows a key of no bytes.
-  Read e(8);
-  ASSERT_EQ(BF_SUCCESS, e.get(kDmac, hdl));
-  EXPECT_EQ(0u, e.key.num_bytes);
-  EXPECT_EQ(kDmacOnMiss, e.fn);
-  EXPECT_EQ(0xEE, e.value[0]);
-
-  EXPECT_EQ(ORBISK_MODEL_NO_SUCH_TABLE, r.get_default(kNoTable));
-}
-
-TEST_F(Defaults, SetIsCheckedAndResetRestores) {
-  UcastAct ucast(1);
-  Act none(0, 0, 0);
+// The declared default of a table without state is read in Devices.
+TEST_F(Defaults, SetIsCheckedPerDeviceAndResetRestores) {
+  Act u(ucast_desc, 1);
   pd_entry_hdl hdl = 0x5555;
-  EXPECT_EQ(ORBISK_MODEL_NO_SUCH_ACTION, pipe_mgr_mat_default_entry_set(
-                                             kSess, kDev0, kL2Lookup, kKnownUcast, &ucast.rec, 0,
-                                             &hdl));
+  EXPECT_EQ(ORBISK_MODEL_NO_SUCH_ACTION,
+            pipe_mgr_mat_default_entry_set(kSess, kDev0, l2.handle, ucast, &u.rec, 0, &hdl));
+  EXPECT_EQ(
+      ORBISK_MODEL_BAD_RECORD,
+      pipe_mgr_mat_default_entry_set(kSess, kDev0, l2.handle, fn(l2, "onMiss"), nullptr, 0, &hdl));
   EXPECT_EQ(0x5555u, hdl);
-  // ingStpAction may only be a default; on its keyless table it is one.
-  pd_entry_hdl stp = 0;
-  EXPECT_EQ(ORBISK_MODEL_BAD_RECORD,
-            pipe_mgr_mat_default_entry_set(kSess, kDev0, kIngStpCheck, kIngStpAction, nullptr, 0,
-                                           &stp));
-  ASSERT_EQ(BF_SUCCESS, pipe_mgr_mat_default_entry_set(kSess, kDev0, kIngStpCheck, kIngStpAction,
-                                                       &none.rec, 0, &stp));
-  EXPECT_EQ(ORBISK_MODEL_DEFAULT_ENTRY_HDL, stp);
+  EXPECT_EQ(0u, orbisk_model_device_count());
 
-  // A default on one device stays there.
   Act with_counter(0, 0, 0);
   with_counter.rec.resource_count = 1;
-  with_counter.rec.resources[0] = {kDmacCounter, 9, {}, PD_RESOURCE_TAG_DETACHED, 0};
-  ASSERT_EQ(BF_SUCCESS, pipe_mgr_mat_default_entry_set(kSess, kDev1, kDmac, kDmacOnMiss,
-                                                       &with_counter.rec, 0, &hdl));
+  with_counter.rec.resources[0] = {dmac.resource->handle, 9, {}, PD_RESOURCE_TAG_DETACHED, 0};
+  ASSERT_EQ(BF_SUCCESS,
+            pipe_mgr_mat_default_entry_set(kSess, kDev1, dmac.handle, fn(dmac, "onMiss"),
+                                           &with_counter.rec, 0, &hdl));
+  EXPECT_EQ(ORBISK_MODEL_DEFAULT_ENTRY_HDL, hdl);
   Read r(8);
-  ASSERT_EQ(BF_SUCCESS, r.get_default(kDmac, kDev1));
+  ASSERT_EQ(BF_SUCCESS, r.get_default(dmac.handle, kDev1));
   EXPECT_EQ(9u, r.act.resources[0].resource_index);
   EXPECT_EQ(PD_RESOURCE_TAG_DETACHED, r.act.resources[0].resource_tag);
-  ASSERT_EQ(BF_SUCCESS, r.get_default(kDmac, kDev0));
-  EXPECT_EQ(PD_RESOURCE_TAG_ATTACHED, r.act.resources[0].resource_tag);
+  ASSERT_EQ(BF_SUCCESS, r.get_default(dmac.handle, kDev0));
+  EXPECT_EQ(PD_RESOURCE_TAG_ATTACHED, r.act.resources[0].resource_tag) << "the other device's own";
+  // Read as an entry, the default shows a key of no bytes.
+  ASSERT_EQ(BF_SUCCESS, r.get(dmac.handle, ORBISK_MODEL_DEFAULT_ENTRY_HDL, kDev1));
+  EXPECT_EQ(0u, r.key.num_bytes);
+  EXPECT_EQ(0xEE, r.value[0]);
 
-  ASSERT_EQ(BF_SUCCESS, pipe_mgr_mat_tbl_default_entry_reset(kSess, kDev1, kDmac, 0));
-  ASSERT_EQ(BF_SUCCESS, r.get_default(kDmac, kDev1));
+  ASSERT_EQ(BF_SUCCESS, pipe_mgr_mat_tbl_default_entry_reset(kSess, kDev1, dmac.handle, 0));
+  ASSERT_EQ(BF_SUCCESS, r.get_default(dmac.handle, kDev1));
+  EXPECT_EQ(fn(dmac, "onMiss"), r.fn);
   EXPECT_EQ(0u, r.act.resources[0].resource_index);
   EXPECT_EQ(PD_RESOURCE_TAG_ATTACHED, r.act.resources[0].resource_tag);
-  EXPECT_EQ(0u, orbisk_model_entry_count(1, kDmac)) << "the default is no entry";
+  EXPECT_EQ(0u, orbisk_model_entry_count(1, dmac.handle)) << "the default is no entry";
+  EXPECT_EQ(ORBISK_MODEL_NO_SUCH_TABLE, r.get_default(kNoTable));
 }
 
 }  // namespace

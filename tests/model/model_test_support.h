@@ -1,43 +1,62 @@
-// Hand-built driver records for the model's own tests, on real tables of the
-// program: l2Lookup (exact), l2DmacClassify (ternary, carries a counter),
-// ingStpCheck (keyless) and ecmpGroup (entries name profile members).
+// Driver records for the model's own tests, built from the program's
+// descriptors: a key or action data that fits its table, from a seed, and
+// out places of a read marked so that a write shows. Tables used by name:
+// l2Lookup (exact), l2DmacClassify (ternary, carries a counter), ingStpCheck
+// (keyless), ecmpGroup (entries name profile members), ipv4ShortMaskLpm
+// (prefix), ipv4FinalResolve0 (partitioned prefix).
 #pragma once
 
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <string_view>
 
+#include "descriptors.h"
 #include "orbisk_driver_model.h"
 
 namespace model_test {
 
+using orbisk::pd::ActionDesc;
+using orbisk::pd::MatchKind;
+using orbisk::pd::TableDesc;
+
 constexpr pd_sess_hdl kSess = 5;
 constexpr pd_dev_target kDev0 = {0, PD_DEV_PIPE_ALL};
 constexpr pd_dev_target kDev1 = {1, PD_DEV_PIPE_ALL};
-
-constexpr pd_tbl_hdl kL2Lookup = 0x0100002f;  // exact, 8 bytes, 60 bits
-constexpr pd_act_fn_hdl kKnownUcast = 0x200000a6;  // 3 bytes, 20 bits
-constexpr pd_act_fn_hdl kKnownMcast = 0x200000a7;  // 2 bytes, 16 bits
-constexpr pd_act_fn_hdl kL2OnMiss = 0x200000aa;    // the declared default
-
-constexpr pd_tbl_hdl kDmac = 0x0100000a;  // ternary, 8 bytes, 57 bits
-constexpr pd_act_fn_hdl kSetL2ControlFrame = 0x20000004;  // 2 bytes, 9 bits
-constexpr pd_act_fn_hdl kDmacOnMiss = 0x2000000b;  // declared default
-constexpr uint32_t kDmacCounter = 0x04000001;
-
-constexpr pd_tbl_hdl kIngStpCheck = 0x0100000b;  // keyless
-constexpr pd_act_fn_hdl kIngStpAction = 0x2000000d;  // default only
-
-constexpr pd_tbl_hdl kEcmpGroup = 0x1101000d;  // indirect, 2 bytes, 15 bits
-
 constexpr pd_tbl_hdl kNoTable = 0x0100ffff;
 
-// A key record over its own strings, filled from a seed.
+inline const TableDesc &table(std::string_view name) {
+  for (std::size_t i = 0; i < orbisk::pd::kNumTables; ++i) {
+    if (name == orbisk::pd::kTables[i].name) return orbisk::pd::kTables[i];
+  }
+  ADD_FAILURE() << "no table " << name;
+  return orbisk::pd::kTables[0];
+}
+
+// An action as a table uses it: .handle, .action.
+inline const orbisk::pd::TableActionDesc &use(const TableDesc &t, std::string_view action) {
+  for (uint16_t i = 0; i < t.num_actions; ++i) {
+    if (action == t.actions[i].action->name) return t.actions[i];
+  }
+  ADD_FAILURE() << "no action " << action << " on " << t.name;
+  return t.actions[0];
+}
+inline pd_act_fn_hdl fn(const TableDesc &t, std::string_view action) {
+  return use(t, action).handle;
+}
+
+inline uint8_t width_mask(unsigned bits) {
+  return bits % 8 ? uint8_t((1u << (bits % 8)) - 1) : 0xFF;
+}
+
+// A key record over its own strings. Built for a table, it fits it: every
+// field's value within its width, masks as the table's match kind wants
+// them, a whole prefix, the partition in partition_index.
 struct Key {
-  uint8_t value[16] = {};
-  uint8_t mask[16] = {};
+  uint8_t value[64] = {};
+  uint8_t mask[64] = {};
   pd_match_record rec{};
-  Key(uint16_t bytes, uint16_t bits, uint8_t seed, uint32_t priority = 0) {
+  Key(uint16_t bytes, uint16_t bits, uint8_t seed) {
     for (unsigned i = 0; i < bytes; ++i) {
       value[i] = uint8_t(seed + i * 17);
       mask[i] = 0xFF;
@@ -46,16 +65,26 @@ struct Key {
     rec.mask_bytes = mask;
     rec.num_bytes = bytes;
     rec.num_valid_bits = bits;
-    rec.priority = priority;
+  }
+  Key(const TableDesc &t, uint8_t seed, uint32_t priority = 0)
+      : Key(t.key_bytes, t.key_bits, seed) {
+    rec.priority = t.prefix() ? 0 : priority;
+    for (unsigned i = 0; i < t.num_fields; ++i) {
+      const orbisk::pd::FieldDesc &f = t.fields[i];
+      value[f.key_offset] &= width_mask(f.bits);
+      if (t.ternary()) mask[f.key_offset] = width_mask(f.bits);
+      if (t.match == MatchKind::PartitionedPrefix && i == 0) {
+        std::memset(value + f.key_offset, 0, f.bytes);
+        std::memset(mask + f.key_offset, 0, f.bytes);
+        rec.partition_index = seed & ((1u << f.bits) - 1);
+      }
+    }
   }
   Key(const Key &) = delete;
 };
 
-struct L2Key : Key {
-  explicit L2Key(uint8_t seed) : Key(8, 60, seed) {}
-};
-
-// A direct action record over its own data, filled from a seed.
+// A direct action record over its own data, filled from a seed; built for an
+// action, every parameter fits its width.
 struct Act {
   uint8_t data[32] = {};
   pd_action_record rec{};
@@ -66,17 +95,17 @@ struct Act {
     rec.num_bytes = bytes;
     rec.num_valid_bits = bits;
   }
+  Act(const ActionDesc &a, uint8_t seed) : Act(a.data_bytes, a.data_bits, seed) {
+    for (uint16_t i = 0; i < a.num_params; ++i)
+      data[a.params[i].data_offset] &= width_mask(a.params[i].bits);
+  }
   Act(const Act &) = delete;
-};
-
-struct UcastAct : Act {
-  explicit UcastAct(uint8_t seed) : Act(3, 20, seed) {}
 };
 
 // Out places of a read, filled with a marker so that a write shows.
 struct Read {
-  uint8_t value[16];
-  uint8_t mask[16];
+  uint8_t value[64];
+  uint8_t mask[64];
   uint8_t data[28];
   pd_match_record key{};
   pd_action_record act{};
@@ -107,6 +136,14 @@ inline pd_status add(pd_tbl_hdl tbl, Key &k, pd_act_fn_hdl fn, Act &a, pd_entry_
 class ModelTest : public ::testing::Test {
  protected:
   void SetUp() override { orbisk_model_reset(); }
+
+  const TableDesc &l2 = table("l2Lookup");
+  const pd_act_fn_hdl ucast = fn(l2, "l2LookupKnownUcast");  // one 20-bit parameter
+  const ActionDesc &ucast_desc = *use(l2, "l2LookupKnownUcast").action;
+  const TableDesc &dmac = table("l2DmacClassify");
+  const TableDesc &stp = table("ingStpCheck");
+  const TableDesc &ecmp = table("ecmpGroup");
+  const TableDesc &lpm = table("ipv4ShortMaskLpm");
 };
 
 }  // namespace model_test

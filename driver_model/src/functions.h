@@ -1,0 +1,63 @@
+// The driver functions the model answers through its frame: each is logged
+// and may be armed with a fault. The four bf_sys_* services are not among
+// them: they are the model's own plumbing, never logged and never failed.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+#define ORBISK_MODEL_DRIVER_FUNCTIONS(X)       \
+  X(bf_drv_register)                           \
+  X(bf_drv_deregister)                         \
+  X(bf_drv_client_register_callbacks)          \
+  X(pipe_mgr_mat_ent_add)                      \
+  X(pipe_mgr_mat_ent_set_action)               \
+  X(pipe_mgr_mat_ent_set_action_by_match_spec) \
+  X(pipe_mgr_mat_ent_del)                      \
+  X(pipe_mgr_mat_ent_del_by_match_spec)        \
+  X(pipe_mgr_match_spec_to_ent_hdl)            \
+  X(pipe_mgr_get_entry_count)                  \
+  X(pipe_mgr_get_first_entry_handle)           \
+  X(pipe_mgr_get_next_entry_handles)           \
+  X(pipe_mgr_get_entry)                        \
+  X(pipe_mgr_mat_default_entry_set)            \
+  X(pipe_mgr_table_get_default_entry)          \
+  X(pipe_mgr_table_get_default_entry_handle)   \
+  X(pipe_mgr_mat_tbl_default_entry_reset)      \
+  X(p4_pd_ms_init)                             \
+  X(p4_pd_ms_init_state)                       \
+  X(p4_pd_ms_destroy_state_for_dev)            \
+  X(p4_pd_ms_destroy_txn_state_for_dev)        \
+  X(p4_pd_ms_log_state)                        \
+  X(p4_pd_ms_restore_state)
+
+namespace orbisk_model {
+
+// Named as the functions themselves, so a frame cannot log one name and be
+// armed under another.
+enum class Fn : uint8_t {
+#define ORBISK_MODEL_ENUM(name) name,
+  ORBISK_MODEL_DRIVER_FUNCTIONS(ORBISK_MODEL_ENUM)
+#undef ORBISK_MODEL_ENUM
+};
+
+inline constexpr const char *kFnNames[] = {
+#define ORBISK_MODEL_NAME(name) #name,
+    ORBISK_MODEL_DRIVER_FUNCTIONS(ORBISK_MODEL_NAME)
+#undef ORBISK_MODEL_NAME
+};
+
+inline constexpr std::size_t kNumFunctions = sizeof kFnNames / sizeof kFnNames[0];
+
+inline const char *name_of(Fn f) { return kFnNames[std::size_t(f)]; }
+
+// The function of that name, or kNumFunctions when the model has none.
+inline std::size_t function_index(std::string_view name) {
+  for (std::size_t i = 0; i < kNumFunctions; ++i) {
+    if (name == kFnNames[i]) return i;
+  }
+  return kNumFunctions;
+}
+
+}  // namespace orbisk_model

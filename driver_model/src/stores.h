@@ -1,0 +1,221 @@
+// The model's state, one store per service. Each store owns its data and
+// knows how to forget it: a reset is a loop over the stores, and a device
+// that goes away is dropped from each store that keeps state by device.
+//
+// The match tables and the call log have headers of their own
+// (match_store.h, call_log.h); the smaller stores are here, each implemented
+// in its own source file.
+#pragma once
+
+#include <compare>
+#include <cstdint>
+#include <deque>
+#include <map>
+#include <memory>
+#include <string>
+#include <unordered_map>
+#include <unordered_set>
+#include <vector>
+
+#include "functions.h"
+#include "public_api.h"
+
+namespace orbisk_model {
+
+class Store {
+ public:
+  // Back to the state of a fresh model.
+  virtual void clear() = 0;
+  // Forgets what is kept for one device; nothing for a store kept otherwise.
+  virtual void drop_device(uint32_t device_id) { (void)device_id; }
+
+ protected:
+  ~Store() = default;
+};
+
+// ----------------------------------------------------- faults (faults.cpp) ---
+
+// Faults armed on the driver functions, by function.
+class FaultStore final : public Store {
+ public:
+  void clear() override;
+  // Arms the nth next call of function fn; nth 0 disarms every fault of fn.
+  void arm(std::size_t fn, uint32_t nth, pd_status status);
+  // Counts this call against the faults of fn; true with the status to answer
+  // when one fires. The first armed wins a tie.
+  bool take(Fn fn, pd_status &status) {
+    return !armed_[std::size_t(fn)].empty() && take_slow(std::size_t(fn), status);
+  }
+
+ private:
+  struct Fault {
+    uint32_t remaining;  // calls of the function until it fires, this one included
+    pd_status status;
+  };
+  bool take_slow(std::size_t fn, pd_status &status);
+  std::vector<Fault> armed_[kNumFunctions];
+};
+
+// ---------------------------------------------------- clients (clients.cpp) ---
+
+// Registered clients: name, callback record and priority, by handle.
+class ClientStore final : public Store {
+ public:
+  struct Client {
+    std::string name;
+    bool has_callbacks = false;
+    pd_drv_client_callbacks callbacks{};
+    uint32_t priority = 0;
+  };
+  void clear() override;
+  uint32_t add(const char *name);
+  Client *find(uint32_t hdl);
+  bool erase(uint32_t hdl) { return clients_.erase(hdl) != 0; }
+  // Ascending handle order: the order of registration.
+  const std::map<uint32_t, Client> &all() const { return clients_; }
+
+ private:
+  std::map<uint32_t, Client> clients_;
+  uint32_t next_ = 1;
+};
+
+// -------------------------------------------------- services (services.cpp) ---
+
+// Lines of bf_sys_log_and_trace, formatted, and the debug mode it answers.
+class LogLineStore final : public Store {
+ public:
+  void clear() override;
+  std::deque<std::string> lines;  // a deque: a line handed out never moves
+  int dbg_mode = 0;
+};
+
+// Blocks given out by bf_sys_calloc.
+class AllocationStore final : public Store {
+ public:
+  void clear() override;
+  std::unordered_set<void *> live;
+  // Blocks still out at a reset: no longer counted, but kept in sight so that
+  // a block a client keeps on purpose is not taken for a leak.
+  std::unordered_set<void *> retired;
+  size_t count = 0;  // bf_sys_calloc calls since the last reset
+};
+
+// ------------------------------------- member selection (model_ms.cpp) ---
+
+}  // namespace orbisk_model
+
+// A member-selection state: per device, what each member and group names.
+struct pd_ms_state {
+  struct Device {
+    std::map<pd_mbr_hdl, pd_act_fn_hdl> members;
+    std::map<pd_grp_hdl, pd_act_fn_hdl> groups;
+  };
+  std::map<uint32_t, Device> devices;
+};
+
+namespace orbisk_model {
+
+// The states given out by p4_pd_ms_init_state. They belong to the client,
+// which destroys them per device itself: a reset empties them but keeps them
+// valid, and a dropped device leaves them alone.
+class MsStore final : public Store {
+ public:
+  void clear() override;
+  pd_ms_state *make();
+  // The state itself when the model gave it out, else null.
+  pd_ms_state *find(pd_ms_state *state) const { return states_.count(state) ? state : nullptr; }
+
+ private:
+  std::unordered_map<pd_ms_state *, std::unique_ptr<pd_ms_state>> states_;
+};
+
+// --------------------------------------- homes of the services to come ---
+// Each keeps the state of driver functions that later families of the
+// library import. They are empty until then but take part in every reset and
+// device drop, so a new service only fills its store.
+
+// Action data and selector tables of the action profiles: per device and
+// profile, the members (action and data) and the groups (their members).
+class ProfileStore final : public Store {
+ public:
+  struct Member {
+    pd_act_fn_hdl fn = 0;
+    std::vector<uint8_t> data;
+  };
+  struct Profile {
+    std::map<pd_mbr_hdl, Member> members;
+    std::map<pd_grp_hdl, std::vector<pd_mbr_hdl>> groups;
+  };
+  void clear() override;
+  void drop_device(uint32_t device_id) override;
+  std::map<std::pair<uint32_t, uint32_t>, Profile> profiles;  // by device, profile handle
+};
+
+// Counters, meters and registers addressed by index. The program keeps them
+// per pipe, so a cell is found by device, resource handle and pipe.
+class ResourceStore final : public Store {
+ public:
+  struct Key {
+    uint32_t device_id;
+    uint32_t resource_hdl;
+    uint16_t pipe;
+    auto operator<=>(const Key &) const = default;
+  };
+  void clear() override;
+  void drop_device(uint32_t device_id) override;
+  std::map<Key, std::vector<pd_resource_record>> cells;  // one record per index
+};
+
+// Idle state of entries of ageing tables: the time left and whether the
+// entry was hit, per device, table and entry, aged by a clock tests advance.
+class IdleStore final : public Store {
+ public:
+  struct Entry {
+    uint32_t ttl = 0;
+    uint32_t remaining = 0;
+    bool hit = false;
+  };
+  void clear() override;
+  void drop_device(uint32_t device_id) override;
+  std::map<std::pair<uint32_t, pd_tbl_hdl>, std::map<pd_entry_hdl, Entry>> tables;
+};
+
+// Digests waiting to be delivered to the client that registered for them,
+// per device and digest handle.
+class DigestStore final : public Store {
+ public:
+  void clear() override;
+  void drop_device(uint32_t device_id) override;
+  std::map<std::pair<uint32_t, uint32_t>, std::vector<std::vector<uint8_t>>> pending;
+};
+
+// Snapshots of a pipe's state, per device and pipe.
+class SnapshotStore final : public Store {
+ public:
+  void clear() override;
+  void drop_device(uint32_t device_id) override;
+  std::map<std::pair<uint32_t, uint16_t>, std::vector<std::vector<uint8_t>>> snapshots;
+};
+
+// Placement data of match tables: the bytes a client reads out of one
+// device's table and writes into another's, per device and table.
+class PlacementStore final : public Store {
+ public:
+  void clear() override;
+  void drop_device(uint32_t device_id) override;
+  std::map<std::pair<uint32_t, pd_tbl_hdl>, std::vector<uint8_t>> tables;
+};
+
+// Erases the entries of a map keyed by device id first.
+template <typename Map>
+void erase_device(Map &map, uint32_t device_id) {
+  std::erase_if(map, [&](const auto &kv) {
+    if constexpr (requires { kv.first.device_id; }) {
+      return kv.first.device_id == device_id;
+    } else {
+      return kv.first.first == device_id;
+    }
+  });
+}
+
+}  // namespace orbisk_model
