@@ -20,7 +20,6 @@ import catalogue  # noqa: E402
 import emit_descriptors  # noqa: E402
 import emit_header  # noqa: E402
 import emit_lib  # noqa: E402
-import emit_model  # noqa: E402
 import emit_tests  # noqa: E402
 
 
@@ -45,7 +44,6 @@ def generate(prog, header_only=False):
         return out
     out.append(("descriptors", "pd_descriptors.cpp", emit_descriptors.emit(prog)))
     out.append(("other", "pd_limits.h", emit_descriptors.emit_limits(prog)))
-    out.append(("other", "orbisk_model_tables.inc", emit_model.emit(prog)))
     out.append(("map", "libob_bf_pd_nat_vxlan.map", emit_lib.emit_version_script(prog)))
     for name, text in sorted(emit_lib.emit(prog).items()):
         out.append(("lib" if name.endswith(".cpp") else "other", name, text))
