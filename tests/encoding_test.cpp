@@ -63,21 +63,6 @@ TEST_F(Keys, TernaryMasksCutToWidthAndValueAnded) {
   EXPECT_EQ(4u, s.key.priority);
 }
 
-TEST_F(Keys, NarrowTernaryFieldKeepsValueAboveWidth) {
-  p4_pd_orbisk_switch_tunnelTermination_match_spec_t ms{};
-  ms.ingMd_tunnelType = 0xFF;
-  ms.ingMd_tunnelType_mask = 0xFF;
-  pd_entry_hdl h;
-  EXPECT_EQ(ORBISK_MODEL_NO_SUCH_ENTRY,
-            p4_pd_orbisk_switch_tunnelTermination_match_spec_to_entry_hdl(sess, tgt, &ms, 1, &h));
-  Seen s = last("pipe_mgr_match_spec_to_ent_hdl");
-  // The tunnel type stands first in the host record but fourth in the key,
-  // after 3 + 3 + 4 bytes of addresses.
-  ASSERT_EQ(12u, s.value.size());
-  EXPECT_EQ(0xFF, s.value[10]);
-  EXPECT_EQ(0x07, s.mask[10]);
-}
-
 struct PrefixCase {
   uint16_t prefix;
   Bytes value, mask;
@@ -107,11 +92,6 @@ TEST_F(Keys, PrefixLengthBecomesMaskAndPriority) {
     EXPECT_EQ(c.mask, s.mask);
     EXPECT_EQ(c.priority, s.key.priority);
   }
-  p4_pd_orbisk_switch_ipv6ShortMaskLpm_match_spec_t v6{};
-  v6.ingIpv6_dip_prefix_length = 200;
-  pd_entry_hdl h;
-  p4_pd_orbisk_switch_ipv6ShortMaskLpm_match_spec_to_entry_hdl(sess, tgt, &v6, &h);
-  EXPECT_EQ(137u, last("pipe_mgr_match_spec_to_ent_hdl").key.priority);
 }
 
 TEST_F(Keys, PartitionGoesBesideTheStrings) {
