@@ -27,9 +27,10 @@ TEST_F(Frame, InitRegistersAndHandsOverThreeCallbacks) {
   EXPECT_EQ(&p4_pd_orbisk_switch_dev_log, cb->device_log);
   EXPECT_EQ(&p4_pd_orbisk_switch_dev_restore, cb->device_restore);
 
-  orbisk_model_fail("bf_drv_deregister", 1, 0x55);
-  EXPECT_EQ(0x55u, p4_pd_orbisk_switch_cleanup());
-  EXPECT_EQ(0u, p4_pd_orbisk_switch_cleanup());
+  constexpr pd_status kArmed = 0x55;
+  ASSERT_EQ(BF_SUCCESS, orbisk_model_fail("bf_drv_deregister", 1, kArmed));
+  EXPECT_EQ(kArmed, p4_pd_orbisk_switch_cleanup());
+  EXPECT_EQ(BF_SUCCESS, p4_pd_orbisk_switch_cleanup());
   EXPECT_EQ(nullptr, orbisk_model_client_name(bf_drv_hdl));
 }
 
@@ -37,14 +38,14 @@ using FrameDeathTest = Frame;
 
 TEST_F(FrameDeathTest, FailedRegistrationEndsTheProcessEvenOutsideDebugMode) {
   orbisk_model_set_dbg_mode(0);
-  orbisk_model_fail("bf_drv_register", 1, 9);
+  ASSERT_EQ(BF_SUCCESS, orbisk_model_fail("bf_drv_register", 1, 9));
   EXPECT_DEATH(p4_pd_orbisk_switch_init(), "r == BF_SUCCESS");
 }
 
 TEST_F(Frame, DeviceStateLogsSixProfilesAndRestoresByName) {
   p4_pd_orbisk_switch_init();
   cJSON *doc = cJSON_CreateObject();
-  ASSERT_EQ(0u, p4_pd_orbisk_switch_dev_log(4, doc));
+  ASSERT_EQ(BF_SUCCESS, p4_pd_orbisk_switch_dev_log(4, doc));
   EXPECT_STREQ("orbisk_switch", cJSON_GetObjectItem(doc, "name")->valuestring);
   cJSON *profs = cJSON_GetObjectItem(doc, "act_profs");
   ASSERT_EQ(6, cJSON_GetArraySize(profs));
@@ -65,16 +66,16 @@ TEST_F(Frame, DeviceStateLogsSixProfilesAndRestoresByName) {
     cJSON_AddStringToObject(o, "name", n);
     cJSON_AddItemToArray(arr, o);
   }
-  ASSERT_EQ(0u, p4_pd_orbisk_switch_dev_restore(4, back));
+  ASSERT_EQ(BF_SUCCESS, p4_pd_orbisk_switch_dev_restore(4, back));
   EXPECT_EQ(2u, calls_of("p4_pd_ms_restore_state"));
 
   orbisk_model_clear_calls();
   cJSON *empty = cJSON_CreateObject();
   cJSON_AddArrayToObject(empty, "act_profs");
-  ASSERT_EQ(0u, p4_pd_orbisk_switch_dev_restore(4, empty));
+  ASSERT_EQ(BF_SUCCESS, p4_pd_orbisk_switch_dev_restore(4, empty));
   EXPECT_EQ(0u, calls_of("p4_pd_ms_restore_state"));
 
-  ASSERT_EQ(0u, p4_pd_orbisk_switch_dev_remove(4));
+  ASSERT_EQ(BF_SUCCESS, p4_pd_orbisk_switch_dev_remove(4));
   EXPECT_EQ(6u, calls_of("p4_pd_ms_destroy_state_for_dev"));
   EXPECT_EQ(1u, calls_of("p4_pd_ms_destroy_txn_state_for_dev"));
   cJSON_Delete(doc);
@@ -84,20 +85,18 @@ TEST_F(Frame, DeviceStateLogsSixProfilesAndRestoresByName) {
 }
 
 TEST(ActionEnum, ConvertsBothWaysAtTheEdges) {
+  constexpr auto kNone = P4_PD_ORBISK_SWITCH_ACTION_COUNT;
   EXPECT_STREQ("p4_pd_orbisk_switch_setPhase0", p4_pd_orbisk_switch_action_enum_to_string(0));
-  EXPECT_STREQ("p4_pd_orbisk_switch_setPruneParamsUnused", p4_pd_orbisk_switch_action_enum_to_string(295));
-  EXPECT_EQ(nullptr, p4_pd_orbisk_switch_action_enum_to_string(296));
+  EXPECT_STREQ("p4_pd_orbisk_switch_setPruneParamsUnused", p4_pd_orbisk_switch_action_enum_to_string(kNone - 1));
+  EXPECT_EQ(nullptr, p4_pd_orbisk_switch_action_enum_to_string(kNone));
   EXPECT_EQ(nullptr, p4_pd_orbisk_switch_action_enum_to_string(0xFFFFFFFF));
-  EXPECT_EQ(296, int(p4_pd_orbisk_switch_action_string_to_enum(nullptr)));
-  EXPECT_EQ(296, int(p4_pd_orbisk_switch_action_string_to_enum("")));
-  EXPECT_EQ(296, int(p4_pd_orbisk_switch_action_string_to_enum("setPhase0")));
-  EXPECT_EQ(296, int(p4_pd_orbisk_switch_action_string_to_enum("p4_pd_orbisk_switch_setphase0")));
-  EXPECT_EQ(296, int(p4_pd_orbisk_switch_action_string_to_enum("p4_pd_orbisk_switch_setPhase0x")));
-  EXPECT_EQ(0, int(p4_pd_orbisk_switch_action_string_to_enum("p4_pd_orbisk_switch_setPhase0")));
-  EXPECT_EQ(295, int(p4_pd_orbisk_switch_action_string_to_enum("p4_pd_orbisk_switch_setPruneParamsUnused")));
+  for (const char *stranger : {static_cast<const char *>(nullptr), "", "setPhase0", "p4_pd_orbisk_switch_setphase0",
+                               "p4_pd_orbisk_switch_setPhase0x"}) {
+    EXPECT_EQ(kNone, p4_pd_orbisk_switch_action_string_to_enum(stranger)) << (stranger ? stranger : "null");
+  }
   // Every name converts back to its own value, and the room for a name holds the longest.
   size_t longest = 0;
-  for (uint32_t i = 0; i < 296; ++i) {
+  for (uint32_t i = 0; i < kNone; ++i) {
     const char *n = p4_pd_orbisk_switch_action_name_strings[i];
     EXPECT_EQ(i, uint32_t(p4_pd_orbisk_switch_action_string_to_enum(n)));
     longest = std::max(longest, std::strlen(n));

@@ -44,3 +44,11 @@ size_t calls_of(const char *function) {
   }
   return n;
 }
+
+::testing::AssertionResult logged_once(std::string_view prefix) {
+  if (orbisk_model_log_count() != 1)
+    return ::testing::AssertionFailure() << orbisk_model_log_count() << " lines logged";
+  const std::string_view line = orbisk_model_log_at(0);
+  if (line.starts_with(prefix)) return ::testing::AssertionSuccess();
+  return ::testing::AssertionFailure() << "logged: " << line;
+}

@@ -7,10 +7,16 @@
 #include <cstdint>
 #include <cstring>
 #include <string>
+#include <string_view>
 #include <vector>
 
+#include "by_name.h"
 #include "orbisk_driver_model.h"
 #include "orbisk_switch/pd.h"
+
+using by_name::fn;
+using by_name::resource;
+using by_name::table;
 
 using Bytes = std::vector<uint8_t>;
 
@@ -30,6 +36,8 @@ Seen seen(const orbisk_model_call *c);
 // The most recent call of the named driver function; fails the test if none.
 Seen last(const char *function);
 size_t calls_of(const char *function);
+// The library logged exactly one line, and it starts with `prefix`.
+::testing::AssertionResult logged_once(std::string_view prefix);
 
 // Little-endian word at a byte offset of a record, as the driver reads it.
 template <typename Record>

@@ -1,5 +1,5 @@
-// Entries, walks, defaults, widths, handles and devices of the model, driven
-// through the driver functions with records built from the descriptors.
+// Entries, walks and defaults of the model, driven through the driver
+// functions with records built from the descriptors.
 #include "model_test_support.h"
 
 using namespace model_test;
@@ -7,30 +7,6 @@ using namespace model_test;
 namespace {
 
 using Entries = ModelTest;
-
-TEST_F(Entries, AddedEntryReadsBackAsStored) {
-  Key k(l2, 0x10);
-  Act a(ucast_desc, 7);
-  pd_entry_hdl hdl = 0;
-  ASSERT_EQ(BF_SUCCESS,
-            pipe_mgr_mat_ent_add(kSess, kDev0, l2.handle, &k.rec, ucast, &a.rec, 3000, 0, &hdl));
-  EXPECT_EQ(1u, hdl);
-  EXPECT_EQ(1u, orbisk_model_entry_count(0, l2.handle));
-
-  Read r(8);
-  ASSERT_EQ(BF_SUCCESS, r.get(l2.handle, hdl));
-  EXPECT_EQ(0, std::memcmp(r.value, k.value, 8));
-  EXPECT_EQ(0, std::memcmp(r.mask, k.mask, 8));
-  EXPECT_EQ(8u, r.key.num_bytes);
-  EXPECT_EQ(60u, r.key.num_valid_bits);
-  EXPECT_EQ(ucast, r.fn);
-  EXPECT_EQ(PD_RECORD_KIND_DIRECT, r.act.record_kind);
-  EXPECT_EQ(3u, r.act.num_bytes);
-  EXPECT_EQ(20u, r.act.num_valid_bits);
-  EXPECT_EQ(0, std::memcmp(r.data, a.data, 3));
-  EXPECT_EQ(0xEE, r.data[3]) << "wrote past the stored data";
-  EXPECT_EQ(0u, r.act.resource_count);
-}
 
 TEST_F(Entries, TernaryKeysDifferByPriorityAndKeepTheirSlot) {
   Key k1(dmac, 0x20, 5), k2(dmac, 0x20, 6), dup(dmac, 0x20, 5);
@@ -124,13 +100,41 @@ TEST_F(Entries, ProfileTableEntriesNameMembers) {
   EXPECT_EQ(0u, r.act.num_bytes);
 }
 
-TEST_F(Entries, ChangeFindAndDeleteByHandleAndByKey) {
+// One entry's life: read back as stored (and not into too little room),
+// missed by every way to another, changed and found by key, deleted, its key
+// free again.
+TEST_F(Entries, AddReadChangeFindAndDelete) {
   Key k(l2, 9), other(l2, 10);
-  Act a(ucast_desc, 1);
+  Act a(ucast_desc, 7);
   const pd_act_fn_hdl mcast = fn(l2, "l2LookupKnownMcast");
   Act m(*use(l2, "l2LookupKnownMcast").action, 4);
   pd_entry_hdl hdl = 0, found = 0;
-  ASSERT_EQ(BF_SUCCESS, add(l2.handle, k, ucast, a, &hdl));
+  ASSERT_EQ(BF_SUCCESS,
+            pipe_mgr_mat_ent_add(kSess, kDev0, l2.handle, &k.rec, ucast, &a.rec, 3000, 0, &hdl));
+  EXPECT_EQ(1u, hdl);
+  EXPECT_EQ(1u, orbisk_model_entry_count(0, l2.handle));
+  Read r(8);
+  ASSERT_EQ(BF_SUCCESS, r.get(l2.handle, hdl));
+  EXPECT_EQ(0, std::memcmp(r.value, k.value, 8));
+  EXPECT_EQ(0, std::memcmp(r.mask, k.mask, 8));
+  EXPECT_EQ(8u, r.key.num_bytes);
+  EXPECT_EQ(60u, r.key.num_valid_bits);
+  EXPECT_EQ(ucast, r.fn);
+  EXPECT_EQ(PD_RECORD_KIND_DIRECT, r.act.record_kind);
+  EXPECT_EQ(3u, r.act.num_bytes);
+  EXPECT_EQ(20u, r.act.num_valid_bits);
+  EXPECT_EQ(0, std::memcmp(r.data, a.data, 3));
+  EXPECT_EQ(0xEE, r.data[3]) << "wrote past the stored data";
+  EXPECT_EQ(0u, r.act.resource_count);
+  // Too little room for the data or the key: nothing is written.
+  Read small(8, 2), short_key(7);
+  EXPECT_EQ(ORBISK_MODEL_BAD_RECORD, small.get(l2.handle, hdl));
+  EXPECT_EQ(0xEE, small.value[0]);
+  EXPECT_EQ(0xEE, small.data[0]);
+  EXPECT_EQ(0xEEEEEEEEu, small.fn);
+  EXPECT_EQ(ORBISK_MODEL_BAD_RECORD, short_key.get(l2.handle, hdl));
+  EXPECT_EQ(0xEE, short_key.value[0]);
+
   // Every way to an entry that is not there, or with the wrong record.
   EXPECT_EQ(ORBISK_MODEL_NO_SUCH_ENTRY,
             pipe_mgr_mat_ent_set_action(kSess, 0, l2.handle, hdl + 1, mcast, &m.rec, 0));
@@ -146,7 +150,6 @@ TEST_F(Entries, ChangeFindAndDeleteByHandleAndByKey) {
 
   ASSERT_EQ(BF_SUCCESS, pipe_mgr_mat_ent_set_action_by_match_spec(kSess, kDev0, l2.handle, &k.rec,
                                                                   mcast, &m.rec, 0));
-  Read r(8);
   ASSERT_EQ(BF_SUCCESS, r.get(l2.handle, hdl));
   EXPECT_EQ(mcast, r.fn);
   EXPECT_EQ(2u, r.act.num_bytes);
@@ -157,21 +160,6 @@ TEST_F(Entries, ChangeFindAndDeleteByHandleAndByKey) {
   EXPECT_EQ(0u, orbisk_model_entry_count(0, l2.handle));
   EXPECT_EQ(ORBISK_MODEL_NO_SUCH_ENTRY, pipe_mgr_mat_ent_del(kSess, 0, l2.handle, hdl, 0));
   EXPECT_EQ(BF_SUCCESS, add(l2.handle, k, ucast, a, &hdl)) << "the key is free again";
-}
-
-TEST_F(Entries, ReadWithoutRoomWritesNothing) {
-  Key k(l2, 1);
-  Act a(ucast_desc, 1);
-  pd_entry_hdl hdl = 0;
-  ASSERT_EQ(BF_SUCCESS, add(l2.handle, k, ucast, a, &hdl));
-  Read small(8, 2);
-  EXPECT_EQ(ORBISK_MODEL_BAD_RECORD, small.get(l2.handle, hdl));
-  EXPECT_EQ(0xEE, small.value[0]);
-  EXPECT_EQ(0xEE, small.data[0]);
-  EXPECT_EQ(0xEEEEEEEEu, small.fn);
-  Read short_key(7);
-  EXPECT_EQ(ORBISK_MODEL_BAD_RECORD, short_key.get(l2.handle, hdl));
-  EXPECT_EQ(0xEE, short_key.value[0]);
 }
 
 // Many entries, so the key index grows and closes its gaps on deletes, and

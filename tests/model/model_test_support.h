@@ -9,9 +9,8 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
-#include <string_view>
 
-#include "descriptors.h"
+#include "../by_name.h"
 #include "orbisk_driver_model.h"
 
 namespace model_test {
@@ -25,25 +24,9 @@ constexpr pd_dev_target kDev0 = {0, PD_DEV_PIPE_ALL};
 constexpr pd_dev_target kDev1 = {1, PD_DEV_PIPE_ALL};
 constexpr pd_tbl_hdl kNoTable = 0x0100ffff;
 
-inline const TableDesc &table(std::string_view name) {
-  for (std::size_t i = 0; i < orbisk::pd::kNumTables; ++i) {
-    if (name == orbisk::pd::kTables[i].name) return orbisk::pd::kTables[i];
-  }
-  ADD_FAILURE() << "no table " << name;
-  return orbisk::pd::kTables[0];
-}
-
-// An action as a table uses it: .handle, .action.
-inline const orbisk::pd::TableActionDesc &use(const TableDesc &t, std::string_view action) {
-  for (uint16_t i = 0; i < t.num_actions; ++i) {
-    if (action == t.actions[i].action->name) return t.actions[i];
-  }
-  ADD_FAILURE() << "no action " << action << " on " << t.name;
-  return t.actions[0];
-}
-inline pd_act_fn_hdl fn(const TableDesc &t, std::string_view action) {
-  return use(t, action).handle;
-}
+using by_name::fn;
+using by_name::table;
+using by_name::use;
 
 inline uint8_t width_mask(unsigned bits) {
   return bits % 8 ? uint8_t((1u << (bits % 8)) - 1) : 0xFF;

@@ -255,23 +255,25 @@ TEST_F(MemberSelection, LogAndRestoreRoundTrip) {
   pd_ms_state *from = p4_pd_ms_init_state();
   pd_ms_state *to = p4_pd_ms_init_state();
   ASSERT_NE(from, to);
-  ASSERT_EQ(BF_SUCCESS, orbisk_model_ms_set_member(from, 0, 10, 0x30000018));
-  ASSERT_EQ(BF_SUCCESS, orbisk_model_ms_set_member(from, 0, 11, 0x30000019));
-  ASSERT_EQ(BF_SUCCESS, orbisk_model_ms_set_group(from, 0, 5, 0x30000018));
+  // Members of the ECMP profile name its two actions.
+  const std::string a0 = std::to_string(ecmp.actions[0].handle), a1 = std::to_string(ecmp.actions[1].handle);
+  ASSERT_EQ(BF_SUCCESS, orbisk_model_ms_set_member(from, 0, 10, ecmp.actions[0].handle));
+  ASSERT_EQ(BF_SUCCESS, orbisk_model_ms_set_member(from, 0, 11, ecmp.actions[1].handle));
+  ASSERT_EQ(BF_SUCCESS, orbisk_model_ms_set_group(from, 0, 5, ecmp.actions[0].handle));
   ASSERT_EQ(BF_SUCCESS, orbisk_model_ms_set_member(from, 1, 99, 1));
 
   cJSON *doc = cJSON_CreateObject();
   ASSERT_EQ(BF_SUCCESS, p4_pd_ms_log_state(0, from, doc));
   char *text = cJSON_PrintUnformatted(doc);
-  EXPECT_EQ(std::string(R"({"members":[{"mbr":10,"act":805306392},{"mbr":11,"act":805306393}],)"
-                        R"("groups":[{"grp":5,"act":805306392}]})"),
+  EXPECT_EQ(R"({"members":[{"mbr":10,"act":)" + a0 + R"(},{"mbr":11,"act":)" + a1 + R"(}],)" +
+                R"("groups":[{"grp":5,"act":)" + a0 + "}]}",
             text);
   cJSON_free(text);
 
   ASSERT_EQ(BF_SUCCESS, p4_pd_ms_restore_state(3, to, doc));
   EXPECT_EQ(2u, orbisk_model_ms_member_count(to, 3));
   EXPECT_EQ(1u, orbisk_model_ms_group_count(to, 3));
-  EXPECT_EQ(0x30000019u, orbisk_model_ms_member_action(to, 3, 11));
+  EXPECT_EQ(ecmp.actions[1].handle, orbisk_model_ms_member_action(to, 3, 11));
   EXPECT_EQ(0u, orbisk_model_ms_member_count(to, 0));
 
   // A malformed document changes nothing.
