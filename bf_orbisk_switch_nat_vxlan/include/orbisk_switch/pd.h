@@ -74,8 +74,8 @@
  *      driver property of the table.
  *  <t>_get_property(sess, device id, property, out value, out second value):
  *      reads one back; on failure both out places are 0xFFFFFFFF.
- *  <t>_get_mat_table_handle(out table handle or NULL): the table's handle;
- *      always 0.
+ *  <t>_get_mat_table_handle(out table handle or NULL): stores the table's
+ *      handle unless the pointer is NULL; returns 0.
  *  <t>_register_mat_update_cb(sess, device id, update callback, cookie): the
  *      callback told of every entry added, changed or deleted.
  *  unbuild_key_<t>(key record, out match spec): a key record's values into a
