@@ -155,6 +155,51 @@ pd_status pipe_mgr_mat_tbl_default_entry_reset(pd_sess_hdl, pd_dev_target, pd_tb
   return BF_SUCCESS;
 }
 
+pd_status pipe_mgr_idle_set_params(pd_sess_hdl, uint32_t, pd_tbl_hdl, pd_idle_driver_params) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_idle_tmo_set_enable(pd_sess_hdl, uint32_t, pd_tbl_hdl, uint32_t) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_idle_get_params(pd_sess_hdl, uint32_t, pd_tbl_hdl, pd_idle_driver_params *) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_idle_register_tmo_cb(pd_sess_hdl, uint32_t, pd_tbl_hdl, pd_idle_tmo_cb,
+                                        void *) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_mat_ent_set_idle_ttl(pd_sess_hdl, uint32_t, pd_tbl_hdl, pd_entry_hdl, uint32_t,
+                                        uint32_t, uint32_t) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_mat_ent_get_idle_ttl(pd_sess_hdl, uint32_t, pd_tbl_hdl, pd_entry_hdl,
+                                        uint32_t *) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_mat_ent_reset_idle_ttl(pd_sess_hdl, uint32_t, pd_tbl_hdl, pd_entry_hdl) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_idle_time_update_hit_state(pd_sess_hdl, uint32_t, pd_tbl_hdl, pd_idle_update_cb,
+                                              void *) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_idle_time_get_hit_state(pd_sess_hdl, uint32_t, pd_tbl_hdl, pd_entry_hdl,
+                                           uint32_t *) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_tbl_set_property(pd_sess_hdl, uint32_t, pd_tbl_hdl, uint32_t, uint32_t,
+                                    uint32_t) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_tbl_get_property(pd_sess_hdl, uint32_t, pd_tbl_hdl, uint32_t, uint32_t *,
+                                    uint32_t *) {
+  return BF_SUCCESS;
+}
+pd_status pipe_register_mat_update_cb(pd_sess_hdl, uint32_t, pd_tbl_hdl, pd_mat_update_cb,
+                                      void *) {
+  return BF_SUCCESS;
+}
+
 pd_status p4_pd_ms_init(void) { return BF_SUCCESS; }
 
 pd_ms_state *p4_pd_ms_init_state(void) { return &g_ms_state; }

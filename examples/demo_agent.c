@@ -10,12 +10,14 @@
  *   - ipv4ShortMaskLpm:   10.1.2.0/24 in VRF 3 to next hop 42 (setNextHop)
  * Each entry is read back, printed in host form and compared with what was
  * written; then every entry is deleted and each table is checked to be
- * empty. A failed status ends the program at once, and any difference makes
+ * empty. Last, the route is added again with an idle time and left without
+ * traffic until the driver reports it idle, and is then taken out. A failed status ends the program at once, and any difference makes
  * it end with status 1; either is explained on stderr.
  *
- * Only the library's interface is used. The driver functions it calls come
- * from whatever implements them at load time: the chip's driver in a switch,
- * the in-memory driver model here. */
+ * Only the library's interface is used, and the driver model's clock to let
+ * time pass. The driver functions it calls come from whatever implements
+ * them at load time: the chip's driver in a switch, the in-memory driver
+ * model here. */
 #include <inttypes.h>
 #include <stdbool.h>
 #include <stdint.h>
@@ -23,6 +25,7 @@
 #include <stdlib.h>
 #include <string.h>
 
+#include "orbisk_driver_model.h"
 #include "orbisk_switch/pd.h"
 
 #define SESS ((pd_sess_hdl)0)
@@ -309,6 +312,58 @@ static void show_route(pd_entry_hdl hdl) {
   expect_u32(table, "action_nextHop", a->action_nextHop, ROUTE_NEXT_HOP);
 }
 
+/* ----------------------------------------------------------- ageing --- */
+
+#define ROUTE_TTL_MS 30000u
+
+struct route_timeouts {
+  int count;
+  pd_entry_hdl last;
+};
+
+/* Called by the driver for each route that stayed idle for its TTL. */
+static void on_route_timeout(uint32_t device_id, pd_tbl_hdl tbl, pd_entry_hdl hdl, void *cookie) {
+  struct route_timeouts *seen = cookie;
+  (void)device_id;
+  (void)tbl;
+  ++seen->count;
+  seen->last = hdl;
+}
+
+/* The route's table is put in notify mode with a timeout callback and the
+ * route gets a TTL; the model's clock then moves on, in place of time
+ * passing on a switch, and the driver reports the route once its TTL is up.
+ * The agent takes it out, as it would a route nobody uses. */
+static void age_out_route(void) {
+  static const char *const table = "ipv4ShortMaskLpm";
+  struct route_timeouts seen = {0, 0};
+  pd_idle_params params;
+  memset(&params, 0, sizeof params);
+  params.mode = PD_IDLE_MODE_NOTIFY;
+
+  pd_entry_hdl hdl = add_route();
+  must(p4_pd_orbisk_switch_ipv4ShortMaskLpm_set_ttl(SESS, DEVICE, hdl, ROUTE_TTL_MS),
+       "ipv4ShortMaskLpm set_ttl");
+  must(p4_pd_orbisk_switch_ipv4ShortMaskLpm_idle_register_tmo_cb(SESS, DEVICE, on_route_timeout,
+                                                                 &seen),
+       "ipv4ShortMaskLpm idle_register_tmo_cb");
+  must(p4_pd_orbisk_switch_ipv4ShortMaskLpm_idle_tmo_enable(SESS, DEVICE, params),
+       "ipv4ShortMaskLpm idle_tmo_enable");
+
+  orbisk_model_advance_time(ROUTE_TTL_MS - 1);
+  expect_u32(table, "timeouts before the TTL is up", (uint32_t)seen.count, 0);
+  orbisk_model_advance_time(1);
+  expect_u32(table, "timeouts once the TTL is up", (uint32_t)seen.count, 1);
+  expect_u32(table, "entry reported idle", seen.last, hdl);
+  printf("%s entry %" PRIu32 " aged out after %" PRIu64 " ms without traffic\n", table,
+         (uint32_t)hdl, orbisk_model_now_ms());
+
+  must(p4_pd_orbisk_switch_ipv4ShortMaskLpm_table_delete(SESS, DEVICE, hdl),
+       "ipv4ShortMaskLpm delete");
+  must(p4_pd_orbisk_switch_ipv4ShortMaskLpm_idle_tmo_disable(SESS, DEVICE),
+       "ipv4ShortMaskLpm idle_tmo_disable");
+}
+
 /* ----------------------------------------------------------- counts --- */
 
 typedef pd_status (*count_fn)(pd_sess_hdl, pd_dev_target, uint32_t *);
@@ -353,6 +408,8 @@ int main(void) {
   expect_count("l2Lookup", p4_pd_orbisk_switch_l2Lookup_get_entry_count, 0);
   expect_count("ipv4ShortMaskLpm", p4_pd_orbisk_switch_ipv4ShortMaskLpm_get_entry_count, 0);
   printf("deleted 4 entries; all four tables are empty\n");
+
+  age_out_route();
 
   must(p4_pd_orbisk_switch_cleanup(), "cleanup");
 

@@ -48,6 +48,14 @@ def main(lib, root):
                   "table_get_default_entry", "table_get_default_entry_handle",
                   "table_reset_default_entry"):
             add(s, "%s%s_%s" % (P, n, s))
+        if "idle_timeout" in t.get("flags", []):
+            for s in ("idle_tmo_enable", "idle_tmo_disable", "idle_params_get",
+                      "idle_register_tmo_cb", "set_ttl", "get_ttl", "reset_ttl",
+                      "update_hit_state", "get_hit_state"):
+                add("idle", "%s%s_%s" % (P, n, s))
+        for s in ("set_property", "get_property", "get_mat_table_handle",
+                  "register_mat_update_cb"):
+            add(s, "%s%s_%s" % (P, n, s))
     params = {}
     for t in tables:
         for a in t.get("actions", []):
@@ -70,6 +78,8 @@ def main(lib, root):
              "get_entry": 148, "get_entry_count": 154, "get_first_entry_handle": 154,
              "get_next_entry_handles": 154, "table_get_default_entry": 154,
              "table_get_default_entry_handle": 154, "table_reset_default_entry": 154,
+             "idle": 153, "set_property": 154, "get_property": 154, "get_mat_table_handle": 154,
+             "register_mat_update_cb": 154,
              "frame": 8, "objects": 2}
     failed = False
     for k, v in known.items():

@@ -13,10 +13,14 @@
  *     member and group names.
  *   Clients: their names, callback records and priorities.
  *   The call log, armed faults, log lines and memory blocks (see below).
+ *   Idle time: per device and table whose entries age, the parameters, the
+ *     enable state and the timeout callback; per entry its TTL and hit state.
+ *   Properties: per device and table, each property's two values, and the
+ *     table's update callback.
  *   Homes, empty for now, for what later driver services keep: action data
  *     and selector tables per profile and device; counters, meters and
- *     registers by device, resource handle and pipe; idle state; digests;
- *     snapshots by device and pipe; placement data.
+ *     registers by device, resource handle and pipe; digests; snapshots by
+ *     device and pipe; placement data.
  *   What the model knows of the program (tables, key fields and widths,
  *   actions, parameters, resources) comes from the descriptors generated from
  *   the catalogue, the same ones the library is built from.
@@ -99,6 +103,48 @@
  *   reads as empty; a malformed one is ORBISK_MODEL_BAD_RECORD). A state that
  *   the model did not give out is ORBISK_MODEL_BAD_RECORD.
  *
+ * Idle time
+ *   Only the tables whose entries age take the idle calls; any other table is
+ *   ORBISK_MODEL_NO_IDLE_TIME. An entry of such a table ages from its add
+ *   (with the TTL the add passed, 0 for tables whose adds pass none) until
+ *   its delete. TTLs are in milliseconds of the model clock
+ *   (orbisk_model_advance_time); a TTL of 0 never runs out.
+ *   - pipe_mgr_idle_set_params keeps the seven words as given; only the mode
+ *     is read: 1 (PD_IDLE_MODE_NOTIFY) is notify mode, anything else poll
+ *     mode. pipe_mgr_idle_get_params answers them, all 0 before any set.
+ *     Parameters may change while ageing is on and take effect at once.
+ *   - pipe_mgr_idle_tmo_set_enable: nonzero turns ageing on, 0 off. Turning it
+ *     on starts every entry's idle time afresh. Neither is refused.
+ *   - Notify mode, ageing on: entries age as the clock moves, and each that
+ *     stays idle for its TTL is reported once through the timeout callback
+ *     (pipe_mgr_idle_register_tmo_cb, a null callback for none).
+ *     pipe_mgr_mat_ent_reset_idle_ttl starts an entry's idle time again;
+ *     refused with ORBISK_MODEL_AGEING_OFF while ageing is off and
+ *     ORBISK_MODEL_WRONG_IDLE_MODE in poll mode.
+ *   - Poll mode, ageing on: orbisk_model_mark_hit notes traffic;
+ *     pipe_mgr_idle_time_update_hit_state makes each entry's hit state
+ *     PD_IDLE_HIT_STATE_ACTIVE if it was hit since the last update, else
+ *     PD_IDLE_HIT_STATE_IDLE, then calls its callback (device, table,
+ *     cookie; none when null) outside the lock;
+ *     pipe_mgr_idle_time_get_hit_state answers the state of the last update
+ *     (idle before any). Both are ORBISK_MODEL_AGEING_OFF while ageing is off
+ *     and ORBISK_MODEL_WRONG_IDLE_MODE in notify mode.
+ *   - pipe_mgr_mat_ent_set_idle_ttl and _get_idle_ttl work in either mode,
+ *     ageing on or off; setting a TTL starts the entry's idle time again. An
+ *     unknown entry is ORBISK_MODEL_NO_SUCH_ENTRY.
+ *   Checks run in this order: table, idle time, null pointers, ageing state,
+ *   then the entry.
+ *
+ * Properties and update callbacks
+ *   pipe_mgr_tbl_set_property keeps any property number with its two values,
+ *   per device and table; pipe_mgr_tbl_get_property answers them, and 0 and 0
+ *   for a property never set. pipe_register_mat_update_cb gives a table of a
+ *   device one update callback (a later one replaces it, a null one removes
+ *   it): after every successful add, action change and delete of an entry of
+ *   that table, it is called with the device, the table, the entry handle,
+ *   PD_MAT_UPDATE_ADD, _MODIFY or _DELETE, and the cookie, outside the lock.
+ *   Default entries are not entries here.
+ *
  * Notifications
  *   Calls into the clients' callbacks are queued while the model holds its
  *   lock and made once it is released, by the same call, in the caller's
@@ -142,6 +188,15 @@ extern "C" {
 /* A control was given a value it cannot take: a fault of status 0, an entry
  * handle outside 1 to 0x7FFFFFFF, an unknown call log mode. */
 #define ORBISK_MODEL_BAD_CONTROL ((pd_status)0x109)
+
+/* An idle time call on a table whose entries do not age. */
+#define ORBISK_MODEL_NO_IDLE_TIME ((pd_status)0x10A)
+/* A call that needs the table's ageing on while it is off: reset of an
+ * entry's idle time, update or read of hit state. */
+#define ORBISK_MODEL_AGEING_OFF ((pd_status)0x10B)
+/* A call of the other idle mode: hit state in notify mode, reset of an
+ * entry's idle time outside it. */
+#define ORBISK_MODEL_WRONG_IDLE_MODE ((pd_status)0x10C)
 
 /* Handle of the default entry of every table. */
 #define ORBISK_MODEL_DEFAULT_ENTRY_HDL ((pd_entry_hdl)0x80000000u)
@@ -195,17 +250,39 @@ void orbisk_model_set_dbg_mode(int mode);
  * an unknown table or device. */
 size_t orbisk_model_entry_count(uint32_t device_id, pd_tbl_hdl tbl);
 
-/* Number of devices whose tables hold state: a device counts from its first
- * successful write until a reset or its removal. */
+/* Number of devices whose tables hold state (entries, defaults, idle time,
+ * properties, update callbacks): a device counts from its first successful
+ * write until a reset or its removal. */
 size_t orbisk_model_device_count(void);
+
+/* ----------------------------------------------------------- idle time --- */
+
+/* The model clock, in milliseconds, by which entries age: it starts at 0,
+ * moves only when told to, and goes back to 0 at a reset. */
+uint64_t orbisk_model_now_ms(void);
+
+/* Moves the clock on by ms. Every entry of a table of a device in notify mode
+ * with ageing on, whose TTL is not 0 and that was not hit for its whole TTL,
+ * is reported once: that table's timeout callback is called with the device,
+ * table, entry handle and cookie, outside the model's lock, in the caller's
+ * thread. An entry that runs out while no callback is registered is not
+ * reported later. */
+void orbisk_model_advance_time(uint64_t ms);
+
+/* Marks an entry hit, as traffic would: its idle time starts again (and it
+ * may be reported again once it runs out), and the next update_hit_state
+ * finds it active. ORBISK_MODEL_NO_SUCH_TABLE, ORBISK_MODEL_NO_IDLE_TIME for
+ * a table whose entries do not age, ORBISK_MODEL_NO_SUCH_ENTRY. */
+pd_status orbisk_model_mark_hit(uint32_t device_id, pd_tbl_hdl tbl, pd_entry_hdl entry_hdl);
 
 /* ------------------------------------------------------------ call log --- */
 
 /* One record a call passed in, copied whole when the call began. Names: "key"
  * (the pd_match_record), "key.value" and "key.mask" (its strings, num_bytes
  * each), "act" (the pd_action_record), "act.data" (its data, num_bytes),
- * "callbacks" (the pd_drv_client_callbacks record). A null record or string
- * has no copy. */
+ * "callbacks" (the pd_drv_client_callbacks record), "params" (the
+ * pd_idle_driver_params given by value, or offered for a read). A null record
+ * or string has no copy. */
 typedef struct orbisk_model_bytes {
   const char *name;
   const uint8_t *bytes;
@@ -220,7 +297,9 @@ typedef struct orbisk_model_call {
   pd_status status;      /* what the call returned (0 for p4_pd_ms_init_state) */
   uint32_t num_args;
   /* Every argument in call order: integers widened, a pd_dev_target as its
-   * word (device_id | pipe << 32), pointers as addresses. */
+   * word (device_id | pipe << 32), pointers and callbacks as addresses, a
+   * record passed by value (pd_idle_driver_params) as 0, its bytes being
+   * among the records. */
   const uint64_t *args;
   uint32_t num_records;
   const orbisk_model_bytes *records;  /* in the order the call's arguments name them */

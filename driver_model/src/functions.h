@@ -25,6 +25,18 @@
   X(pipe_mgr_table_get_default_entry)          \
   X(pipe_mgr_table_get_default_entry_handle)   \
   X(pipe_mgr_mat_tbl_default_entry_reset)      \
+  X(pipe_mgr_idle_set_params)                  \
+  X(pipe_mgr_idle_tmo_set_enable)              \
+  X(pipe_mgr_idle_get_params)                  \
+  X(pipe_mgr_idle_register_tmo_cb)             \
+  X(pipe_mgr_mat_ent_set_idle_ttl)             \
+  X(pipe_mgr_mat_ent_get_idle_ttl)             \
+  X(pipe_mgr_mat_ent_reset_idle_ttl)           \
+  X(pipe_mgr_idle_time_update_hit_state)       \
+  X(pipe_mgr_idle_time_get_hit_state)          \
+  X(pipe_mgr_tbl_set_property)                 \
+  X(pipe_mgr_tbl_get_property)                 \
+  X(pipe_register_mat_update_cb)               \
   X(p4_pd_ms_init)                             \
   X(p4_pd_ms_init_state)                       \
   X(p4_pd_ms_destroy_state_for_dev)            \

@@ -15,6 +15,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <set>
 #include <unordered_map>
 #include <vector>
 
@@ -227,7 +228,11 @@ class TableStore final : public Store {
 
   MatchTable *find(uint32_t device_id, const TableDesc &t);
   MatchTable &make(uint32_t device_id, const TableDesc &t);
-  std::size_t device_count() const { return devices_.size(); }
+  std::set<uint32_t> devices() const {
+    std::set<uint32_t> out;
+    for (const auto &kv : devices_) out.insert(kv.first);
+    return out;
+  }
 
   // A read quirk armed for the next successful entry or default read; -1
   // leaves the kind or the action as stored.

@@ -32,6 +32,7 @@ struct Model {
   ProfileStore profiles;
   ResourceStore resources;
   IdleStore idle;
+  PropertyStore properties;
   DigestStore digests;
   SnapshotStore snapshots;
   PlacementStore placement;
@@ -41,9 +42,9 @@ struct Model {
   // of its own.
   std::vector<std::function<void()>> notifications;
 
-  Store *const stores[13] = {&calls,   &faults,    &clients,  &log_lines, &allocations,
-                             &ms,      &tables,    &profiles, &resources, &idle,
-                             &digests, &snapshots, &placement};
+  Store *const stores[14] = {&calls,     &faults,     &clients,   &log_lines, &allocations,
+                             &ms,        &tables,     &profiles,  &resources, &idle,
+                             &properties, &digests,   &snapshots, &placement};
 
   void reset() {
     for (Store *s : stores) s->clear();
@@ -94,6 +95,11 @@ template <typename T>
 requires std::is_integral_v<T>
 inline uint64_t arg(T v) { return uint64_t(v); }
 inline uint64_t arg(const void *p) { return uint64_t(reinterpret_cast<uintptr_t>(p)); }
+// A client's callback, by its address.
+template <typename R, typename... A>
+inline uint64_t arg(R (*f)(A...)) {
+  return uint64_t(reinterpret_cast<uintptr_t>(f));
+}
 
 // Runs one driver call: body(Model &) gives the status.
 template <typename Body>

@@ -5,6 +5,7 @@
 // table that had none.
 #include <algorithm>
 #include <cstring>
+#include <set>
 
 #include "model.h"
 #include "record_checks.h"
@@ -56,6 +57,25 @@ DefaultAction default_of(const MatchTable *t, const TableDesc &d) {
   return t != nullptr ? t->default_action : DefaultAction::declared(d);
 }
 
+// What an entry's add, change or delete means to the other stores: an entry
+// of an ageing table starts ageing with its TTL and stops when deleted, and
+// the table's update callback hears of each, after the lock.
+void added(Model &m, uint32_t device_id, const TableDesc &d, pd_entry_hdl hdl, uint32_t ttl) {
+  if (d.flags & orbisk::pd::kIdleTimeout) {
+    m.idle.make(device_id, d.handle).entries[hdl] = IdleStore::Entry{.ttl = ttl};
+  }
+  m.properties.updated(device_id, d.handle, hdl, PD_MAT_UPDATE_ADD, m.notifications);
+}
+
+void modified(Model &m, uint32_t device_id, const TableDesc &d, pd_entry_hdl hdl) {
+  m.properties.updated(device_id, d.handle, hdl, PD_MAT_UPDATE_MODIFY, m.notifications);
+}
+
+void deleted(Model &m, uint32_t device_id, const TableDesc &d, pd_entry_hdl hdl) {
+  if (IdleStore::Table *t = m.idle.find(device_id, d.handle)) t->entries.erase(hdl);
+  m.properties.updated(device_id, d.handle, hdl, PD_MAT_UPDATE_DELETE, m.notifications);
+}
+
 }  // namespace
 
 extern "C" {
@@ -87,6 +107,7 @@ pd_status pipe_mgr_mat_ent_add(pd_sess_hdl sess, pd_dev_target target, pd_tbl_hd
                const pd_entry_hdl hdl = t->insert(*key, hash, fn, *act, ttl);
                if (hdl == 0) return ORBISK_MODEL_TABLE_FULL;  // every handle in use
                *entry_hdl = hdl;
+               added(m, target.device_id, *d, hdl, ttl);
                return kOk;
              });
 }
@@ -104,6 +125,7 @@ pd_status pipe_mgr_mat_ent_set_action(pd_sess_hdl sess, uint32_t device_id, pd_t
                const MatchTable::Entry e = t ? t->find(entry_hdl) : MatchTable::Entry{};
                if (e.head == nullptr) return ORBISK_MODEL_NO_SUCH_ENTRY;
                t->set_action(e, fn, *act);
+               modified(m, device_id, *d, entry_hdl);
                return kOk;
              });
 }
@@ -123,6 +145,7 @@ pd_status pipe_mgr_mat_ent_set_action_by_match_spec(pd_sess_hdl sess, pd_dev_tar
                const pd_entry_hdl hdl = t ? t->find(*key) : 0;
                if (hdl == 0) return ORBISK_MODEL_NO_SUCH_ENTRY;
                t->set_action(t->find(hdl), fn, *act);
+               modified(m, target.device_id, *d, hdl);
                return kOk;
              });
 }
@@ -138,6 +161,7 @@ pd_status pipe_mgr_mat_ent_del(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl 
                  return ORBISK_MODEL_NO_SUCH_ENTRY;
                }
                t->erase(entry_hdl);
+               deleted(m, device_id, *d, entry_hdl);
                return kOk;
              });
 }
@@ -154,6 +178,7 @@ pd_status pipe_mgr_mat_ent_del_by_match_spec(pd_sess_hdl sess, pd_dev_target tar
                const pd_entry_hdl hdl = t ? t->find(*key) : 0;
                if (hdl == 0) return ORBISK_MODEL_NO_SUCH_ENTRY;
                t->erase(hdl);
+               deleted(m, target.device_id, *d, hdl);
                return kOk;
              });
 }
@@ -367,7 +392,13 @@ size_t orbisk_model_entry_count(uint32_t device_id, pd_tbl_hdl tbl) {
 }
 
 size_t orbisk_model_device_count(void) {
-  return in_frame([](Model &m) { return m.tables.device_count(); });
+  return in_frame([](Model &m) {
+    std::set<uint32_t> devices = m.tables.devices();
+    // Idle time and properties are device state too, even on tables without entries.
+    m.idle.add_devices(devices);
+    m.properties.add_devices(devices);
+    return devices.size();
+  });
 }
 
 }  // extern "C"

@@ -10,8 +10,10 @@
 #include <compare>
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 #include <unordered_map>
 #include <unordered_set>
@@ -166,18 +168,65 @@ class ResourceStore final : public Store {
   std::map<Key, std::vector<pd_resource_record>> cells;  // one record per index
 };
 
-// Idle state of entries of ageing tables: the time left and whether the
-// entry was hit, per device, table and entry, aged by a clock tests advance.
+// Idle time of the tables whose entries age, per device and table, and the
+// model clock they age by (idle_store.cpp). An entry of such a table is here
+// from its add to its delete; the other tables have nothing here.
 class IdleStore final : public Store {
  public:
   struct Entry {
-    uint32_t ttl = 0;
-    uint32_t remaining = 0;
-    bool hit = false;
+    uint32_t ttl = 0;        // in ms of the model clock; 0 never ages
+    uint64_t idle_ms = 0;    // idle time so far, in notify mode with ageing on
+    bool reported = false;   // ran out; not told again until hit, reset or given a TTL
+    bool traffic = false;    // hit since the last update_hit_state
+    bool hit_state = false;  // as the last update_hit_state found it
+  };
+  struct Table {
+    pd_idle_driver_params params{};
+    bool enabled = false;
+    pd_idle_tmo_cb tmo_cb = nullptr;
+    void *tmo_cookie = nullptr;
+    std::map<pd_entry_hdl, Entry> entries;
+    bool notify() const { return params.mode == PD_IDLE_MODE_NOTIFY; }
   };
   void clear() override;
   void drop_device(uint32_t device_id) override;
-  std::map<std::pair<uint32_t, pd_tbl_hdl>, std::map<pd_entry_hdl, Entry>> tables;
+  Table *find(uint32_t device_id, pd_tbl_hdl tbl);
+  Table &make(uint32_t device_id, pd_tbl_hdl tbl) { return tables_[{device_id, tbl}]; }
+  // Adds the devices it keeps state for.
+  void add_devices(std::set<uint32_t> &devices) const;
+  // Moves the clock on by ms and queues a call of the timeout callback for
+  // every entry whose TTL runs out.
+  void advance(uint64_t ms, std::vector<std::function<void()>> &due);
+  uint64_t now_ms() const { return now_ms_; }
+
+ private:
+  std::map<std::pair<uint32_t, pd_tbl_hdl>, Table> tables_;
+  uint64_t now_ms_ = 0;
+};
+
+// Driver properties of match tables and the update callbacks registered on
+// them, per device and table (property_store.cpp).
+class PropertyStore final : public Store {
+ public:
+  struct Key {
+    uint32_t device_id;
+    pd_tbl_hdl tbl;
+    uint32_t property;
+    auto operator<=>(const Key &) const = default;
+  };
+  struct UpdateCb {
+    pd_mat_update_cb callback;
+    void *cookie;
+  };
+  void clear() override;
+  void drop_device(uint32_t device_id) override;
+  // Adds the devices it keeps state for.
+  void add_devices(std::set<uint32_t> &devices) const;
+  // Queues a call of the table's update callback, if it has one.
+  void updated(uint32_t device_id, pd_tbl_hdl tbl, pd_entry_hdl hdl, uint32_t type,
+               std::vector<std::function<void()>> &due) const;
+  std::map<Key, std::pair<uint32_t, uint32_t>> values;  // value, second value
+  std::map<std::pair<uint32_t, pd_tbl_hdl>, UpdateCb> update_cbs;
 };
 
 // Digests waiting to be delivered to the client that registered for them,

@@ -53,6 +53,31 @@
  *      default entry's handle.
  *  <t>_table_reset_default_entry(sess, target): puts back the default the
  *      table starts with.
+ *  <t>_idle_tmo_enable(sess, device id, params): sets the table's idle
+ *      parameters and turns ageing on; a refused parameter set leaves it off.
+ *  <t>_idle_tmo_disable(sess, device id): turns ageing off.
+ *  <t>_idle_params_get(sess, device id, out params): reads the idle
+ *      parameters back: all of them in notify mode, else the mode alone;
+ *      untouched on failure.
+ *  <t>_idle_register_tmo_cb(sess, device id, timeout callback, cookie): the
+ *      callback told of each entry that stays idle for its TTL.
+ *  <t>_set_ttl(sess, device id, entry handle, ttl): sets an entry's TTL.
+ *  <t>_get_ttl(sess, device id, entry handle, out ttl): reads an entry's TTL.
+ *  <t>_reset_ttl(sess, device id, entry handle): starts an entry's idle time
+ *      again.
+ *  <t>_update_hit_state(sess, device id, update callback, cookie): brings the
+ *      hit state of the table's entries up to date, then calls the callback.
+ *  <t>_get_hit_state(sess, device id, entry handle, out hit state): reads an
+ *      entry's hit state. The out place is written even when the driver
+ *      fails: look at the status first.
+ *  <t>_set_property(sess, device id, property, value, second value): sets a
+ *      driver property of the table.
+ *  <t>_get_property(sess, device id, property, out value, out second value):
+ *      reads one back; on failure both out places are 0xFFFFFFFF.
+ *  <t>_get_mat_table_handle(out table handle or NULL): stores the table's
+ *      handle unless the pointer is NULL; returns 0.
+ *  <t>_register_mat_update_cb(sess, device id, update callback, cookie): the
+ *      callback told of every entry added, changed or deleted.
  *  unbuild_key_<t>(key record, out match spec): a key record's values into a
  *      match spec.
  *  unbuild_mask_<t>(key record, out match spec): its masks or prefix length
@@ -1418,6 +1443,21 @@ pd_status p4_pd_orbisk_switch_ingressPortMapping_table_get_default_entry_handle(
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_ingressPortMapping_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_ingressPortMapping_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_ingressPortMapping_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_ingressPortMapping_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_ingressPortMapping_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_ingressPortMapping(const pd_match_record *key,
     p4_pd_orbisk_switch_ingressPortMapping_match_spec_t *match_spec);
 
@@ -1531,6 +1571,21 @@ pd_status p4_pd_orbisk_switch_l2DomainLookup_table_get_default_entry_handle(pd_s
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_l2DomainLookup_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_l2DomainLookup_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_l2DomainLookup_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_l2DomainLookup_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_l2DomainLookup_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_l2DomainLookup(const pd_match_record *key,
     p4_pd_orbisk_switch_l2DomainLookup_match_spec_t *match_spec);
 void unbuild_mask_l2DomainLookup(const pd_match_record *key,
@@ -1606,6 +1661,21 @@ pd_status p4_pd_orbisk_switch_taggedXlatePktToL3_table_get_default_entry_handle(
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_taggedXlatePktToL3_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_taggedXlatePktToL3_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_taggedXlatePktToL3_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_taggedXlatePktToL3_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_taggedXlatePktToL3_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_taggedXlatePktToL3(const pd_match_record *key,
     p4_pd_orbisk_switch_taggedXlatePktToL3_match_spec_t *match_spec);
 
@@ -1678,6 +1748,21 @@ pd_status p4_pd_orbisk_switch_taggedPktToL3_table_get_default_entry_handle(pd_se
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_taggedPktToL3_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_taggedPktToL3_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_taggedPktToL3_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_taggedPktToL3_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_taggedPktToL3_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_taggedPktToL3(const pd_match_record *key,
     p4_pd_orbisk_switch_taggedPktToL3_match_spec_t *match_spec);
 
@@ -1750,6 +1835,21 @@ pd_status p4_pd_orbisk_switch_untaggedPktToL3_table_get_default_entry_handle(pd_
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_untaggedPktToL3_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_untaggedPktToL3_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_untaggedPktToL3_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_untaggedPktToL3_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_untaggedPktToL3_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_untaggedPktToL3(const pd_match_record *key,
     p4_pd_orbisk_switch_untaggedPktToL3_match_spec_t *match_spec);
 
@@ -1784,6 +1884,21 @@ pd_status p4_pd_orbisk_switch_ingStpCheck_table_get_default_entry_handle(pd_sess
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_ingStpCheck_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_ingStpCheck_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_ingStpCheck_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_ingStpCheck_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_ingStpCheck_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 
 /* ingVlanCheck: table 0x0100000c, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_ingVlanCheck_get_entry(pd_sess_hdl sess_hdl,
@@ -1816,6 +1931,21 @@ pd_status p4_pd_orbisk_switch_ingVlanCheck_table_get_default_entry_handle(pd_ses
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_ingVlanCheck_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_ingVlanCheck_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_ingVlanCheck_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_ingVlanCheck_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_ingVlanCheck_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 
 /* vlanProperties: table 0x01000018, pipeline A, exact match, 2 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_vlanProperties_match_spec {
@@ -1877,6 +2007,21 @@ pd_status p4_pd_orbisk_switch_vlanProperties_table_get_default_entry_handle(pd_s
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_vlanProperties_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_vlanProperties_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_vlanProperties_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_vlanProperties_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_vlanProperties_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_vlanProperties(const pd_match_record *key,
     p4_pd_orbisk_switch_vlanProperties_match_spec_t *match_spec);
 
@@ -1963,6 +2108,21 @@ pd_status p4_pd_orbisk_switch_ingressPortDropCheck_table_get_default_entry_handl
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_ingressPortDropCheck_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_ingressPortDropCheck_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_ingressPortDropCheck_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_ingressPortDropCheck_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_ingressPortDropCheck_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_ingressPortDropCheck(const pd_match_record *key,
     p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_t *match_spec);
 void unbuild_mask_ingressPortDropCheck(const pd_match_record *key,
@@ -2025,6 +2185,21 @@ pd_status p4_pd_orbisk_switch_ingL2DomainCount_table_get_default_entry_handle(pd
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_ingL2DomainCount_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_ingL2DomainCount_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_ingL2DomainCount_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_ingL2DomainCount_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_ingL2DomainCount_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_ingL2DomainCount(const pd_match_record *key,
     p4_pd_orbisk_switch_ingL2DomainCount_match_spec_t *match_spec);
 
@@ -2085,6 +2260,21 @@ pd_status p4_pd_orbisk_switch_egrL2DomainCount_table_get_default_entry_handle(pd
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_egrL2DomainCount_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_egrL2DomainCount_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_egrL2DomainCount_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_egrL2DomainCount_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_egrL2DomainCount_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_egrL2DomainCount(const pd_match_record *key,
     p4_pd_orbisk_switch_egrL2DomainCount_match_spec_t *match_spec);
 
@@ -2171,6 +2361,21 @@ pd_status p4_pd_orbisk_switch_egressVlanXlate_table_get_default_entry_handle(pd_
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_egressVlanXlate_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_egressVlanXlate_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_egressVlanXlate_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_egressVlanXlate_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_egressVlanXlate_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_egressVlanXlate(const pd_match_record *key,
     p4_pd_orbisk_switch_egressVlanXlate_match_spec_t *match_spec);
 
@@ -2205,6 +2410,21 @@ pd_status p4_pd_orbisk_switch_egrStpCheck_table_get_default_entry_handle(pd_sess
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_egrStpCheck_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_egrStpCheck_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_egrStpCheck_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_egrStpCheck_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_egrStpCheck_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 
 /* egrVlanCheck: table 0x01000072, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_egrVlanCheck_get_entry(pd_sess_hdl sess_hdl,
@@ -2237,6 +2457,21 @@ pd_status p4_pd_orbisk_switch_egrVlanCheck_table_get_default_entry_handle(pd_ses
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_egrVlanCheck_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_egrVlanCheck_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_egrVlanCheck_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_egrVlanCheck_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_egrVlanCheck_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 
 /* vlanEncap: table 0x01000073, pipeline A, exact match, 5 key bytes (22 bits) */
 typedef struct p4_pd_orbisk_switch_vlanEncap_match_spec {
@@ -2306,6 +2541,21 @@ pd_status p4_pd_orbisk_switch_vlanEncap_table_get_default_entry_handle(pd_sess_h
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_vlanEncap_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_vlanEncap_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_vlanEncap_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_vlanEncap_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_vlanEncap_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_vlanEncap(const pd_match_record *key,
     p4_pd_orbisk_switch_vlanEncap_match_spec_t *match_spec);
 
@@ -2340,6 +2590,21 @@ pd_status p4_pd_orbisk_switch_vlanDecap_table_get_default_entry_handle(pd_sess_h
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_vlanDecap_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_vlanDecap_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_vlanDecap_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_vlanDecap_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_vlanDecap_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 
 /* copyOverlayL2Domain: table 0x0100006b, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_copyOverlayL2Domain_get_entry(pd_sess_hdl sess_hdl,
@@ -2372,6 +2637,21 @@ pd_status p4_pd_orbisk_switch_copyOverlayL2Domain_table_get_default_entry_handle
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_copyOverlayL2Domain_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_copyOverlayL2Domain_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_copyOverlayL2Domain_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_copyOverlayL2Domain_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_copyOverlayL2Domain_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 
 /* srcIntfToOvoIntf: table 0x0100006a, pipeline A, exact match, 2 key bytes (9 bits) */
 typedef struct p4_pd_orbisk_switch_srcIntfToOvoIntf_match_spec {
@@ -2446,6 +2726,21 @@ pd_status p4_pd_orbisk_switch_srcIntfToOvoIntf_table_get_default_entry_handle(pd
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_srcIntfToOvoIntf_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_srcIntfToOvoIntf_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_srcIntfToOvoIntf_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_srcIntfToOvoIntf_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_srcIntfToOvoIntf_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_srcIntfToOvoIntf(const pd_match_record *key,
     p4_pd_orbisk_switch_srcIntfToOvoIntf_match_spec_t *match_spec);
 
@@ -2558,6 +2853,21 @@ pd_status p4_pd_orbisk_switch_egrIntfToOvoIntf_table_get_default_entry_handle(pd
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_egrIntfToOvoIntf_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_egrIntfToOvoIntf_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_egrIntfToOvoIntf_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_egrIntfToOvoIntf_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_egrIntfToOvoIntf_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_egrIntfToOvoIntf(const pd_match_record *key,
     p4_pd_orbisk_switch_egrIntfToOvoIntf_match_spec_t *match_spec);
 
@@ -2665,6 +2975,21 @@ pd_status p4_pd_orbisk_switch_ovoIntfToPhysical_table_get_default_entry_handle(p
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_ovoIntfToPhysical_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_ovoIntfToPhysical_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_ovoIntfToPhysical_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_ovoIntfToPhysical_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_ovoIntfToPhysical_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_ovoIntfToPhysical(const pd_match_record *key,
     p4_pd_orbisk_switch_ovoIntfToPhysical_match_spec_t *match_spec);
 void unbuild_mask_ovoIntfToPhysical(const pd_match_record *key,
@@ -2760,6 +3085,21 @@ pd_status p4_pd_orbisk_switch_egressPortDropCheck_table_get_default_entry_handle
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_egressPortDropCheck_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_egressPortDropCheck_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_egressPortDropCheck_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_egressPortDropCheck_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_egressPortDropCheck_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_egressPortDropCheck(const pd_match_record *key,
     p4_pd_orbisk_switch_egressPortDropCheck_match_spec_t *match_spec);
 void unbuild_mask_egressPortDropCheck(const pd_match_record *key,
@@ -2832,6 +3172,21 @@ pd_status p4_pd_orbisk_switch_egressSamePortBridgingTest_table_get_default_entry
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_egressSamePortBridgingTest_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_egressSamePortBridgingTest_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_egressSamePortBridgingTest_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_egressSamePortBridgingTest_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_egressSamePortBridgingTest_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_egressSamePortBridgingTest(const pd_match_record *key,
     p4_pd_orbisk_switch_egressSamePortBridgingTest_match_spec_t *match_spec);
 
@@ -2866,6 +3221,21 @@ pd_status p4_pd_orbisk_switch_samePortBridgingTest_table_get_default_entry_handl
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_samePortBridgingTest_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_samePortBridgingTest_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_samePortBridgingTest_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_samePortBridgingTest_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_samePortBridgingTest_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 
 /* mlagUcastPrune: table 0x01000050, pipeline A, exact match, 3 key bytes (20 bits) */
 typedef struct p4_pd_orbisk_switch_mlagUcastPrune_match_spec {
@@ -2933,6 +3303,21 @@ pd_status p4_pd_orbisk_switch_mlagUcastPrune_table_get_default_entry_handle(pd_s
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_mlagUcastPrune_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_mlagUcastPrune_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_mlagUcastPrune_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_mlagUcastPrune_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_mlagUcastPrune_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_mlagUcastPrune(const pd_match_record *key,
     p4_pd_orbisk_switch_mlagUcastPrune_match_spec_t *match_spec);
 
@@ -3095,6 +3480,21 @@ pd_status p4_pd_orbisk_switch_l2DmacClassify_table_get_default_entry_handle(pd_s
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_l2DmacClassify_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_l2DmacClassify_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_l2DmacClassify_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_l2DmacClassify_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_l2DmacClassify_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_l2DmacClassify(const pd_match_record *key,
     p4_pd_orbisk_switch_l2DmacClassify_match_spec_t *match_spec);
 void unbuild_mask_l2DmacClassify(const pd_match_record *key,
@@ -3176,6 +3576,21 @@ pd_status p4_pd_orbisk_switch_l2SmacCheck_table_get_default_entry_handle(pd_sess
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_l2SmacCheck_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_l2SmacCheck_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_l2SmacCheck_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_l2SmacCheck_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_l2SmacCheck_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_l2SmacCheck(const pd_match_record *key,
     p4_pd_orbisk_switch_l2SmacCheck_match_spec_t *match_spec);
 void unbuild_mask_l2SmacCheck(const pd_match_record *key,
@@ -3249,6 +3664,21 @@ pd_status p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_table_get_default_entry_han
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_l2StaticMacSrcAddrDrop(const pd_match_record *key,
     p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_match_spec_t *match_spec);
 
@@ -3323,6 +3753,52 @@ pd_status p4_pd_orbisk_switch_l2LearningLookup_table_get_default_entry_handle(pd
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_l2LearningLookup_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_l2LearningLookup_idle_tmo_enable(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_params params);
+pd_status p4_pd_orbisk_switch_l2LearningLookup_idle_tmo_disable(pd_sess_hdl sess_hdl,
+    uint32_t dev_id);
+pd_status p4_pd_orbisk_switch_l2LearningLookup_idle_params_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_params *params);
+pd_status p4_pd_orbisk_switch_l2LearningLookup_idle_register_tmo_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_tmo_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_l2LearningLookup_set_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t ttl);
+pd_status p4_pd_orbisk_switch_l2LearningLookup_get_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *ttl);
+pd_status p4_pd_orbisk_switch_l2LearningLookup_reset_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl);
+pd_status p4_pd_orbisk_switch_l2LearningLookup_update_hit_state(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_update_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_l2LearningLookup_get_hit_state(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *hit_state);
+pd_status p4_pd_orbisk_switch_l2LearningLookup_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_l2LearningLookup_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_l2LearningLookup_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_l2LearningLookup_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_l2LearningLookup(const pd_match_record *key,
     p4_pd_orbisk_switch_l2LearningLookup_match_spec_t *match_spec);
 
@@ -3433,6 +3909,21 @@ pd_status p4_pd_orbisk_switch_l2Lookup_table_get_default_entry_handle(pd_sess_hd
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_l2Lookup_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_l2Lookup_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_l2Lookup_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_l2Lookup_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_l2Lookup_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_l2Lookup(const pd_match_record *key,
     p4_pd_orbisk_switch_l2Lookup_match_spec_t *match_spec);
 
@@ -3551,6 +4042,21 @@ pd_status p4_pd_orbisk_switch_l2LookupMiss_table_get_default_entry_handle(pd_ses
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_l2LookupMiss_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_l2LookupMiss_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_l2LookupMiss_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_l2LookupMiss_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_l2LookupMiss_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_l2LookupMiss(const pd_match_record *key,
     p4_pd_orbisk_switch_l2LookupMiss_match_spec_t *match_spec);
 void unbuild_mask_l2LookupMiss(const pd_match_record *key,
@@ -3616,6 +4122,21 @@ pd_status p4_pd_orbisk_switch_l2ForwardParams_table_get_default_entry_handle(pd_
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_l2ForwardParams_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_l2ForwardParams_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_l2ForwardParams_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_l2ForwardParams_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_l2ForwardParams_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_l2ForwardParams(const pd_match_record *key,
     p4_pd_orbisk_switch_l2ForwardParams_match_spec_t *match_spec);
 
@@ -3679,6 +4200,21 @@ pd_status p4_pd_orbisk_switch_l2XRemap_table_get_default_entry_handle(pd_sess_hd
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_l2XRemap_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_l2XRemap_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_l2XRemap_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_l2XRemap_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_l2XRemap_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_l2XRemap(const pd_match_record *key,
     p4_pd_orbisk_switch_l2XRemap_match_spec_t *match_spec);
 
@@ -3803,6 +4339,21 @@ pd_status p4_pd_orbisk_switch_learningDigestGeneration_table_get_default_entry_h
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_learningDigestGeneration_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_learningDigestGeneration_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_learningDigestGeneration_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_learningDigestGeneration_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_learningDigestGeneration_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_learningDigestGeneration(const pd_match_record *key,
     p4_pd_orbisk_switch_learningDigestGeneration_match_spec_t *match_spec);
 void unbuild_mask_learningDigestGeneration(const pd_match_record *key,
@@ -3839,6 +4390,21 @@ pd_status p4_pd_orbisk_switch_bridgeToEA_table_get_default_entry_handle(pd_sess_
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_bridgeToEA_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_bridgeToEA_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_bridgeToEA_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_bridgeToEA_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_bridgeToEA_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 
 /* ================================================================== */
 /* IP routing tables */
@@ -3938,6 +4504,21 @@ pd_status p4_pd_orbisk_switch_l3DmacCheck_table_get_default_entry_handle(pd_sess
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_l3DmacCheck_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_l3DmacCheck_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_l3DmacCheck_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_l3DmacCheck_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_l3DmacCheck_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_l3DmacCheck(const pd_match_record *key,
     p4_pd_orbisk_switch_l3DmacCheck_match_spec_t *match_spec);
 void unbuild_mask_l3DmacCheck(const pd_match_record *key,
@@ -4011,6 +4592,21 @@ pd_status p4_pd_orbisk_switch_vrrpMacCheck_table_get_default_entry_handle(pd_ses
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_vrrpMacCheck_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_vrrpMacCheck_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_vrrpMacCheck_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_vrrpMacCheck_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_vrrpMacCheck_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_vrrpMacCheck(const pd_match_record *key,
     p4_pd_orbisk_switch_vrrpMacCheck_match_spec_t *match_spec);
 
@@ -4123,6 +4719,52 @@ pd_status p4_pd_orbisk_switch_ipv4Host_table_get_default_entry_handle(pd_sess_hd
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_ipv4Host_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_ipv4Host_idle_tmo_enable(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_params params);
+pd_status p4_pd_orbisk_switch_ipv4Host_idle_tmo_disable(pd_sess_hdl sess_hdl,
+    uint32_t dev_id);
+pd_status p4_pd_orbisk_switch_ipv4Host_idle_params_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_params *params);
+pd_status p4_pd_orbisk_switch_ipv4Host_idle_register_tmo_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_tmo_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_ipv4Host_set_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t ttl);
+pd_status p4_pd_orbisk_switch_ipv4Host_get_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *ttl);
+pd_status p4_pd_orbisk_switch_ipv4Host_reset_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl);
+pd_status p4_pd_orbisk_switch_ipv4Host_update_hit_state(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_update_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_ipv4Host_get_hit_state(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *hit_state);
+pd_status p4_pd_orbisk_switch_ipv4Host_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_ipv4Host_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_ipv4Host_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_ipv4Host_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_ipv4Host(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv4Host_match_spec_t *match_spec);
 
@@ -4236,6 +4878,52 @@ pd_status p4_pd_orbisk_switch_ipv4ShortMaskLpm_table_get_default_entry_handle(pd
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_ipv4ShortMaskLpm_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_ipv4ShortMaskLpm_idle_tmo_enable(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_params params);
+pd_status p4_pd_orbisk_switch_ipv4ShortMaskLpm_idle_tmo_disable(pd_sess_hdl sess_hdl,
+    uint32_t dev_id);
+pd_status p4_pd_orbisk_switch_ipv4ShortMaskLpm_idle_params_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_params *params);
+pd_status p4_pd_orbisk_switch_ipv4ShortMaskLpm_idle_register_tmo_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_tmo_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_ipv4ShortMaskLpm_set_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t ttl);
+pd_status p4_pd_orbisk_switch_ipv4ShortMaskLpm_get_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *ttl);
+pd_status p4_pd_orbisk_switch_ipv4ShortMaskLpm_reset_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl);
+pd_status p4_pd_orbisk_switch_ipv4ShortMaskLpm_update_hit_state(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_update_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_ipv4ShortMaskLpm_get_hit_state(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *hit_state);
+pd_status p4_pd_orbisk_switch_ipv4ShortMaskLpm_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_ipv4ShortMaskLpm_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_ipv4ShortMaskLpm_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_ipv4ShortMaskLpm_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_ipv4ShortMaskLpm(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec_t *match_spec);
 void unbuild_mask_ipv4ShortMaskLpm(const pd_match_record *key,
@@ -4312,6 +5000,52 @@ pd_status p4_pd_orbisk_switch_ipv4Partition0_table_get_default_entry_handle(pd_s
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_ipv4Partition0_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_ipv4Partition0_idle_tmo_enable(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_params params);
+pd_status p4_pd_orbisk_switch_ipv4Partition0_idle_tmo_disable(pd_sess_hdl sess_hdl,
+    uint32_t dev_id);
+pd_status p4_pd_orbisk_switch_ipv4Partition0_idle_params_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_params *params);
+pd_status p4_pd_orbisk_switch_ipv4Partition0_idle_register_tmo_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_tmo_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_ipv4Partition0_set_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t ttl);
+pd_status p4_pd_orbisk_switch_ipv4Partition0_get_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *ttl);
+pd_status p4_pd_orbisk_switch_ipv4Partition0_reset_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl);
+pd_status p4_pd_orbisk_switch_ipv4Partition0_update_hit_state(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_update_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_ipv4Partition0_get_hit_state(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *hit_state);
+pd_status p4_pd_orbisk_switch_ipv4Partition0_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_ipv4Partition0_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_ipv4Partition0_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_ipv4Partition0_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_ipv4Partition0(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv4Partition0_match_spec_t *match_spec);
 void unbuild_mask_ipv4Partition0(const pd_match_record *key,
@@ -4427,6 +5161,52 @@ pd_status p4_pd_orbisk_switch_ipv4FinalResolve0_table_get_default_entry_handle(p
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_ipv4FinalResolve0_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_ipv4FinalResolve0_idle_tmo_enable(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_params params);
+pd_status p4_pd_orbisk_switch_ipv4FinalResolve0_idle_tmo_disable(pd_sess_hdl sess_hdl,
+    uint32_t dev_id);
+pd_status p4_pd_orbisk_switch_ipv4FinalResolve0_idle_params_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_params *params);
+pd_status p4_pd_orbisk_switch_ipv4FinalResolve0_idle_register_tmo_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_tmo_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_ipv4FinalResolve0_set_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t ttl);
+pd_status p4_pd_orbisk_switch_ipv4FinalResolve0_get_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *ttl);
+pd_status p4_pd_orbisk_switch_ipv4FinalResolve0_reset_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl);
+pd_status p4_pd_orbisk_switch_ipv4FinalResolve0_update_hit_state(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_update_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_ipv4FinalResolve0_get_hit_state(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *hit_state);
+pd_status p4_pd_orbisk_switch_ipv4FinalResolve0_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_ipv4FinalResolve0_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_ipv4FinalResolve0_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_ipv4FinalResolve0_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_ipv4FinalResolve0(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv4FinalResolve0_match_spec_t *match_spec);
 void unbuild_mask_ipv4FinalResolve0(const pd_match_record *key,
@@ -4541,6 +5321,52 @@ pd_status p4_pd_orbisk_switch_ipv6Host_table_get_default_entry_handle(pd_sess_hd
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_ipv6Host_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_ipv6Host_idle_tmo_enable(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_params params);
+pd_status p4_pd_orbisk_switch_ipv6Host_idle_tmo_disable(pd_sess_hdl sess_hdl,
+    uint32_t dev_id);
+pd_status p4_pd_orbisk_switch_ipv6Host_idle_params_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_params *params);
+pd_status p4_pd_orbisk_switch_ipv6Host_idle_register_tmo_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_tmo_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_ipv6Host_set_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t ttl);
+pd_status p4_pd_orbisk_switch_ipv6Host_get_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *ttl);
+pd_status p4_pd_orbisk_switch_ipv6Host_reset_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl);
+pd_status p4_pd_orbisk_switch_ipv6Host_update_hit_state(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_update_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_ipv6Host_get_hit_state(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *hit_state);
+pd_status p4_pd_orbisk_switch_ipv6Host_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_ipv6Host_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_ipv6Host_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_ipv6Host_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_ipv6Host(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv6Host_match_spec_t *match_spec);
 
@@ -4654,6 +5480,52 @@ pd_status p4_pd_orbisk_switch_ipv6ShortMaskLpm_table_get_default_entry_handle(pd
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_ipv6ShortMaskLpm_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_ipv6ShortMaskLpm_idle_tmo_enable(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_params params);
+pd_status p4_pd_orbisk_switch_ipv6ShortMaskLpm_idle_tmo_disable(pd_sess_hdl sess_hdl,
+    uint32_t dev_id);
+pd_status p4_pd_orbisk_switch_ipv6ShortMaskLpm_idle_params_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_params *params);
+pd_status p4_pd_orbisk_switch_ipv6ShortMaskLpm_idle_register_tmo_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_tmo_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_ipv6ShortMaskLpm_set_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t ttl);
+pd_status p4_pd_orbisk_switch_ipv6ShortMaskLpm_get_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *ttl);
+pd_status p4_pd_orbisk_switch_ipv6ShortMaskLpm_reset_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl);
+pd_status p4_pd_orbisk_switch_ipv6ShortMaskLpm_update_hit_state(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_update_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_ipv6ShortMaskLpm_get_hit_state(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *hit_state);
+pd_status p4_pd_orbisk_switch_ipv6ShortMaskLpm_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_ipv6ShortMaskLpm_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_ipv6ShortMaskLpm_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_ipv6ShortMaskLpm_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_ipv6ShortMaskLpm(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv6ShortMaskLpm_match_spec_t *match_spec);
 void unbuild_mask_ipv6ShortMaskLpm(const pd_match_record *key,
@@ -4769,6 +5641,52 @@ pd_status p4_pd_orbisk_switch_ipv6Partition_table_get_default_entry_handle(pd_se
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_ipv6Partition_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_ipv6Partition_idle_tmo_enable(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_params params);
+pd_status p4_pd_orbisk_switch_ipv6Partition_idle_tmo_disable(pd_sess_hdl sess_hdl,
+    uint32_t dev_id);
+pd_status p4_pd_orbisk_switch_ipv6Partition_idle_params_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_params *params);
+pd_status p4_pd_orbisk_switch_ipv6Partition_idle_register_tmo_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_tmo_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_ipv6Partition_set_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t ttl);
+pd_status p4_pd_orbisk_switch_ipv6Partition_get_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *ttl);
+pd_status p4_pd_orbisk_switch_ipv6Partition_reset_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl);
+pd_status p4_pd_orbisk_switch_ipv6Partition_update_hit_state(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_update_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_ipv6Partition_get_hit_state(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *hit_state);
+pd_status p4_pd_orbisk_switch_ipv6Partition_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_ipv6Partition_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_ipv6Partition_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_ipv6Partition_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_ipv6Partition(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv6Partition_match_spec_t *match_spec);
 void unbuild_mask_ipv6Partition(const pd_match_record *key,
@@ -4884,6 +5802,52 @@ pd_status p4_pd_orbisk_switch_ipv6FinalResolve_table_get_default_entry_handle(pd
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_ipv6FinalResolve_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_ipv6FinalResolve_idle_tmo_enable(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_params params);
+pd_status p4_pd_orbisk_switch_ipv6FinalResolve_idle_tmo_disable(pd_sess_hdl sess_hdl,
+    uint32_t dev_id);
+pd_status p4_pd_orbisk_switch_ipv6FinalResolve_idle_params_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_params *params);
+pd_status p4_pd_orbisk_switch_ipv6FinalResolve_idle_register_tmo_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_tmo_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_ipv6FinalResolve_set_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t ttl);
+pd_status p4_pd_orbisk_switch_ipv6FinalResolve_get_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *ttl);
+pd_status p4_pd_orbisk_switch_ipv6FinalResolve_reset_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl);
+pd_status p4_pd_orbisk_switch_ipv6FinalResolve_update_hit_state(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_update_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_ipv6FinalResolve_get_hit_state(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *hit_state);
+pd_status p4_pd_orbisk_switch_ipv6FinalResolve_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_ipv6FinalResolve_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_ipv6FinalResolve_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_ipv6FinalResolve_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_ipv6FinalResolve(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv6FinalResolve_match_spec_t *match_spec);
 void unbuild_mask_ipv6FinalResolve(const pd_match_record *key,
@@ -4960,6 +5924,52 @@ pd_status p4_pd_orbisk_switch_ipv6LgMaskPartition0_table_get_default_entry_handl
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_ipv6LgMaskPartition0_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_ipv6LgMaskPartition0_idle_tmo_enable(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_params params);
+pd_status p4_pd_orbisk_switch_ipv6LgMaskPartition0_idle_tmo_disable(pd_sess_hdl sess_hdl,
+    uint32_t dev_id);
+pd_status p4_pd_orbisk_switch_ipv6LgMaskPartition0_idle_params_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_params *params);
+pd_status p4_pd_orbisk_switch_ipv6LgMaskPartition0_idle_register_tmo_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_tmo_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_ipv6LgMaskPartition0_set_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t ttl);
+pd_status p4_pd_orbisk_switch_ipv6LgMaskPartition0_get_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *ttl);
+pd_status p4_pd_orbisk_switch_ipv6LgMaskPartition0_reset_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl);
+pd_status p4_pd_orbisk_switch_ipv6LgMaskPartition0_update_hit_state(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_update_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_ipv6LgMaskPartition0_get_hit_state(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *hit_state);
+pd_status p4_pd_orbisk_switch_ipv6LgMaskPartition0_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_ipv6LgMaskPartition0_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_ipv6LgMaskPartition0_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_ipv6LgMaskPartition0_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_ipv6LgMaskPartition0(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv6LgMaskPartition0_match_spec_t *match_spec);
 void unbuild_mask_ipv6LgMaskPartition0(const pd_match_record *key,
@@ -5075,6 +6085,52 @@ pd_status p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_table_get_default_entry_ha
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_idle_tmo_enable(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_params params);
+pd_status p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_idle_tmo_disable(pd_sess_hdl sess_hdl,
+    uint32_t dev_id);
+pd_status p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_idle_params_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_params *params);
+pd_status p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_idle_register_tmo_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_tmo_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_set_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t ttl);
+pd_status p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_get_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *ttl);
+pd_status p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_reset_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl);
+pd_status p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_update_hit_state(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_update_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_get_hit_state(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *hit_state);
+pd_status p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_ipv6LgMaskFinalResolve0(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_match_spec_t *match_spec);
 void unbuild_mask_ipv6LgMaskFinalResolve0(const pd_match_record *key,
@@ -5118,6 +6174,21 @@ pd_status p4_pd_orbisk_switch_ecmpGroup_table_get_default_entry_handle(pd_sess_h
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_ecmpGroup_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_ecmpGroup_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_ecmpGroup_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_ecmpGroup_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_ecmpGroup_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_ecmpGroup(const pd_match_record *key,
     p4_pd_orbisk_switch_ecmpGroup_match_spec_t *match_spec);
 
@@ -5190,6 +6261,21 @@ pd_status p4_pd_orbisk_switch_reservedNextHop_table_get_default_entry_handle(pd_
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_reservedNextHop_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_reservedNextHop_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_reservedNextHop_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_reservedNextHop_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_reservedNextHop_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_reservedNextHop(const pd_match_record *key,
     p4_pd_orbisk_switch_reservedNextHop_match_spec_t *match_spec);
 
@@ -5253,6 +6339,21 @@ pd_status p4_pd_orbisk_switch_nextHop0_table_get_default_entry_handle(pd_sess_hd
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_nextHop0_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_nextHop0_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_nextHop0_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_nextHop0_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_nextHop0_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_nextHop0(const pd_match_record *key,
     p4_pd_orbisk_switch_nextHop0_match_spec_t *match_spec);
 
@@ -5316,6 +6417,21 @@ pd_status p4_pd_orbisk_switch_routerNextHop0_table_get_default_entry_handle(pd_s
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_routerNextHop0_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_routerNextHop0_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_routerNextHop0_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_routerNextHop0_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_routerNextHop0_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_routerNextHop0(const pd_match_record *key,
     p4_pd_orbisk_switch_routerNextHop0_match_spec_t *match_spec);
 
@@ -5356,6 +6472,21 @@ pd_status p4_pd_orbisk_switch_lagGroup_table_get_default_entry_handle(pd_sess_hd
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_lagGroup_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_lagGroup_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_lagGroup_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_lagGroup_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_lagGroup_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_lagGroup(const pd_match_record *key,
     p4_pd_orbisk_switch_lagGroup_match_spec_t *match_spec);
 void unbuild_mask_lagGroup(const pd_match_record *key,
@@ -5499,6 +6630,21 @@ pd_status p4_pd_orbisk_switch_ecmpHashSelection_table_get_default_entry_handle(p
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_ecmpHashSelection_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_ecmpHashSelection_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_ecmpHashSelection_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_ecmpHashSelection_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_ecmpHashSelection_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_ecmpHashSelection(const pd_match_record *key,
     p4_pd_orbisk_switch_ecmpHashSelection_match_spec_t *match_spec);
 void unbuild_mask_ecmpHashSelection(const pd_match_record *key,
@@ -5656,6 +6802,21 @@ pd_status p4_pd_orbisk_switch_lagHashSelection_table_get_default_entry_handle(pd
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_lagHashSelection_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_lagHashSelection_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_lagHashSelection_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_lagHashSelection_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_lagHashSelection_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_lagHashSelection(const pd_match_record *key,
     p4_pd_orbisk_switch_lagHashSelection_match_spec_t *match_spec);
 void unbuild_mask_lagHashSelection(const pd_match_record *key,
@@ -5738,6 +6899,21 @@ pd_status p4_pd_orbisk_switch_hashComputeInnerIpHdr_table_get_default_entry_hand
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_hashComputeInnerIpHdr_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_hashComputeInnerIpHdr_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_hashComputeInnerIpHdr_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_hashComputeInnerIpHdr_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_hashComputeInnerIpHdr_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_hashComputeInnerIpHdr(const pd_match_record *key,
     p4_pd_orbisk_switch_hashComputeInnerIpHdr_match_spec_t *match_spec);
 
@@ -5772,6 +6948,21 @@ pd_status p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_table_get_default_entry_ha
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 
 /* hashComputeOuterIpv6Hdr: table 0x01000038, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_get_entry(pd_sess_hdl sess_hdl,
@@ -5804,6 +6995,21 @@ pd_status p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_table_get_default_entry_ha
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 
 /* hashComputeInnerEthHdr: table 0x01000039, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_hashComputeInnerEthHdr_get_entry(pd_sess_hdl sess_hdl,
@@ -5836,6 +7042,21 @@ pd_status p4_pd_orbisk_switch_hashComputeInnerEthHdr_table_get_default_entry_han
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_hashComputeInnerEthHdr_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_hashComputeInnerEthHdr_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_hashComputeInnerEthHdr_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_hashComputeInnerEthHdr_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_hashComputeInnerEthHdr_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 
 /* hashComputeIpAndL4Hdr: table 0x0100003e, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_get_entry(pd_sess_hdl sess_hdl,
@@ -5868,6 +7089,21 @@ pd_status p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_table_get_default_entry_hand
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 
 /* hashFromCpuHdr: table 0x01000041, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_hashFromCpuHdr_get_entry(pd_sess_hdl sess_hdl,
@@ -5900,6 +7136,21 @@ pd_status p4_pd_orbisk_switch_hashFromCpuHdr_table_get_default_entry_handle(pd_s
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_hashFromCpuHdr_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_hashFromCpuHdr_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_hashFromCpuHdr_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_hashFromCpuHdr_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_hashFromCpuHdr_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 
 /* ================================================================== */
 /* Multicast */
@@ -5975,6 +7226,52 @@ pd_status p4_pd_orbisk_switch_ipv4McGroupVlan_table_get_default_entry_handle(pd_
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_ipv4McGroupVlan_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_ipv4McGroupVlan_idle_tmo_enable(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_params params);
+pd_status p4_pd_orbisk_switch_ipv4McGroupVlan_idle_tmo_disable(pd_sess_hdl sess_hdl,
+    uint32_t dev_id);
+pd_status p4_pd_orbisk_switch_ipv4McGroupVlan_idle_params_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_params *params);
+pd_status p4_pd_orbisk_switch_ipv4McGroupVlan_idle_register_tmo_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_tmo_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_ipv4McGroupVlan_set_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t ttl);
+pd_status p4_pd_orbisk_switch_ipv4McGroupVlan_get_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *ttl);
+pd_status p4_pd_orbisk_switch_ipv4McGroupVlan_reset_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl);
+pd_status p4_pd_orbisk_switch_ipv4McGroupVlan_update_hit_state(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_update_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_ipv4McGroupVlan_get_hit_state(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *hit_state);
+pd_status p4_pd_orbisk_switch_ipv4McGroupVlan_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_ipv4McGroupVlan_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_ipv4McGroupVlan_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_ipv4McGroupVlan_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_ipv4McGroupVlan(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv4McGroupVlan_match_spec_t *match_spec);
 
@@ -6048,6 +7345,52 @@ pd_status p4_pd_orbisk_switch_ipv4McSourceGroupVlan_table_get_default_entry_hand
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_ipv4McSourceGroupVlan_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_ipv4McSourceGroupVlan_idle_tmo_enable(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_params params);
+pd_status p4_pd_orbisk_switch_ipv4McSourceGroupVlan_idle_tmo_disable(pd_sess_hdl sess_hdl,
+    uint32_t dev_id);
+pd_status p4_pd_orbisk_switch_ipv4McSourceGroupVlan_idle_params_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_params *params);
+pd_status p4_pd_orbisk_switch_ipv4McSourceGroupVlan_idle_register_tmo_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_tmo_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_ipv4McSourceGroupVlan_set_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t ttl);
+pd_status p4_pd_orbisk_switch_ipv4McSourceGroupVlan_get_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *ttl);
+pd_status p4_pd_orbisk_switch_ipv4McSourceGroupVlan_reset_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl);
+pd_status p4_pd_orbisk_switch_ipv4McSourceGroupVlan_update_hit_state(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_update_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_ipv4McSourceGroupVlan_get_hit_state(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *hit_state);
+pd_status p4_pd_orbisk_switch_ipv4McSourceGroupVlan_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_ipv4McSourceGroupVlan_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_ipv4McSourceGroupVlan_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_ipv4McSourceGroupVlan_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_ipv4McSourceGroupVlan(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv4McSourceGroupVlan_match_spec_t *match_spec);
 
@@ -6122,6 +7465,21 @@ pd_status p4_pd_orbisk_switch_l2Multicast_table_get_default_entry_handle(pd_sess
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_l2Multicast_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_l2Multicast_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_l2Multicast_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_l2Multicast_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_l2Multicast_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_l2Multicast(const pd_match_record *key,
     p4_pd_orbisk_switch_l2Multicast_match_spec_t *match_spec);
 
@@ -6290,6 +7648,21 @@ pd_status p4_pd_orbisk_switch_finalizeMcResult_table_get_default_entry_handle(pd
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_finalizeMcResult_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_finalizeMcResult_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_finalizeMcResult_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_finalizeMcResult_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_finalizeMcResult_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_finalizeMcResult(const pd_match_record *key,
     p4_pd_orbisk_switch_finalizeMcResult_match_spec_t *match_spec);
 void unbuild_mask_finalizeMcResult(const pd_match_record *key,
@@ -6364,6 +7737,21 @@ pd_status p4_pd_orbisk_switch_egressMcRemap_table_get_default_entry_handle(pd_se
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_egressMcRemap_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_egressMcRemap_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_egressMcRemap_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_egressMcRemap_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_egressMcRemap_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_egressMcRemap(const pd_match_record *key,
     p4_pd_orbisk_switch_egressMcRemap_match_spec_t *match_spec);
 
@@ -6495,6 +7883,21 @@ pd_status p4_pd_orbisk_switch_mcastPrune_table_get_default_entry_handle(pd_sess_
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_mcastPrune_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_mcastPrune_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_mcastPrune_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_mcastPrune_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_mcastPrune_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_mcastPrune(const pd_match_record *key,
     p4_pd_orbisk_switch_mcastPrune_match_spec_t *match_spec);
 void unbuild_mask_mcastPrune(const pd_match_record *key,
@@ -6600,6 +8003,21 @@ pd_status p4_pd_orbisk_switch_tunnelTermination_table_get_default_entry_handle(p
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_tunnelTermination_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_tunnelTermination_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_tunnelTermination_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_tunnelTermination_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_tunnelTermination_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_tunnelTermination(const pd_match_record *key,
     p4_pd_orbisk_switch_tunnelTermination_match_spec_t *match_spec);
 void unbuild_mask_tunnelTermination(const pd_match_record *key,
@@ -6704,6 +8122,21 @@ pd_status p4_pd_orbisk_switch_vxlanL2AintfLookup_table_get_default_entry_handle(
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_vxlanL2AintfLookup_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_vxlanL2AintfLookup_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_vxlanL2AintfLookup_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_vxlanL2AintfLookup_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_vxlanL2AintfLookup_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_vxlanL2AintfLookup(const pd_match_record *key,
     p4_pd_orbisk_switch_vxlanL2AintfLookup_match_spec_t *match_spec);
 
@@ -6795,6 +8228,21 @@ pd_status p4_pd_orbisk_switch_vxlanVniResolution_table_get_default_entry_handle(
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_vxlanVniResolution_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_vxlanVniResolution_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_vxlanVniResolution_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_vxlanVniResolution_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_vxlanVniResolution_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_vxlanVniResolution(const pd_match_record *key,
     p4_pd_orbisk_switch_vxlanVniResolution_match_spec_t *match_spec);
 
@@ -6876,6 +8324,21 @@ pd_status p4_pd_orbisk_switch_vxlanVarp_table_get_default_entry_handle(pd_sess_h
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_vxlanVarp_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_vxlanVarp_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_vxlanVarp_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_vxlanVarp_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_vxlanVarp_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_vxlanVarp(const pd_match_record *key,
     p4_pd_orbisk_switch_vxlanVarp_match_spec_t *match_spec);
 void unbuild_mask_vxlanVarp(const pd_match_record *key,
@@ -6912,6 +8375,21 @@ pd_status p4_pd_orbisk_switch_vxlanArp_table_get_default_entry_handle(pd_sess_hd
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_vxlanArp_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_vxlanArp_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_vxlanArp_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_vxlanArp_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_vxlanArp_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 
 /* tunnelDip0: table 0x0100005c, pipeline A, exact match, 4 key bytes (32 bits) */
 typedef struct p4_pd_orbisk_switch_tunnelDip0_match_spec {
@@ -6973,6 +8451,21 @@ pd_status p4_pd_orbisk_switch_tunnelDip0_table_get_default_entry_handle(pd_sess_
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_tunnelDip0_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_tunnelDip0_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_tunnelDip0_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_tunnelDip0_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_tunnelDip0_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_tunnelDip0(const pd_match_record *key,
     p4_pd_orbisk_switch_tunnelDip0_match_spec_t *match_spec);
 
@@ -7045,6 +8538,21 @@ pd_status p4_pd_orbisk_switch_tunnelVniAndVti_table_get_default_entry_handle(pd_
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_tunnelVniAndVti_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_tunnelVniAndVti_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_tunnelVniAndVti_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_tunnelVniAndVti_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_tunnelVniAndVti_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_tunnelVniAndVti(const pd_match_record *key,
     p4_pd_orbisk_switch_tunnelVniAndVti_match_spec_t *match_spec);
 
@@ -7117,6 +8625,21 @@ pd_status p4_pd_orbisk_switch_tunnelL2Info_table_get_default_entry_handle(pd_ses
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_tunnelL2Info_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_tunnelL2Info_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_tunnelL2Info_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_tunnelL2Info_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_tunnelL2Info_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_tunnelL2Info(const pd_match_record *key,
     p4_pd_orbisk_switch_tunnelL2Info_match_spec_t *match_spec);
 
@@ -7154,6 +8677,21 @@ pd_status p4_pd_orbisk_switch_tunnelResolve_table_get_default_entry_handle(pd_se
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_tunnelResolve_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_tunnelResolve_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_tunnelResolve_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_tunnelResolve_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_tunnelResolve_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_tunnelResolve(const pd_match_record *key,
     p4_pd_orbisk_switch_tunnelResolve_match_spec_t *match_spec);
 
@@ -7326,6 +8864,21 @@ pd_status p4_pd_orbisk_switch_encapDecap_table_get_default_entry_handle(pd_sess_
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_encapDecap_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_encapDecap_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_encapDecap_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_encapDecap_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_encapDecap_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_encapDecap(const pd_match_record *key,
     p4_pd_orbisk_switch_encapDecap_match_spec_t *match_spec);
 void unbuild_mask_encapDecap(const pd_match_record *key,
@@ -7439,6 +8992,21 @@ pd_status p4_pd_orbisk_switch_decapIngress_table_get_default_entry_handle(pd_ses
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_decapIngress_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_decapIngress_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_decapIngress_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_decapIngress_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_decapIngress_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_decapIngress(const pd_match_record *key,
     p4_pd_orbisk_switch_decapIngress_match_spec_t *match_spec);
 
@@ -7556,6 +9124,21 @@ pd_status p4_pd_orbisk_switch_globalFields_table_get_default_entry_handle(pd_ses
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_globalFields_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_globalFields_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_globalFields_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_globalFields_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_globalFields_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_globalFields(const pd_match_record *key,
     p4_pd_orbisk_switch_globalFields_match_spec_t *match_spec);
 void unbuild_mask_globalFields(const pd_match_record *key,
@@ -7625,6 +9208,21 @@ pd_status p4_pd_orbisk_switch_ingressNatProfile_table_get_default_entry_handle(p
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_ingressNatProfile_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_ingressNatProfile_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_ingressNatProfile_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_ingressNatProfile_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_ingressNatProfile_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_ingressNatProfile(const pd_match_record *key,
     p4_pd_orbisk_switch_ingressNatProfile_match_spec_t *match_spec);
 
@@ -7709,6 +9307,21 @@ pd_status p4_pd_orbisk_switch_staticDnatAcl_table_get_default_entry_handle(pd_se
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_staticDnatAcl_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_staticDnatAcl_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_staticDnatAcl_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_staticDnatAcl_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_staticDnatAcl_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_staticDnatAcl(const pd_match_record *key,
     p4_pd_orbisk_switch_staticDnatAcl_match_spec_t *match_spec);
 void unbuild_mask_staticDnatAcl(const pd_match_record *key,
@@ -7825,6 +9438,21 @@ pd_status p4_pd_orbisk_switch_addrPortDnat_table_get_default_entry_handle(pd_ses
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_addrPortDnat_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_addrPortDnat_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_addrPortDnat_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_addrPortDnat_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_addrPortDnat_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_addrPortDnat(const pd_match_record *key,
     p4_pd_orbisk_switch_addrPortDnat_match_spec_t *match_spec);
 
@@ -7912,6 +9540,21 @@ pd_status p4_pd_orbisk_switch_addrOnlyDnat_table_get_default_entry_handle(pd_ses
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_addrOnlyDnat_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_addrOnlyDnat_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_addrOnlyDnat_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_addrOnlyDnat_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_addrOnlyDnat_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_addrOnlyDnat(const pd_match_record *key,
     p4_pd_orbisk_switch_addrOnlyDnat_match_spec_t *match_spec);
 
@@ -8002,6 +9645,52 @@ pd_status p4_pd_orbisk_switch_dynamicDnat1_table_get_default_entry_handle(pd_ses
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_dynamicDnat1_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_dynamicDnat1_idle_tmo_enable(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_params params);
+pd_status p4_pd_orbisk_switch_dynamicDnat1_idle_tmo_disable(pd_sess_hdl sess_hdl,
+    uint32_t dev_id);
+pd_status p4_pd_orbisk_switch_dynamicDnat1_idle_params_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_params *params);
+pd_status p4_pd_orbisk_switch_dynamicDnat1_idle_register_tmo_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_tmo_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_dynamicDnat1_set_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t ttl);
+pd_status p4_pd_orbisk_switch_dynamicDnat1_get_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *ttl);
+pd_status p4_pd_orbisk_switch_dynamicDnat1_reset_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl);
+pd_status p4_pd_orbisk_switch_dynamicDnat1_update_hit_state(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_update_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_dynamicDnat1_get_hit_state(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *hit_state);
+pd_status p4_pd_orbisk_switch_dynamicDnat1_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_dynamicDnat1_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_dynamicDnat1_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_dynamicDnat1_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_dynamicDnat1(const pd_match_record *key,
     p4_pd_orbisk_switch_dynamicDnat1_match_spec_t *match_spec);
 
@@ -8065,6 +9754,21 @@ pd_status p4_pd_orbisk_switch_dynamicFullConeCompressDip_table_get_default_entry
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_dynamicFullConeCompressDip_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_dynamicFullConeCompressDip_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_dynamicFullConeCompressDip_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_dynamicFullConeCompressDip_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_dynamicFullConeCompressDip_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_dynamicFullConeCompressDip(const pd_match_record *key,
     p4_pd_orbisk_switch_dynamicFullConeCompressDip_match_spec_t *match_spec);
 
@@ -8140,6 +9844,52 @@ pd_status p4_pd_orbisk_switch_dynamicFullConeDnat_table_get_default_entry_handle
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_dynamicFullConeDnat_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_dynamicFullConeDnat_idle_tmo_enable(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_params params);
+pd_status p4_pd_orbisk_switch_dynamicFullConeDnat_idle_tmo_disable(pd_sess_hdl sess_hdl,
+    uint32_t dev_id);
+pd_status p4_pd_orbisk_switch_dynamicFullConeDnat_idle_params_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_params *params);
+pd_status p4_pd_orbisk_switch_dynamicFullConeDnat_idle_register_tmo_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_tmo_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_dynamicFullConeDnat_set_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t ttl);
+pd_status p4_pd_orbisk_switch_dynamicFullConeDnat_get_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *ttl);
+pd_status p4_pd_orbisk_switch_dynamicFullConeDnat_reset_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl);
+pd_status p4_pd_orbisk_switch_dynamicFullConeDnat_update_hit_state(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_update_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_dynamicFullConeDnat_get_hit_state(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *hit_state);
+pd_status p4_pd_orbisk_switch_dynamicFullConeDnat_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_dynamicFullConeDnat_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_dynamicFullConeDnat_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_dynamicFullConeDnat_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_dynamicFullConeDnat(const pd_match_record *key,
     p4_pd_orbisk_switch_dynamicFullConeDnat_match_spec_t *match_spec);
 
@@ -8203,6 +9953,21 @@ pd_status p4_pd_orbisk_switch_egressNatProfile_table_get_default_entry_handle(pd
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_egressNatProfile_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_egressNatProfile_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_egressNatProfile_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_egressNatProfile_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_egressNatProfile_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_egressNatProfile(const pd_match_record *key,
     p4_pd_orbisk_switch_egressNatProfile_match_spec_t *match_spec);
 
@@ -8287,6 +10052,21 @@ pd_status p4_pd_orbisk_switch_staticSnatAcl_table_get_default_entry_handle(pd_se
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_staticSnatAcl_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_staticSnatAcl_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_staticSnatAcl_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_staticSnatAcl_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_staticSnatAcl_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_staticSnatAcl(const pd_match_record *key,
     p4_pd_orbisk_switch_staticSnatAcl_match_spec_t *match_spec);
 void unbuild_mask_staticSnatAcl(const pd_match_record *key,
@@ -8377,6 +10157,21 @@ pd_status p4_pd_orbisk_switch_addrPortSnat_table_get_default_entry_handle(pd_ses
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_addrPortSnat_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_addrPortSnat_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_addrPortSnat_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_addrPortSnat_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_addrPortSnat_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_addrPortSnat(const pd_match_record *key,
     p4_pd_orbisk_switch_addrPortSnat_match_spec_t *match_spec);
 
@@ -8451,6 +10246,21 @@ pd_status p4_pd_orbisk_switch_addrOnlySnat_table_get_default_entry_handle(pd_ses
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_addrOnlySnat_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_addrOnlySnat_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_addrOnlySnat_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_addrOnlySnat_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_addrOnlySnat_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_addrOnlySnat(const pd_match_record *key,
     p4_pd_orbisk_switch_addrOnlySnat_match_spec_t *match_spec);
 
@@ -8538,6 +10348,21 @@ pd_status p4_pd_orbisk_switch_dynamicSnatAcl_table_get_default_entry_handle(pd_s
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_dynamicSnatAcl_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_dynamicSnatAcl_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_dynamicSnatAcl_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_dynamicSnatAcl_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_dynamicSnatAcl_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_dynamicSnatAcl(const pd_match_record *key,
     p4_pd_orbisk_switch_dynamicSnatAcl_match_spec_t *match_spec);
 void unbuild_mask_dynamicSnatAcl(const pd_match_record *key,
@@ -8630,6 +10455,52 @@ pd_status p4_pd_orbisk_switch_dynamicSnat1_table_get_default_entry_handle(pd_ses
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_dynamicSnat1_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_dynamicSnat1_idle_tmo_enable(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_params params);
+pd_status p4_pd_orbisk_switch_dynamicSnat1_idle_tmo_disable(pd_sess_hdl sess_hdl,
+    uint32_t dev_id);
+pd_status p4_pd_orbisk_switch_dynamicSnat1_idle_params_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_params *params);
+pd_status p4_pd_orbisk_switch_dynamicSnat1_idle_register_tmo_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_tmo_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_dynamicSnat1_set_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t ttl);
+pd_status p4_pd_orbisk_switch_dynamicSnat1_get_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *ttl);
+pd_status p4_pd_orbisk_switch_dynamicSnat1_reset_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl);
+pd_status p4_pd_orbisk_switch_dynamicSnat1_update_hit_state(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_update_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_dynamicSnat1_get_hit_state(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *hit_state);
+pd_status p4_pd_orbisk_switch_dynamicSnat1_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_dynamicSnat1_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_dynamicSnat1_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_dynamicSnat1_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_dynamicSnat1(const pd_match_record *key,
     p4_pd_orbisk_switch_dynamicSnat1_match_spec_t *match_spec);
 
@@ -8713,6 +10584,21 @@ pd_status p4_pd_orbisk_switch_dynamicNatCount_table_get_default_entry_handle(pd_
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_dynamicNatCount_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_dynamicNatCount_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_dynamicNatCount_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_dynamicNatCount_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_dynamicNatCount_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_dynamicNatCount(const pd_match_record *key,
     p4_pd_orbisk_switch_dynamicNatCount_match_spec_t *match_spec);
 void unbuild_mask_dynamicNatCount(const pd_match_record *key,
@@ -8784,6 +10670,21 @@ pd_status p4_pd_orbisk_switch_natTcpFlags_table_get_default_entry_handle(pd_sess
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_natTcpFlags_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_natTcpFlags_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_natTcpFlags_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_natTcpFlags_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_natTcpFlags_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_natTcpFlags(const pd_match_record *key,
     p4_pd_orbisk_switch_natTcpFlags_match_spec_t *match_spec);
 
@@ -8908,6 +10809,21 @@ pd_status p4_pd_orbisk_switch_natCpuTrapAcl_table_get_default_entry_handle(pd_se
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_natCpuTrapAcl_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_natCpuTrapAcl_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_natCpuTrapAcl_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_natCpuTrapAcl_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_natCpuTrapAcl_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_natCpuTrapAcl(const pd_match_record *key,
     p4_pd_orbisk_switch_natCpuTrapAcl_match_spec_t *match_spec);
 void unbuild_mask_natCpuTrapAcl(const pd_match_record *key,
@@ -8989,6 +10905,21 @@ pd_status p4_pd_orbisk_switch_natCpuReasonCode_table_get_default_entry_handle(pd
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_natCpuReasonCode_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_natCpuReasonCode_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_natCpuReasonCode_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_natCpuReasonCode_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_natCpuReasonCode_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_natCpuReasonCode(const pd_match_record *key,
     p4_pd_orbisk_switch_natCpuReasonCode_match_spec_t *match_spec);
 void unbuild_mask_natCpuReasonCode(const pd_match_record *key,
@@ -9130,6 +11061,21 @@ pd_status p4_pd_orbisk_switch_natChecksumUpdate_table_get_default_entry_handle(p
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_natChecksumUpdate_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_natChecksumUpdate_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_natChecksumUpdate_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_natChecksumUpdate_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_natChecksumUpdate_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_natChecksumUpdate(const pd_match_record *key,
     p4_pd_orbisk_switch_natChecksumUpdate_match_spec_t *match_spec);
 void unbuild_mask_natChecksumUpdate(const pd_match_record *key,
@@ -9222,6 +11168,21 @@ pd_status p4_pd_orbisk_switch_egressNatCpuTrapHeader_table_get_default_entry_han
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_egressNatCpuTrapHeader_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_egressNatCpuTrapHeader_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_egressNatCpuTrapHeader_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_egressNatCpuTrapHeader_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_egressNatCpuTrapHeader_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_egressNatCpuTrapHeader(const pd_match_record *key,
     p4_pd_orbisk_switch_egressNatCpuTrapHeader_match_spec_t *match_spec);
 
@@ -9299,6 +11260,21 @@ pd_status p4_pd_orbisk_switch_haloPaclCrlId_table_get_default_entry_handle(pd_se
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_haloPaclCrlId_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_haloPaclCrlId_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_haloPaclCrlId_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_haloPaclCrlId_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_haloPaclCrlId_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_haloPaclCrlId(const pd_match_record *key,
     p4_pd_orbisk_switch_haloPaclCrlId_match_spec_t *match_spec);
 
@@ -9372,6 +11348,21 @@ pd_status p4_pd_orbisk_switch_haloRaclCrlId_table_get_default_entry_handle(pd_se
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_haloRaclCrlId_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_haloRaclCrlId_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_haloRaclCrlId_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_haloRaclCrlId_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_haloRaclCrlId_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_haloRaclCrlId(const pd_match_record *key,
     p4_pd_orbisk_switch_haloRaclCrlId_match_spec_t *match_spec);
 
@@ -9464,6 +11455,21 @@ pd_status p4_pd_orbisk_switch_haloXformIpv4Sip_table_get_default_entry_handle(pd
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_haloXformIpv4Sip_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_haloXformIpv4Sip_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_haloXformIpv4Sip_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_haloXformIpv4Sip_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_haloXformIpv4Sip_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_haloXformIpv4Sip(const pd_match_record *key,
     p4_pd_orbisk_switch_haloXformIpv4Sip_match_spec_t *match_spec);
 void unbuild_mask_haloXformIpv4Sip(const pd_match_record *key,
@@ -9558,6 +11564,21 @@ pd_status p4_pd_orbisk_switch_haloXformIpv4Dip_table_get_default_entry_handle(pd
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_haloXformIpv4Dip_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_haloXformIpv4Dip_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_haloXformIpv4Dip_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_haloXformIpv4Dip_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_haloXformIpv4Dip_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_haloXformIpv4Dip(const pd_match_record *key,
     p4_pd_orbisk_switch_haloXformIpv4Dip_match_spec_t *match_spec);
 void unbuild_mask_haloXformIpv4Dip(const pd_match_record *key,
@@ -9652,6 +11673,21 @@ pd_status p4_pd_orbisk_switch_haloXformIpv6Sip_table_get_default_entry_handle(pd
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_haloXformIpv6Sip_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_haloXformIpv6Sip_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_haloXformIpv6Sip_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_haloXformIpv6Sip_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_haloXformIpv6Sip_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_haloXformIpv6Sip(const pd_match_record *key,
     p4_pd_orbisk_switch_haloXformIpv6Sip_match_spec_t *match_spec);
 void unbuild_mask_haloXformIpv6Sip(const pd_match_record *key,
@@ -9746,6 +11782,21 @@ pd_status p4_pd_orbisk_switch_haloXformIpv6Dip_table_get_default_entry_handle(pd
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_haloXformIpv6Dip_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_haloXformIpv6Dip_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_haloXformIpv6Dip_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_haloXformIpv6Dip_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_haloXformIpv6Dip_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_haloXformIpv6Dip(const pd_match_record *key,
     p4_pd_orbisk_switch_haloXformIpv6Dip_match_spec_t *match_spec);
 void unbuild_mask_haloXformIpv6Dip(const pd_match_record *key,
@@ -9828,6 +11879,21 @@ pd_status p4_pd_orbisk_switch_haloXformSrcPort_table_get_default_entry_handle(pd
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_haloXformSrcPort_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_haloXformSrcPort_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_haloXformSrcPort_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_haloXformSrcPort_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_haloXformSrcPort_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_haloXformSrcPort(const pd_match_record *key,
     p4_pd_orbisk_switch_haloXformSrcPort_match_spec_t *match_spec);
 void unbuild_mask_haloXformSrcPort(const pd_match_record *key,
@@ -9910,6 +11976,21 @@ pd_status p4_pd_orbisk_switch_haloXformDstPort_table_get_default_entry_handle(pd
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_haloXformDstPort_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_haloXformDstPort_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_haloXformDstPort_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_haloXformDstPort_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_haloXformDstPort_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_haloXformDstPort(const pd_match_record *key,
     p4_pd_orbisk_switch_haloXformDstPort_match_spec_t *match_spec);
 void unbuild_mask_haloXformDstPort(const pd_match_record *key,
@@ -9975,6 +12056,21 @@ pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_table_get_default_entry_h
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_haloKeyMaskForRow1Stage2(const pd_match_record *key,
     p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_match_spec_t *match_spec);
 
@@ -10056,6 +12152,21 @@ pd_status p4_pd_orbisk_switch_haloRow1Stage2_table_get_default_entry_handle(pd_s
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_haloRow1Stage2_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_haloRow1Stage2_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_haloRow1Stage2_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_haloRow1Stage2_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_haloRow1Stage2_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_haloRow1Stage2(const pd_match_record *key,
     p4_pd_orbisk_switch_haloRow1Stage2_match_spec_t *match_spec);
 
@@ -10119,6 +12230,21 @@ pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_table_get_default_entry_h
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_haloKeyMaskForRow1Stage3(const pd_match_record *key,
     p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_match_spec_t *match_spec);
 
@@ -10200,6 +12326,21 @@ pd_status p4_pd_orbisk_switch_haloRow1Stage3_table_get_default_entry_handle(pd_s
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_haloRow1Stage3_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_haloRow1Stage3_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_haloRow1Stage3_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_haloRow1Stage3_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_haloRow1Stage3_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_haloRow1Stage3(const pd_match_record *key,
     p4_pd_orbisk_switch_haloRow1Stage3_match_spec_t *match_spec);
 
@@ -10263,6 +12404,21 @@ pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_table_get_default_entry_h
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_haloKeyMaskForRow1Stage4(const pd_match_record *key,
     p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_match_spec_t *match_spec);
 
@@ -10344,6 +12500,21 @@ pd_status p4_pd_orbisk_switch_haloRow1Stage4_table_get_default_entry_handle(pd_s
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_haloRow1Stage4_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_haloRow1Stage4_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_haloRow1Stage4_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_haloRow1Stage4_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_haloRow1Stage4_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_haloRow1Stage4(const pd_match_record *key,
     p4_pd_orbisk_switch_haloRow1Stage4_match_spec_t *match_spec);
 
@@ -10407,6 +12578,21 @@ pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_table_get_default_entry_h
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_haloKeyMaskForRow1Stage5(const pd_match_record *key,
     p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_match_spec_t *match_spec);
 
@@ -10488,6 +12674,21 @@ pd_status p4_pd_orbisk_switch_haloRow1Stage5_table_get_default_entry_handle(pd_s
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_haloRow1Stage5_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_haloRow1Stage5_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_haloRow1Stage5_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_haloRow1Stage5_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_haloRow1Stage5_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_haloRow1Stage5(const pd_match_record *key,
     p4_pd_orbisk_switch_haloRow1Stage5_match_spec_t *match_spec);
 
@@ -10551,6 +12752,21 @@ pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_table_get_default_entry_h
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_haloKeyMaskForRow1Stage6(const pd_match_record *key,
     p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_match_spec_t *match_spec);
 
@@ -10632,6 +12848,21 @@ pd_status p4_pd_orbisk_switch_haloRow1Stage6_table_get_default_entry_handle(pd_s
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_haloRow1Stage6_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_haloRow1Stage6_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_haloRow1Stage6_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_haloRow1Stage6_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_haloRow1Stage6_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_haloRow1Stage6(const pd_match_record *key,
     p4_pd_orbisk_switch_haloRow1Stage6_match_spec_t *match_spec);
 
@@ -10666,6 +12897,21 @@ pd_status p4_pd_orbisk_switch_haloBypass_table_get_default_entry_handle(pd_sess_
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_haloBypass_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_haloBypass_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_haloBypass_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_haloBypass_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_haloBypass_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 
 /* haloCounters: table 0x01000059, pipeline A, exact match, 4 key bytes (32 bits), entries carry haloCount */
 typedef struct p4_pd_orbisk_switch_haloCounters_match_spec {
@@ -10723,6 +12969,21 @@ pd_status p4_pd_orbisk_switch_haloCounters_table_get_default_entry_handle(pd_ses
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_haloCounters_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_haloCounters_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_haloCounters_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_haloCounters_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_haloCounters_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_haloCounters(const pd_match_record *key,
     p4_pd_orbisk_switch_haloCounters_match_spec_t *match_spec);
 
@@ -10841,6 +13102,21 @@ pd_status p4_pd_orbisk_switch_ingressMirrorSession_table_get_default_entry_handl
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_ingressMirrorSession_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_ingressMirrorSession_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_ingressMirrorSession_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_ingressMirrorSession_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_ingressMirrorSession_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_ingressMirrorSession(const pd_match_record *key,
     p4_pd_orbisk_switch_ingressMirrorSession_match_spec_t *match_spec);
 void unbuild_mask_ingressMirrorSession(const pd_match_record *key,
@@ -10880,6 +13156,21 @@ pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_table_get_default_entry_hand
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_ingressMirrorLagGroup(const pd_match_record *key,
     p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_t *match_spec);
 
@@ -10952,6 +13243,21 @@ pd_status p4_pd_orbisk_switch_ingressMirrorRate_table_get_default_entry_handle(p
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_ingressMirrorRate_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_ingressMirrorRate_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_ingressMirrorRate_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_ingressMirrorRate_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_ingressMirrorRate_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_ingressMirrorRate(const pd_match_record *key,
     p4_pd_orbisk_switch_ingressMirrorRate_match_spec_t *match_spec);
 
@@ -11016,6 +13322,21 @@ pd_status p4_pd_orbisk_switch_ingressMirrorResult_table_get_default_entry_handle
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_ingressMirrorResult_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_ingressMirrorResult_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_ingressMirrorResult_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_ingressMirrorResult_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_ingressMirrorResult_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_ingressMirrorResult(const pd_match_record *key,
     p4_pd_orbisk_switch_ingressMirrorResult_match_spec_t *match_spec);
 
@@ -11117,6 +13438,21 @@ pd_status p4_pd_orbisk_switch_egressMirrorSession_table_get_default_entry_handle
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_egressMirrorSession_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_egressMirrorSession_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_egressMirrorSession_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_egressMirrorSession_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_egressMirrorSession_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_egressMirrorSession(const pd_match_record *key,
     p4_pd_orbisk_switch_egressMirrorSession_match_spec_t *match_spec);
 void unbuild_mask_egressMirrorSession(const pd_match_record *key,
@@ -11156,6 +13492,21 @@ pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_table_get_default_entry_handl
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_egressMirrorLagGroup(const pd_match_record *key,
     p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_t *match_spec);
 
@@ -11228,6 +13579,21 @@ pd_status p4_pd_orbisk_switch_egressMirrorRate_table_get_default_entry_handle(pd
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_egressMirrorRate_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_egressMirrorRate_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_egressMirrorRate_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_egressMirrorRate_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_egressMirrorRate_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_egressMirrorRate(const pd_match_record *key,
     p4_pd_orbisk_switch_egressMirrorRate_match_spec_t *match_spec);
 
@@ -11297,6 +13663,21 @@ pd_status p4_pd_orbisk_switch_egressMirrorResult_table_get_default_entry_handle(
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_egressMirrorResult_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_egressMirrorResult_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_egressMirrorResult_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_egressMirrorResult_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_egressMirrorResult_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_egressMirrorResult(const pd_match_record *key,
     p4_pd_orbisk_switch_egressMirrorResult_match_spec_t *match_spec);
 
@@ -11393,6 +13774,21 @@ pd_status p4_pd_orbisk_switch_mirrorPacketEncap_table_get_default_entry_handle(p
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_mirrorPacketEncap_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_mirrorPacketEncap_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_mirrorPacketEncap_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_mirrorPacketEncap_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_mirrorPacketEncap_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_mirrorPacketEncap(const pd_match_record *key,
     p4_pd_orbisk_switch_mirrorPacketEncap_match_spec_t *match_spec);
 
@@ -11460,6 +13856,21 @@ pd_status p4_pd_orbisk_switch_qosPortProperties_table_get_default_entry_handle(p
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_qosPortProperties_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_qosPortProperties_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_qosPortProperties_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_qosPortProperties_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_qosPortProperties_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_qosPortProperties(const pd_match_record *key,
     p4_pd_orbisk_switch_qosPortProperties_match_spec_t *match_spec);
 
@@ -11561,6 +13972,21 @@ pd_status p4_pd_orbisk_switch_normalizeCos_table_get_default_entry_handle(pd_ses
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_normalizeCos_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_normalizeCos_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_normalizeCos_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_normalizeCos_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_normalizeCos_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_normalizeCos(const pd_match_record *key,
     p4_pd_orbisk_switch_normalizeCos_match_spec_t *match_spec);
 
@@ -11686,6 +14112,21 @@ pd_status p4_pd_orbisk_switch_normalizeDscp_table_get_default_entry_handle(pd_se
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_normalizeDscp_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_normalizeDscp_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_normalizeDscp_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_normalizeDscp_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_normalizeDscp_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_normalizeDscp(const pd_match_record *key,
     p4_pd_orbisk_switch_normalizeDscp_match_spec_t *match_spec);
 
@@ -11769,6 +14210,21 @@ pd_status p4_pd_orbisk_switch_ingressTrafficClass_table_get_default_entry_handle
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_ingressTrafficClass_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_ingressTrafficClass_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_ingressTrafficClass_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_ingressTrafficClass_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_ingressTrafficClass_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_ingressTrafficClass(const pd_match_record *key,
     p4_pd_orbisk_switch_ingressTrafficClass_match_spec_t *match_spec);
 void unbuild_mask_ingressTrafficClass(const pd_match_record *key,
@@ -11847,6 +14303,21 @@ pd_status p4_pd_orbisk_switch_tcDscpMap_table_get_default_entry_handle(pd_sess_h
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_tcDscpMap_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_tcDscpMap_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_tcDscpMap_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_tcDscpMap_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_tcDscpMap_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_tcDscpMap(const pd_match_record *key,
     p4_pd_orbisk_switch_tcDscpMap_match_spec_t *match_spec);
 
@@ -11882,6 +14353,21 @@ pd_status p4_pd_orbisk_switch_qosRewriteConfig_table_get_default_entry_handle(pd
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_qosRewriteConfig_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_qosRewriteConfig_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_qosRewriteConfig_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_qosRewriteConfig_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_qosRewriteConfig_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 
 /* qosRewrite: table 0x01000048, pipeline A, exact match, 5 key bytes (10 bits) */
 typedef struct p4_pd_orbisk_switch_qosRewrite_match_spec {
@@ -11982,6 +14468,21 @@ pd_status p4_pd_orbisk_switch_qosRewrite_table_get_default_entry_handle(pd_sess_
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_qosRewrite_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_qosRewrite_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_qosRewrite_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_qosRewrite_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_qosRewrite_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_qosRewrite(const pd_match_record *key,
     p4_pd_orbisk_switch_qosRewrite_match_spec_t *match_spec);
 
@@ -12141,6 +14642,21 @@ pd_status p4_pd_orbisk_switch_packetDscpRewrite_table_get_default_entry_handle(p
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_packetDscpRewrite_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_packetDscpRewrite_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_packetDscpRewrite_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_packetDscpRewrite_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_packetDscpRewrite_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_packetDscpRewrite(const pd_match_record *key,
     p4_pd_orbisk_switch_packetDscpRewrite_match_spec_t *match_spec);
 void unbuild_mask_packetDscpRewrite(const pd_match_record *key,
@@ -12177,6 +14693,21 @@ pd_status p4_pd_orbisk_switch_queueCounters_table_get_default_entry_handle(pd_se
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_queueCounters_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_queueCounters_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_queueCounters_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_queueCounters_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_queueCounters_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 
 /* pdpClassify: table 0x11010020, pipeline B, ternary match, 10 key bytes (52 bits), entries carry pdpMeter */
 typedef struct p4_pd_orbisk_switch_pdpClassify_match_spec {
@@ -12273,6 +14804,21 @@ pd_status p4_pd_orbisk_switch_pdpClassify_table_get_default_entry_handle(pd_sess
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_pdpClassify_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_pdpClassify_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_pdpClassify_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_pdpClassify_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_pdpClassify_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_pdpClassify(const pd_match_record *key,
     p4_pd_orbisk_switch_pdpClassify_match_spec_t *match_spec);
 void unbuild_mask_pdpClassify(const pd_match_record *key,
@@ -12348,6 +14894,21 @@ pd_status p4_pd_orbisk_switch_pdpPolicy_table_get_default_entry_handle(pd_sess_h
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_pdpPolicy_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_pdpPolicy_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_pdpPolicy_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_pdpPolicy_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_pdpPolicy_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_pdpPolicy(const pd_match_record *key,
     p4_pd_orbisk_switch_pdpPolicy_match_spec_t *match_spec);
 
@@ -12509,6 +15070,21 @@ pd_status p4_pd_orbisk_switch_trapToCpu_table_get_default_entry_handle(pd_sess_h
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_trapToCpu_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_trapToCpu_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_trapToCpu_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_trapToCpu_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_trapToCpu_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_trapToCpu(const pd_match_record *key,
     p4_pd_orbisk_switch_trapToCpu_match_spec_t *match_spec);
 void unbuild_mask_trapToCpu(const pd_match_record *key,
@@ -12575,6 +15151,21 @@ pd_status p4_pd_orbisk_switch_switchToCpu_table_get_default_entry_handle(pd_sess
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_switchToCpu_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_switchToCpu_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_switchToCpu_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_switchToCpu_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_switchToCpu_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_switchToCpu(const pd_match_record *key,
     p4_pd_orbisk_switch_switchToCpu_match_spec_t *match_spec);
 
@@ -12749,6 +15340,21 @@ pd_status p4_pd_orbisk_switch_cpuEncap_table_get_default_entry_handle(pd_sess_hd
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_cpuEncap_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_cpuEncap_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_cpuEncap_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_cpuEncap_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_cpuEncap_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_cpuEncap(const pd_match_record *key,
     p4_pd_orbisk_switch_cpuEncap_match_spec_t *match_spec);
 void unbuild_mask_cpuEncap(const pd_match_record *key,
@@ -12857,6 +15463,21 @@ pd_status p4_pd_orbisk_switch_cpuEncapFields_table_get_default_entry_handle(pd_s
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_cpuEncapFields_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_cpuEncapFields_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_cpuEncapFields_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_cpuEncapFields_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_cpuEncapFields_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_cpuEncapFields(const pd_match_record *key,
     p4_pd_orbisk_switch_cpuEncapFields_match_spec_t *match_spec);
 
@@ -12945,6 +15566,21 @@ pd_status p4_pd_orbisk_switch_ingMtu_table_get_default_entry_handle(pd_sess_hdl 
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_ingMtu_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_ingMtu_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_ingMtu_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_ingMtu_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_ingMtu_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_ingMtu(const pd_match_record *key,
     p4_pd_orbisk_switch_ingMtu_match_spec_t *match_spec);
 void unbuild_mask_ingMtu(const pd_match_record *key,
@@ -13034,6 +15670,21 @@ pd_status p4_pd_orbisk_switch_mtuCheck_table_get_default_entry_handle(pd_sess_hd
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_mtuCheck_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_mtuCheck_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_mtuCheck_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_mtuCheck_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_mtuCheck_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_mtuCheck(const pd_match_record *key,
     p4_pd_orbisk_switch_mtuCheck_match_spec_t *match_spec);
 void unbuild_mask_mtuCheck(const pd_match_record *key,
@@ -13211,6 +15862,21 @@ pd_status p4_pd_orbisk_switch_finalDropControl_table_get_default_entry_handle(pd
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_finalDropControl_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_finalDropControl_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_finalDropControl_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_finalDropControl_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_finalDropControl_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_finalDropControl(const pd_match_record *key,
     p4_pd_orbisk_switch_finalDropControl_match_spec_t *match_spec);
 void unbuild_mask_finalDropControl(const pd_match_record *key,
@@ -13304,6 +15970,21 @@ pd_status p4_pd_orbisk_switch_finalDropControlIB_table_get_default_entry_handle(
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_finalDropControlIB_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_finalDropControlIB_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_finalDropControlIB_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_finalDropControlIB_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_finalDropControlIB_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_finalDropControlIB(const pd_match_record *key,
     p4_pd_orbisk_switch_finalDropControlIB_match_spec_t *match_spec);
 void unbuild_mask_finalDropControlIB(const pd_match_record *key,
@@ -13373,6 +16054,21 @@ pd_status p4_pd_orbisk_switch_eifIngPolicy_table_get_default_entry_handle(pd_ses
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_eifIngPolicy_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_eifIngPolicy_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_eifIngPolicy_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_eifIngPolicy_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_eifIngPolicy_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_eifIngPolicy(const pd_match_record *key,
     p4_pd_orbisk_switch_eifIngPolicy_match_spec_t *match_spec);
 
@@ -13407,6 +16103,21 @@ pd_status p4_pd_orbisk_switch_eifParamsForIngress_table_get_default_entry_handle
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_eifParamsForIngress_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_eifParamsForIngress_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_eifParamsForIngress_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_eifParamsForIngress_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_eifParamsForIngress_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 
 /* eifParamsForEgress: table 0x11010011, pipeline B, exact match, 2 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_eifParamsForEgress_match_spec {
@@ -13468,6 +16179,21 @@ pd_status p4_pd_orbisk_switch_eifParamsForEgress_table_get_default_entry_handle(
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_eifParamsForEgress_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_eifParamsForEgress_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_eifParamsForEgress_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_eifParamsForEgress_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_eifParamsForEgress_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_eifParamsForEgress(const pd_match_record *key,
     p4_pd_orbisk_switch_eifParamsForEgress_match_spec_t *match_spec);
 
@@ -13543,6 +16269,21 @@ pd_status p4_pd_orbisk_switch_eifPinHole_table_get_default_entry_handle(pd_sess_
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_eifPinHole_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_eifPinHole_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_eifPinHole_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_eifPinHole_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_eifPinHole_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_eifPinHole(const pd_match_record *key,
     p4_pd_orbisk_switch_eifPinHole_match_spec_t *match_spec);
 
@@ -13602,6 +16343,52 @@ pd_status p4_pd_orbisk_switch_eifPinHoleHits_table_get_default_entry_handle(pd_s
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_eifPinHoleHits_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_eifPinHoleHits_idle_tmo_enable(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_params params);
+pd_status p4_pd_orbisk_switch_eifPinHoleHits_idle_tmo_disable(pd_sess_hdl sess_hdl,
+    uint32_t dev_id);
+pd_status p4_pd_orbisk_switch_eifPinHoleHits_idle_params_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_params *params);
+pd_status p4_pd_orbisk_switch_eifPinHoleHits_idle_register_tmo_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_tmo_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_eifPinHoleHits_set_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t ttl);
+pd_status p4_pd_orbisk_switch_eifPinHoleHits_get_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *ttl);
+pd_status p4_pd_orbisk_switch_eifPinHoleHits_reset_ttl(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl);
+pd_status p4_pd_orbisk_switch_eifPinHoleHits_update_hit_state(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_idle_update_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_eifPinHoleHits_get_hit_state(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *hit_state);
+pd_status p4_pd_orbisk_switch_eifPinHoleHits_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_eifPinHoleHits_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_eifPinHoleHits_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_eifPinHoleHits_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_eifPinHoleHits(const pd_match_record *key,
     p4_pd_orbisk_switch_eifPinHoleHits_match_spec_t *match_spec);
 
@@ -13726,6 +16513,21 @@ pd_status p4_pd_orbisk_switch_eifAcl_table_get_default_entry_handle(pd_sess_hdl 
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_eifAcl_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_eifAcl_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_eifAcl_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_eifAcl_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_eifAcl_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_eifAcl(const pd_match_record *key,
     p4_pd_orbisk_switch_eifAcl_match_spec_t *match_spec);
 void unbuild_mask_eifAcl(const pd_match_record *key,
@@ -13824,6 +16626,21 @@ pd_status p4_pd_orbisk_switch_eifForwardToPeerAcl_table_get_default_entry_handle
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_eifForwardToPeerAcl_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_eifForwardToPeerAcl_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_eifForwardToPeerAcl_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_eifForwardToPeerAcl_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_eifForwardToPeerAcl_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_eifForwardToPeerAcl(const pd_match_record *key,
     p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec_t *match_spec);
 void unbuild_mask_eifForwardToPeerAcl(const pd_match_record *key,
@@ -13870,6 +16687,21 @@ pd_status p4_pd_orbisk_switch_foldedPipeDest_table_get_default_entry_handle(pd_s
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_foldedPipeDest_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_foldedPipeDest_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_foldedPipeDest_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_foldedPipeDest_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeDest_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_foldedPipeDest(const pd_match_record *key,
     p4_pd_orbisk_switch_foldedPipeDest_match_spec_t *match_spec);
 void unbuild_mask_foldedPipeDest(const pd_match_record *key,
@@ -13964,6 +16796,21 @@ pd_status p4_pd_orbisk_switch_foldedPipeQos_table_get_default_entry_handle(pd_se
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_foldedPipeQos_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_foldedPipeQos_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_foldedPipeQos_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_foldedPipeQos_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeQos_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_foldedPipeQos(const pd_match_record *key,
     p4_pd_orbisk_switch_foldedPipeQos_match_spec_t *match_spec);
 void unbuild_mask_foldedPipeQos(const pd_match_record *key,
@@ -14026,6 +16873,21 @@ pd_status p4_pd_orbisk_switch_foldedPipeCounters_table_get_default_entry_handle(
     pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_foldedPipeCounters_table_reset_default_entry(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_foldedPipeCounters_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t second_value);
+pd_status p4_pd_orbisk_switch_foldedPipeCounters_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t *second_value);
+pd_status p4_pd_orbisk_switch_foldedPipeCounters_get_mat_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeCounters_register_mat_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mat_update_cb callback,
+    void *cookie);
 void unbuild_key_foldedPipeCounters(const pd_match_record *key,
     p4_pd_orbisk_switch_foldedPipeCounters_match_spec_t *match_spec);
 

@@ -69,6 +69,36 @@ pd_status pipe_mgr_table_get_default_entry_handle(pd_sess_hdl sess, pd_dev_targe
 pd_status pipe_mgr_mat_tbl_default_entry_reset(pd_sess_hdl sess, pd_dev_target target,
                                                pd_tbl_hdl tbl, uint32_t flags);
 
+/* Idle time of tables whose entries age. set_ttl's flags words are 0. */
+pd_status pipe_mgr_idle_set_params(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl tbl,
+                                   pd_idle_driver_params params);
+pd_status pipe_mgr_idle_tmo_set_enable(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl tbl,
+                                       uint32_t enable);
+pd_status pipe_mgr_idle_get_params(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl tbl,
+                                   pd_idle_driver_params *params);
+pd_status pipe_mgr_idle_register_tmo_cb(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl tbl,
+                                        pd_idle_tmo_cb callback, void *cookie);
+pd_status pipe_mgr_mat_ent_set_idle_ttl(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl tbl,
+                                        pd_entry_hdl entry_hdl, uint32_t ttl, uint32_t flags,
+                                        uint32_t reserved);
+pd_status pipe_mgr_mat_ent_get_idle_ttl(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl tbl,
+                                        pd_entry_hdl entry_hdl, uint32_t *ttl);
+pd_status pipe_mgr_mat_ent_reset_idle_ttl(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl tbl,
+                                          pd_entry_hdl entry_hdl);
+pd_status pipe_mgr_idle_time_update_hit_state(pd_sess_hdl sess, uint32_t device_id,
+                                              pd_tbl_hdl tbl, pd_idle_update_cb callback,
+                                              void *cookie);
+pd_status pipe_mgr_idle_time_get_hit_state(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl tbl,
+                                           pd_entry_hdl entry_hdl, uint32_t *hit_state);
+
+/* Table properties and update callbacks. */
+pd_status pipe_mgr_tbl_set_property(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl tbl,
+                                    uint32_t property, uint32_t value, uint32_t second_value);
+pd_status pipe_mgr_tbl_get_property(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl tbl,
+                                    uint32_t property, uint32_t *value, uint32_t *second_value);
+pd_status pipe_register_mat_update_cb(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl tbl,
+                                      pd_mat_update_cb callback, void *cookie);
+
 /* Member-selection service: one state for each action profile. */
 pd_status p4_pd_ms_init(void);
 pd_ms_state *p4_pd_ms_init_state(void);

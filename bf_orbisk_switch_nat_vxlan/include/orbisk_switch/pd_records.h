@@ -140,6 +140,46 @@ PD_STATIC_ASSERT(offsetof(pd_drv_client_callbacks, device_remove) == 24, "device
 PD_STATIC_ASSERT(offsetof(pd_drv_client_callbacks, device_log) == 32, "device log at 32");
 PD_STATIC_ASSERT(offsetof(pd_drv_client_callbacks, device_restore) == 40, "device restore at 40");
 
+/* The driver's form of a table's idle time: seven 8-byte words, passed by
+ * value. Built from a pd_idle_params; the reserved words are always 0. */
+typedef struct pd_idle_driver_params {
+  uint64_t mode;
+  uint64_t value1;
+  uint64_t value2;
+  uint64_t value3;
+  uint64_t reserved0;
+  uint64_t value4;
+  uint64_t reserved1;
+} pd_idle_driver_params;
+
+PD_STATIC_ASSERT(sizeof(pd_idle_driver_params) == 56, "pd_idle_driver_params is 56 bytes");
+PD_STATIC_ASSERT(offsetof(pd_idle_driver_params, mode) == 0, "mode at 0");
+PD_STATIC_ASSERT(offsetof(pd_idle_driver_params, value1) == 8, "value1 at 8");
+PD_STATIC_ASSERT(offsetof(pd_idle_driver_params, value2) == 16, "value2 at 16");
+PD_STATIC_ASSERT(offsetof(pd_idle_driver_params, value3) == 24, "value3 at 24");
+PD_STATIC_ASSERT(offsetof(pd_idle_driver_params, reserved0) == 32, "reserved0 at 32");
+PD_STATIC_ASSERT(offsetof(pd_idle_driver_params, value4) == 40, "value4 at 40");
+PD_STATIC_ASSERT(offsetof(pd_idle_driver_params, reserved1) == 48, "reserved1 at 48");
+
+/* Callbacks an agent registers through the library and the driver calls,
+ * handed on unwrapped. They run on the driver's threads, never inside a
+ * driver call the agent is making on the same thread. */
+
+/* An entry of a table in notify mode stayed idle for its whole TTL. */
+typedef void (*pd_idle_tmo_cb)(uint32_t device_id, pd_tbl_hdl tbl, pd_entry_hdl entry_hdl,
+                               void *cookie);
+/* The hit state of every entry of a table has been brought up to date. */
+typedef void (*pd_idle_update_cb)(uint32_t device_id, pd_tbl_hdl tbl, void *cookie);
+
+/* update_type values of a match table update. */
+#define PD_MAT_UPDATE_ADD 0u
+#define PD_MAT_UPDATE_MODIFY 1u
+#define PD_MAT_UPDATE_DELETE 2u
+
+/* An entry of a match table was added, given a new action, or deleted. */
+typedef void (*pd_mat_update_cb)(uint32_t device_id, pd_tbl_hdl tbl, pd_entry_hdl entry_hdl,
+                                 uint32_t update_type, void *cookie);
+
 #ifdef __cplusplus
 }
 #endif

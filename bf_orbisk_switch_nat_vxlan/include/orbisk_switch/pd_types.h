@@ -58,6 +58,32 @@ typedef struct pd_meter_spec {
   uint32_t meter_type; /* PD_METER_TYPE_COLOR_AWARE or PD_METER_TYPE_COLOR_UNAWARE */
 } pd_meter_spec;
 
+/* Idle time of a table, as a caller gives it to idle_tmo_enable and reads it
+ * back with idle_params_get. In notify mode (PD_IDLE_MODE_NOTIFY) the driver
+ * reports entries that stay idle; the four values go to the driver as they
+ * are, their meaning the driver's. Any other mode uses the mode alone. */
+#define PD_IDLE_MODE_NOTIFY 1u
+
+typedef struct pd_idle_params {
+  uint32_t mode;
+  uint64_t value1;
+  uint32_t value2;
+  uint64_t value3;
+  uint64_t value4;
+  uint8_t reserved; /* set to 0 by a read in notify mode; never sent */
+} pd_idle_params;
+
+PD_STATIC_ASSERT(sizeof(pd_idle_params) == 48, "pd_idle_params is 48 bytes");
+PD_STATIC_ASSERT(offsetof(pd_idle_params, value1) == 8, "value1 at 8");
+PD_STATIC_ASSERT(offsetof(pd_idle_params, value2) == 16, "value2 at 16");
+PD_STATIC_ASSERT(offsetof(pd_idle_params, value3) == 24, "value3 at 24");
+PD_STATIC_ASSERT(offsetof(pd_idle_params, value4) == 32, "value4 at 32");
+PD_STATIC_ASSERT(offsetof(pd_idle_params, reserved) == 40, "reserved at 40");
+
+/* Hit states of an entry of a table with idle time. */
+#define PD_IDLE_HIT_STATE_IDLE 0u
+#define PD_IDLE_HIT_STATE_ACTIVE 1u
+
 /* Opaque member-selection state of one action profile. */
 typedef struct pd_ms_state pd_ms_state;
 
