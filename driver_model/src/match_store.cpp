@@ -306,13 +306,13 @@ void MatchTable::write_action(Entry e, pd_act_fn_hdl fn, const pd_action_record 
 }
 
 pd_entry_hdl MatchTable::insert(const pd_match_record &key, uint32_t hash, pd_act_fn_hdl fn,
-                                const pd_action_record &act, uint32_t ttl) {
+                                const pd_action_record &act) {
   const pd_entry_hdl hdl = handles_.next_free(cursor);
   if (hdl == 0) return 0;
   cursor = hdl == kMaxEntryHdl ? 1 : hdl + 1;
   const uint32_t place = slab_.alloc();
   const Entry e = entry_at(place);
-  new (e.head) EntryHead{hdl, 0, key.priority, key.partition_index, ttl, 0, 0, hash, 0, 0, 0, 0};
+  new (e.head) EntryHead{hdl, 0, key.priority, key.partition_index, 0, 0, hash, 0, 0, 0, 0};
   std::memcpy(e.value, key.value_bytes, key_bytes_);
   std::memcpy(e.mask, key.mask_bytes, key_bytes_);
   handles_.insert(hdl, place);

@@ -155,7 +155,6 @@ struct EntryHead {
   pd_act_fn_hdl fn;
   uint32_t priority;
   uint32_t partition;
-  uint32_t ttl;
   pd_mbr_hdl member;
   pd_grp_hdl group;
   uint32_t hash;  // of the key, to leave the key index without hashing again
@@ -198,7 +197,7 @@ class MatchTable {
   // Adds an entry whose key, of that hash, is not in the table; 0 when no
   // handle is free.
   pd_entry_hdl insert(const pd_match_record &key, uint32_t hash, pd_act_fn_hdl fn,
-                      const pd_action_record &act, uint32_t ttl);
+                      const pd_action_record &act);
   void set_action(Entry e, pd_act_fn_hdl fn, const pd_action_record &act);
   void erase(pd_entry_hdl hdl);
   ActionView action(Entry e) const;

@@ -104,7 +104,7 @@ pd_status pipe_mgr_mat_ent_add(pd_sess_hdl sess, pd_dev_target target, pd_tbl_hd
                  t = &m.tables.make(target.device_id, *d);
                  hash = t->hash_of(*key);
                }
-               const pd_entry_hdl hdl = t->insert(*key, hash, fn, *act, ttl);
+               const pd_entry_hdl hdl = t->insert(*key, hash, fn, *act);
                if (hdl == 0) return ORBISK_MODEL_TABLE_FULL;  // every handle in use
                *entry_hdl = hdl;
                added(m, target.device_id, *d, hdl, ttl);
