@@ -15,7 +15,7 @@ def main(root):
     tables = []
     for path in sorted(glob.glob(os.path.join(root, "catalogue", "*.json"))):
         if not path.endswith("program.json"):
-            tables += json.load(open(path))["tables"]
+            tables += json.load(open(path)).get("tables", [])
     program = json.load(open(os.path.join(root, "catalogue", "program.json")))
     fields = [f for t in tables for f in t.get("fields", [])]
     partners = [f for f in fields if f["match"] in ("ternary", "lpm")]

@@ -17,7 +17,7 @@ def main(lib, root):
     tables = []
     for path in sorted(glob.glob(os.path.join(root, "catalogue", "*.json"))):
         if not path.endswith("program.json"):
-            tables += json.load(open(path))["tables"]
+            tables += json.load(open(path)).get("tables", [])
     program = json.load(open(os.path.join(root, "catalogue", "program.json")))
     fam = {}
 
@@ -69,6 +69,12 @@ def main(lib, root):
     for s in ("init", "cleanup", "dev_remove", "dev_log", "dev_restore", "device_state_cleanup",
               "action_enum_to_string", "action_string_to_enum"):
         add("frame", P + s)
+    services = json.load(open(os.path.join(root, "catalogue", "services.json")))
+    for h in services["hash_calculations"]:
+        for s in ("input_set", "input_get", "algorithm_set", "algorithm_get", "seed_set",
+                  "seed_get", "input_field_attribute_set", "input_field_attribute_count_get",
+                  "input_field_attribute_get", "calculate_hash_value"):
+            add("hash_calc", "%shash_calc_%s_%s" % (P, h["name"], s))
     add("objects", "bf_drv_hdl")
     add("objects", P + "action_name_strings")
 
@@ -80,7 +86,8 @@ def main(lib, root):
              "table_get_default_entry_handle": 154, "table_reset_default_entry": 154,
              "idle": 153, "set_property": 154, "get_property": 154, "get_mat_table_handle": 154,
              "register_mat_update_cb": 154,
-             "frame": 8, "objects": 2}
+             "frame": 8, "objects": 2,
+             "hash_calc": 120}
     failed = False
     for k, v in known.items():
         if len(fam.get(k, ())) != v:

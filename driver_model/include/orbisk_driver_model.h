@@ -145,6 +145,20 @@
  *   PD_MAT_UPDATE_ADD, _MODIFY or _DELETE, and the cookie, outside the lock.
  *   Default entries are not entries here.
  *
+ * Hash calculations
+ *   Per device and hash calculation of the program: the input handle, the
+ *   algorithm handle, the seed and the field attributes (driver records, kept
+ *   as given). Until a write, a calculation reads as the program made it: its
+ *   own input and algorithm, seed 0, no attributes. An input handle other
+ *   than the calculation's own, and an algorithm handle other than the two
+ *   below, is ORBISK_MODEL_NOT_OF_HASH; an unknown calculation is
+ *   ORBISK_MODEL_NO_SUCH_HASH. Attribute reads copy at most the capacity
+ *   offered and answer how many they copied. pipe_mgr_hash_calc_calculate_hash_value
+ *   hashes the stream with the calculation's algorithm and seed
+ *   (orbisk_model_hash) and writes the result's low hash_len bytes, most
+ *   significant first, zeros above its 32 bits. The call log names the
+ *   attribute array "attrs" and the stream "stream".
+ *
  * Notifications
  *   Calls into the clients' callbacks are queued while the model holds its
  *   lock and made once it is released, by the same call, in the caller's
@@ -197,6 +211,13 @@ extern "C" {
 /* A call of the other idle mode: hit state in notify mode, reset of an
  * entry's idle time outside it. */
 #define ORBISK_MODEL_WRONG_IDLE_MODE ((pd_status)0x10C)
+
+/* Hash calculations, value sets, digests and snapshots. */
+/* The hash handle is no hash calculation of the program. */
+#define ORBISK_MODEL_NO_SUCH_HASH ((pd_status)0x120)
+/* An input or algorithm handle the calculation does not have (handle 0
+ * among them). */
+#define ORBISK_MODEL_NOT_OF_HASH ((pd_status)0x121)
 
 /* Handle of the default entry of every table. */
 #define ORBISK_MODEL_DEFAULT_ENTRY_HDL ((pd_entry_hdl)0x80000000u)
@@ -381,6 +402,20 @@ size_t orbisk_model_ms_group_count(pd_ms_state *state, uint32_t device_id);
 /* Action a member names, or ORBISK_MODEL_NO_HANDLE when there is no such member. */
 pd_act_fn_hdl orbisk_model_ms_member_action(pd_ms_state *state, uint32_t device_id,
                                             pd_mbr_hdl mbr);
+
+/* ------------------------------------------------ hash calculations --- */
+
+/* The model's hash algorithms, by the program's algorithm handles: zlib's
+ * adler32 and crc32. */
+#define ORBISK_MODEL_HASH_ADLER32 0x23000000u
+#define ORBISK_MODEL_HASH_CRC32 0x23000001u
+
+/* What pipe_mgr_hash_calc_calculate_hash_value computes over a stream for a
+ * calculation with this algorithm and seed: the algorithm started from the
+ * seed's low 32 bits (a seed of 0 starts crc32 at its usual 0 and adler32 at
+ * 0, not its usual 1). 0 for an algorithm the model does not have. */
+uint32_t orbisk_model_hash(uint32_t algorithm_hdl, uint64_t seed, const uint8_t *bytes,
+                           size_t len);
 
 #ifdef __cplusplus
 }

@@ -37,6 +37,16 @@
   X(pipe_mgr_tbl_set_property)                 \
   X(pipe_mgr_tbl_get_property)                 \
   X(pipe_register_mat_update_cb)               \
+  X(pipe_mgr_hash_calc_input_set)              \
+  X(pipe_mgr_hash_calc_input_get)              \
+  X(pipe_mgr_hash_calc_algorithm_set)          \
+  X(pipe_mgr_hash_calc_algorithm_get)          \
+  X(pipe_mgr_hash_calc_seed_set)               \
+  X(pipe_mgr_hash_calc_seed_get)               \
+  X(pipe_mgr_hash_calc_input_field_attribute_set)       \
+  X(pipe_mgr_hash_calc_input_field_attribute_count_get) \
+  X(pipe_mgr_hash_calc_input_field_attribute_get)       \
+  X(pipe_mgr_hash_calc_calculate_hash_value)   \
   X(p4_pd_ms_init)                             \
   X(p4_pd_ms_init_state)                       \
   X(p4_pd_ms_destroy_state_for_dev)            \

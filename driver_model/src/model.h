@@ -36,15 +36,16 @@ struct Model {
   DigestStore digests;
   SnapshotStore snapshots;
   PlacementStore placement;
+  HashStore hashes;
 
   // Callbacks to run once the lock is released, queued by the frame that
   // holds it. A callback may call back into the driver: it runs in a frame
   // of its own.
   std::vector<std::function<void()>> notifications;
 
-  Store *const stores[14] = {&calls,     &faults,     &clients,   &log_lines, &allocations,
+  Store *const stores[15] = {&calls,     &faults,     &clients,   &log_lines, &allocations,
                              &ms,        &tables,     &profiles,  &resources, &idle,
-                             &properties, &digests,   &snapshots, &placement};
+                             &properties, &digests,   &snapshots, &placement, &hashes};
 
   void reset() {
     for (Store *s : stores) s->clear();

@@ -267,4 +267,21 @@ void erase_device(Map &map, uint32_t device_id) {
   });
 }
 
+// Hash calculations, per device and calculation (hash_store.cpp): the input
+// and algorithm handles, the seed and the field attributes. A calculation
+// without state on a device reads as the program's: its own input and
+// algorithm, seed 0, no attributes.
+class HashStore final : public Store {
+ public:
+  struct Calc {
+    uint32_t input_hdl = 0;
+    uint32_t algorithm_hdl = 0;
+    uint64_t seed = 0;
+    std::vector<pd_hash_calc_driver_attribute> attrs;
+  };
+  void clear() override { calcs.clear(); }
+  void drop_device(uint32_t device_id) override { erase_device(calcs, device_id); }
+  std::map<std::pair<uint32_t, uint32_t>, Calc> calcs;
+};
+
 }  // namespace orbisk_model

@@ -68,6 +68,17 @@ def action_sources(prog, group):
     return {"pd_%s_actions.cpp" % group_name(group): source(group, None, blocks)} if blocks else {}
 
 
+def service_sources(prog, group):
+    """A group's service functions, all in pd_<group>.cpp."""
+    blocks = []
+    for f in group.FAMILIES:
+        if f.each != "service":
+            continue
+        for fn in f.service_functions(prog):
+            blocks.append(definition(fn))
+    return {"pd_%s.cpp" % group_name(group): source(group, None, blocks)} if blocks else {}
+
+
 def emit_version_script(prog):
     names = sorted([f.name for f in families.all_functions(prog)] + families.EXPORTED_OBJECTS)
     o = ["{", "  global:"]
@@ -84,4 +95,5 @@ def emit(prog):
             out.update(group.files(prog))
         out.update(table_sources(prog, group))
         out.update(action_sources(prog, group))
+        out.update(service_sources(prog, group))
     return out

@@ -84,6 +84,33 @@
  *      into the same match spec.
  *  unbuild_action_spec_<a>(action record, [resources], [count], out action
  *      spec): an action record's data into an action spec.
+ *
+ * Services of the program, for <h> a hash calculation, <v> a parser value
+ * set and <d> a learning digest:
+ *  hash_calc_<h>_input_set(sess, device id, input): selects the input field
+ *      list: 0 is the calculation's own, any other value sends handle 0.
+ *  hash_calc_<h>_input_get(sess, device id, out input): reads it back as 0;
+ *      status 3, out place untouched, when the driver reports another handle
+ *      (a failing driver included).
+ *  hash_calc_<h>_algorithm_set(sess, device id, algorithm): selects the
+ *      algorithm: 0 is the calculation's own, any other value sends handle 0.
+ *  hash_calc_<h>_algorithm_get(sess, device id, out algorithm): reads it back
+ *      as 0; status 3 as for the input.
+ *  hash_calc_<h>_seed_set(sess, device id, seed): sets the seed.
+ *  hash_calc_<h>_seed_get(sess, device id, out seed): reads the seed.
+ *  hash_calc_<h>_input_field_attribute_set(sess, device id, input, count,
+ *      attributes): sets the attributes of count fields.
+ *  hash_calc_<h>_input_field_attribute_count_get(sess, device id, input, out
+ *      count): counts the fields with attributes; status 3 for an input other
+ *      than 0 while the calculation uses its own.
+ *  hash_calc_<h>_input_field_attribute_get(sess, device id, input, capacity,
+ *      out attributes, out count): reads up to capacity of them; the count is
+ *      0 unless the read succeeds; status 3 as for the count.
+ *  hash_calc_<h>_calculate_hash_value(sess, device id, count, attributes,
+ *      field widths, out hash, hash length): hashes the fields' values, first
+ *      field first, as one unbroken big-endian bit string right-aligned in
+ *      whole bytes; a value wider than its width spills into the field before
+ *      it.
  */
 #ifndef ORBISK_SWITCH_PD_H
 #define ORBISK_SWITCH_PD_H
@@ -17199,6 +17226,512 @@ void unbuild_action_spec_setPruneParamsForL2Flood(const pd_action_record *act,
     p4_pd_orbisk_switch_setPruneParamsForL2Flood_action_spec_t *action_spec);
 void unbuild_action_spec_setPruneParamsForL3Only(const pd_action_record *act,
     p4_pd_orbisk_switch_setPruneParamsForL3Only_action_spec_t *action_spec);
+
+/* -------------------------------------------- hash calculations --- */
+
+/* egrVlanStpHash: hash 0x08000000, input 0x21000000, algorithm 0x23000000 */
+pd_status p4_pd_orbisk_switch_hash_calc_egrVlanStpHash_input_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input);
+pd_status p4_pd_orbisk_switch_hash_calc_egrVlanStpHash_input_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *input);
+pd_status p4_pd_orbisk_switch_hash_calc_egrVlanStpHash_algorithm_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_egrVlanStpHash_algorithm_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_egrVlanStpHash_seed_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t seed);
+pd_status p4_pd_orbisk_switch_hash_calc_egrVlanStpHash_seed_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t *seed);
+pd_status p4_pd_orbisk_switch_hash_calc_egrVlanStpHash_input_field_attribute_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs);
+pd_status p4_pd_orbisk_switch_hash_calc_egrVlanStpHash_input_field_attribute_count_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_egrVlanStpHash_input_field_attribute_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t capacity,
+    pd_hash_calc_attribute *attrs,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_egrVlanStpHash_calculate_hash_value(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs,
+    const uint32_t *widths,
+    uint8_t *hash,
+    uint32_t hash_len);
+
+/* hashInnerEthHdr: hash 0x08000001, input 0x21000001, algorithm 0x23000001 */
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerEthHdr_input_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerEthHdr_input_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *input);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerEthHdr_algorithm_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerEthHdr_algorithm_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerEthHdr_seed_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t seed);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerEthHdr_seed_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t *seed);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerEthHdr_input_field_attribute_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerEthHdr_input_field_attribute_count_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerEthHdr_input_field_attribute_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t capacity,
+    pd_hash_calc_attribute *attrs,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerEthHdr_calculate_hash_value(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs,
+    const uint32_t *widths,
+    uint8_t *hash,
+    uint32_t hash_len);
+
+/* hashInnerIpAndL4Hdr: hash 0x08000002, input 0x21000002, algorithm 0x23000001 */
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpAndL4Hdr_input_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpAndL4Hdr_input_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *input);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpAndL4Hdr_algorithm_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpAndL4Hdr_algorithm_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpAndL4Hdr_seed_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t seed);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpAndL4Hdr_seed_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t *seed);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpAndL4Hdr_input_field_attribute_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpAndL4Hdr_input_field_attribute_count_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpAndL4Hdr_input_field_attribute_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t capacity,
+    pd_hash_calc_attribute *attrs,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpAndL4Hdr_calculate_hash_value(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs,
+    const uint32_t *widths,
+    uint8_t *hash,
+    uint32_t hash_len);
+
+/* hashInnerIpv4Hdr: hash 0x08000003, input 0x21000003, algorithm 0x23000001 */
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpv4Hdr_input_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpv4Hdr_input_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *input);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpv4Hdr_algorithm_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpv4Hdr_algorithm_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpv4Hdr_seed_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t seed);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpv4Hdr_seed_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t *seed);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpv4Hdr_input_field_attribute_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpv4Hdr_input_field_attribute_count_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpv4Hdr_input_field_attribute_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t capacity,
+    pd_hash_calc_attribute *attrs,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpv4Hdr_calculate_hash_value(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs,
+    const uint32_t *widths,
+    uint8_t *hash,
+    uint32_t hash_len);
+
+/* hashInnerIpv6Hdr: hash 0x08000004, input 0x21000004, algorithm 0x23000001 */
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpv6Hdr_input_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpv6Hdr_input_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *input);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpv6Hdr_algorithm_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpv6Hdr_algorithm_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpv6Hdr_seed_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t seed);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpv6Hdr_seed_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t *seed);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpv6Hdr_input_field_attribute_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpv6Hdr_input_field_attribute_count_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpv6Hdr_input_field_attribute_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t capacity,
+    pd_hash_calc_attribute *attrs,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpv6Hdr_calculate_hash_value(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs,
+    const uint32_t *widths,
+    uint8_t *hash,
+    uint32_t hash_len);
+
+/* hashOuterEthHdr: hash 0x08000005, input 0x21000005, algorithm 0x23000001 */
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterEthHdr_input_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterEthHdr_input_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *input);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterEthHdr_algorithm_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterEthHdr_algorithm_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterEthHdr_seed_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t seed);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterEthHdr_seed_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t *seed);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterEthHdr_input_field_attribute_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterEthHdr_input_field_attribute_count_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterEthHdr_input_field_attribute_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t capacity,
+    pd_hash_calc_attribute *attrs,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterEthHdr_calculate_hash_value(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs,
+    const uint32_t *widths,
+    uint8_t *hash,
+    uint32_t hash_len);
+
+/* hashOuterIpAndL4Hdr: hash 0x08000006, input 0x21000006, algorithm 0x23000001 */
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpAndL4Hdr_input_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpAndL4Hdr_input_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *input);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpAndL4Hdr_algorithm_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpAndL4Hdr_algorithm_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpAndL4Hdr_seed_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t seed);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpAndL4Hdr_seed_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t *seed);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpAndL4Hdr_input_field_attribute_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpAndL4Hdr_input_field_attribute_count_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpAndL4Hdr_input_field_attribute_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t capacity,
+    pd_hash_calc_attribute *attrs,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpAndL4Hdr_calculate_hash_value(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs,
+    const uint32_t *widths,
+    uint8_t *hash,
+    uint32_t hash_len);
+
+/* hashOuterIpv4Hdr: hash 0x08000007, input 0x21000007, algorithm 0x23000001 */
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpv4Hdr_input_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpv4Hdr_input_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *input);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpv4Hdr_algorithm_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpv4Hdr_algorithm_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpv4Hdr_seed_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t seed);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpv4Hdr_seed_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t *seed);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpv4Hdr_input_field_attribute_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpv4Hdr_input_field_attribute_count_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpv4Hdr_input_field_attribute_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t capacity,
+    pd_hash_calc_attribute *attrs,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpv4Hdr_calculate_hash_value(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs,
+    const uint32_t *widths,
+    uint8_t *hash,
+    uint32_t hash_len);
+
+/* hashOuterIpv6Hdr: hash 0x08000008, input 0x21000008, algorithm 0x23000001 */
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpv6Hdr_input_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpv6Hdr_input_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *input);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpv6Hdr_algorithm_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpv6Hdr_algorithm_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpv6Hdr_seed_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t seed);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpv6Hdr_seed_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t *seed);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpv6Hdr_input_field_attribute_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpv6Hdr_input_field_attribute_count_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpv6Hdr_input_field_attribute_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t capacity,
+    pd_hash_calc_attribute *attrs,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpv6Hdr_calculate_hash_value(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs,
+    const uint32_t *widths,
+    uint8_t *hash,
+    uint32_t hash_len);
+
+/* ingVlanStpHash: hash 0x08000009, input 0x21000009, algorithm 0x23000000 */
+pd_status p4_pd_orbisk_switch_hash_calc_ingVlanStpHash_input_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input);
+pd_status p4_pd_orbisk_switch_hash_calc_ingVlanStpHash_input_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *input);
+pd_status p4_pd_orbisk_switch_hash_calc_ingVlanStpHash_algorithm_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_ingVlanStpHash_algorithm_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_ingVlanStpHash_seed_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t seed);
+pd_status p4_pd_orbisk_switch_hash_calc_ingVlanStpHash_seed_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t *seed);
+pd_status p4_pd_orbisk_switch_hash_calc_ingVlanStpHash_input_field_attribute_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs);
+pd_status p4_pd_orbisk_switch_hash_calc_ingVlanStpHash_input_field_attribute_count_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_ingVlanStpHash_input_field_attribute_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t capacity,
+    pd_hash_calc_attribute *attrs,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_ingVlanStpHash_calculate_hash_value(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs,
+    const uint32_t *widths,
+    uint8_t *hash,
+    uint32_t hash_len);
+
+/* queueCounterHash: hash 0x0800000a, input 0x2100000a, algorithm 0x23000000 */
+pd_status p4_pd_orbisk_switch_hash_calc_queueCounterHash_input_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input);
+pd_status p4_pd_orbisk_switch_hash_calc_queueCounterHash_input_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *input);
+pd_status p4_pd_orbisk_switch_hash_calc_queueCounterHash_algorithm_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_queueCounterHash_algorithm_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_queueCounterHash_seed_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t seed);
+pd_status p4_pd_orbisk_switch_hash_calc_queueCounterHash_seed_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t *seed);
+pd_status p4_pd_orbisk_switch_hash_calc_queueCounterHash_input_field_attribute_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs);
+pd_status p4_pd_orbisk_switch_hash_calc_queueCounterHash_input_field_attribute_count_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_queueCounterHash_input_field_attribute_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t capacity,
+    pd_hash_calc_attribute *attrs,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_queueCounterHash_calculate_hash_value(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs,
+    const uint32_t *widths,
+    uint8_t *hash,
+    uint32_t hash_len);
+
+/* egressL2AintfUnresolvedFlood: hash 0x0800000b, input 0x2100000b, algorithm 0x23000000 */
+pd_status p4_pd_orbisk_switch_hash_calc_egressL2AintfUnresolvedFlood_input_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input);
+pd_status p4_pd_orbisk_switch_hash_calc_egressL2AintfUnresolvedFlood_input_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *input);
+pd_status p4_pd_orbisk_switch_hash_calc_egressL2AintfUnresolvedFlood_algorithm_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_egressL2AintfUnresolvedFlood_algorithm_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_egressL2AintfUnresolvedFlood_seed_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t seed);
+pd_status p4_pd_orbisk_switch_hash_calc_egressL2AintfUnresolvedFlood_seed_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t *seed);
+pd_status p4_pd_orbisk_switch_hash_calc_egressL2AintfUnresolvedFlood_input_field_attribute_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs);
+pd_status p4_pd_orbisk_switch_hash_calc_egressL2AintfUnresolvedFlood_input_field_attribute_count_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_egressL2AintfUnresolvedFlood_input_field_attribute_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t capacity,
+    pd_hash_calc_attribute *attrs,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_egressL2AintfUnresolvedFlood_calculate_hash_value(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs,
+    const uint32_t *widths,
+    uint8_t *hash,
+    uint32_t hash_len);
 
 #ifdef __cplusplus
 }

@@ -99,6 +99,42 @@ pd_status pipe_mgr_tbl_get_property(pd_sess_hdl sess, uint32_t device_id, pd_tbl
 pd_status pipe_register_mat_update_cb(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl tbl,
                                       pd_mat_update_cb callback, void *cookie);
 
+/* Hash calculations. The two trailing words of the algorithm calls are the
+ * driver's; this library always passes 0 (null). */
+pd_status pipe_mgr_hash_calc_input_set(pd_sess_hdl sess, uint32_t device_id, uint32_t hash_hdl,
+                                       uint32_t input_hdl);
+pd_status pipe_mgr_hash_calc_input_get(pd_sess_hdl sess, uint32_t device_id, uint32_t hash_hdl,
+                                       uint32_t *input_hdl);
+pd_status pipe_mgr_hash_calc_algorithm_set(pd_sess_hdl sess, uint32_t device_id,
+                                           uint32_t hash_hdl, uint32_t algorithm_hdl,
+                                           const void *algorithm, uint64_t rotate);
+pd_status pipe_mgr_hash_calc_algorithm_get(pd_sess_hdl sess, uint32_t device_id,
+                                           uint32_t hash_hdl, uint32_t *algorithm_hdl,
+                                           void *algorithm, uint64_t *rotate);
+pd_status pipe_mgr_hash_calc_seed_set(pd_sess_hdl sess, uint32_t device_id, uint32_t hash_hdl,
+                                      uint64_t seed);
+pd_status pipe_mgr_hash_calc_seed_get(pd_sess_hdl sess, uint32_t device_id, uint32_t hash_hdl,
+                                      uint64_t *seed);
+pd_status pipe_mgr_hash_calc_input_field_attribute_set(pd_sess_hdl sess, uint32_t device_id,
+                                                       uint32_t hash_hdl, uint32_t input_hdl,
+                                                       uint32_t count,
+                                                       pd_hash_calc_driver_attribute *attrs);
+pd_status pipe_mgr_hash_calc_input_field_attribute_count_get(pd_sess_hdl sess,
+                                                             uint32_t device_id,
+                                                             uint32_t hash_hdl,
+                                                             uint32_t input_hdl,
+                                                             uint32_t *count);
+pd_status pipe_mgr_hash_calc_input_field_attribute_get(pd_sess_hdl sess, uint32_t device_id,
+                                                       uint32_t hash_hdl, uint32_t input_hdl,
+                                                       uint32_t capacity,
+                                                       pd_hash_calc_driver_attribute *attrs,
+                                                       uint32_t *count);
+/* Hashes stream_len bytes and writes hash_len bytes of the result. */
+pd_status pipe_mgr_hash_calc_calculate_hash_value(pd_sess_hdl sess, uint32_t device_id,
+                                                  uint32_t hash_hdl, const uint8_t *stream,
+                                                  uint32_t stream_len, uint8_t *hash,
+                                                  uint32_t hash_len);
+
 /* Member-selection service: one state for each action profile. */
 pd_status p4_pd_ms_init(void);
 pd_ms_state *p4_pd_ms_init_state(void);

@@ -180,6 +180,26 @@ typedef void (*pd_idle_update_cb)(uint32_t device_id, pd_tbl_hdl tbl, void *cook
 typedef void (*pd_mat_update_cb)(uint32_t device_id, pd_tbl_hdl tbl, pd_entry_hdl entry_hdl,
                                  uint32_t update_type, void *cookie);
 
+/* The driver's form of a hash field attribute: 32 bytes. The library fills
+ * input_field, the same plus one in field_id, attr_type and the low 32 bits
+ * of value; the two reserved words are 0. */
+typedef struct pd_hash_calc_driver_attribute {
+  uint32_t input_field;
+  uint32_t reserved0;
+  uint32_t reserved1;
+  uint32_t field_id;   /* input_field + 1 */
+  uint32_t attr_type;
+  uint32_t reserved2;
+  uint64_t value;      /* only the low 32 bits are written and read */
+} pd_hash_calc_driver_attribute;
+
+PD_STATIC_ASSERT(sizeof(pd_hash_calc_driver_attribute) == 32, "hash attribute is 32 bytes");
+PD_STATIC_ASSERT(offsetof(pd_hash_calc_driver_attribute, reserved0) == 4, "reserved0 at 4");
+PD_STATIC_ASSERT(offsetof(pd_hash_calc_driver_attribute, reserved1) == 8, "reserved1 at 8");
+PD_STATIC_ASSERT(offsetof(pd_hash_calc_driver_attribute, field_id) == 12, "field_id at 12");
+PD_STATIC_ASSERT(offsetof(pd_hash_calc_driver_attribute, attr_type) == 16, "attr_type at 16");
+PD_STATIC_ASSERT(offsetof(pd_hash_calc_driver_attribute, value) == 24, "value at 24");
+
 #ifdef __cplusplus
 }
 #endif

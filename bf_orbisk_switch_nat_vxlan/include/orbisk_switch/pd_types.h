@@ -84,6 +84,27 @@ PD_STATIC_ASSERT(offsetof(pd_idle_params, reserved) == 40, "reserved at 40");
 #define PD_IDLE_HIT_STATE_IDLE 0u
 #define PD_IDLE_HIT_STATE_ACTIVE 1u
 
+/* ------------------------------------------------ hash calculations --- */
+
+/* One field attribute of a hash calculation as a caller gives it and reads
+ * it back. For calculate_hash_value, value is the field's value for a field
+ * of up to 32 bits, and for a wider field a pointer to its bytes, most
+ * significant first, as many as its width rounded up to whole bytes. */
+typedef struct pd_hash_calc_attribute {
+  uint32_t input_field; /* the field's number in the calculation */
+  uint32_t attr_type;
+  uint64_t value;
+} pd_hash_calc_attribute;
+
+PD_STATIC_ASSERT(sizeof(pd_hash_calc_attribute) == 16, "pd_hash_calc_attribute is 16 bytes");
+PD_STATIC_ASSERT(offsetof(pd_hash_calc_attribute, attr_type) == 4, "attr_type at 4");
+PD_STATIC_ASSERT(offsetof(pd_hash_calc_attribute, value) == 8, "value at 8");
+
+/* The library's own answer when the driver reports an input or algorithm
+ * handle that is not the calculation's, or when a caller names an input
+ * other than 0 while the calculation uses its own. */
+#define PD_STATUS_HASH_HANDLE_MISMATCH ((pd_status)3)
+
 /* Opaque member-selection state of one action profile. */
 typedef struct pd_ms_state pd_ms_state;
 

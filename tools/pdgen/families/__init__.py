@@ -29,15 +29,36 @@ EXPORTED_OBJECTS = [o for g in GROUPS for o in getattr(g, "EXPORTED_OBJECTS", []
 
 def table_functions(t):
     """Every exported function of table t, in the order the header declares them."""
-    keyed = [kf for f in FAMILIES if f.each not in ("action", "program") for kf in f.table_functions(t)]
+    keyed = [kf for f in FAMILIES if f.each == "table" or f.each.endswith("_action")
+             for kf in f.table_functions(t)]
     return [fn for _, fn in sorted(keyed, key=lambda kf: kf[0])]
 
 
 def documented_families():
     """The table and action families, in the order of a table's declarations
     (those of an action last), for the header's family list."""
-    table = sorted((f for f in FAMILIES if f.each not in ("action", "program")), key=lambda f: f.place)
+    table = sorted((f for f in FAMILIES if f.each == "table" or f.each.endswith("_action")),
+                   key=lambda f: f.place)
     return table + [f for f in FAMILIES if f.each == "action"]
+
+
+def service_families():
+    """The families of the program's services, in module order."""
+    return [f for f in FAMILIES if f.each == "service"]
+
+
+def service_sections(prog):
+    """(section title, [Fn]) of the services, item by item within a section,
+    in the order the header declares them."""
+    out = []
+    for g in GROUPS:
+        fams = [f for f in g.FAMILIES if f.each == "service"]
+        for section in dict.fromkeys(f.section for f in fams):
+            per = [f.service_functions(prog) for f in fams if f.section == section]
+            # Item by item: every function of the first item, then the next.
+            fns = [fn for i in range(max(len(p) for p in per)) for p in per if i < len(p) for fn in [p[i]]]
+            out.append((section, fns))
+    return out
 
 
 def action_functions(a):
@@ -59,4 +80,6 @@ def all_functions(prog):
         fns += table_functions(t)
     for a in prog.actions:
         fns += action_functions(a)
+    for _, sfns in service_sections(prog):
+        fns += sfns
     return fns

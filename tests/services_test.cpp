@@ -1,0 +1,260 @@
+// The program's services through the library on the driver model: hash
+// calculations, parser value sets, learning digests and snapshots. Each
+// family is swept over the catalogue's items by exported name; byte rules are
+// checked as golden vectors on what the driver was handed.
+#include <dlfcn.h>
+#include <zlib.h>
+
+#include <numeric>
+#include <string>
+
+#include "test_support.h"
+
+namespace {
+
+using orbisk::pd::HashCalcDesc;
+using orbisk::pd::kHashCalcs;
+using orbisk::pd::kNumHashCalcs;
+using Args = std::vector<uint64_t>;
+
+constexpr uint32_t kDev = 6;
+constexpr pd_status kArmed = 0x5B;
+
+template <typename F>
+F sym(const std::string &name) {
+  void *p = dlsym(RTLD_DEFAULT, ("p4_pd_orbisk_switch_" + name).c_str());
+  EXPECT_NE(nullptr, p) << name;
+  return reinterpret_cast<F>(p);
+}
+
+uint64_t addr(const void *p) { return uint64_t(reinterpret_cast<uintptr_t>(p)); }
+
+// The first n arguments of the latest call of a function.
+Args head(const char *function, size_t n) {
+  const Args a = last(function).args;
+  return Args(a.begin(), a.begin() + std::min(n, a.size()));
+}
+
+// The named copy the latest call of a function was handed.
+Bytes handed(const char *function, const char *name) {
+  for (size_t i = orbisk_model_call_count(); i-- > 0;) {
+    const orbisk_model_call *c = orbisk_model_call_at(i);
+    if (std::strcmp(c->function, function) != 0) continue;
+    size_t n = 0;
+    const uint8_t *p = orbisk_model_call_bytes(c, name, &n);
+    return p ? Bytes(p, p + n) : Bytes{};
+  }
+  ADD_FAILURE() << "no call of " << function;
+  return {};
+}
+
+// ------------------------------------------------------ hash calculations ---
+
+using HashSet = pd_status (*)(pd_sess_hdl, uint32_t, uint32_t);
+using HashGet = pd_status (*)(pd_sess_hdl, uint32_t, uint32_t *);
+using SeedSet = pd_status (*)(pd_sess_hdl, uint32_t, uint64_t);
+using SeedGet = pd_status (*)(pd_sess_hdl, uint32_t, uint64_t *);
+using AttrSet = pd_status (*)(pd_sess_hdl, uint32_t, uint32_t, uint32_t,
+                              const pd_hash_calc_attribute *);
+using AttrCount = pd_status (*)(pd_sess_hdl, uint32_t, uint32_t, uint32_t *);
+using AttrGet = pd_status (*)(pd_sess_hdl, uint32_t, uint32_t, uint32_t, pd_hash_calc_attribute *,
+                              uint32_t *);
+using Calculate = pd_status (*)(pd_sess_hdl, uint32_t, uint32_t, const pd_hash_calc_attribute *,
+                                const uint32_t *, uint8_t *, uint32_t);
+
+template <typename F>
+F hash_fn(const HashCalcDesc &h, const char *op) {
+  return sym<F>(std::string("hash_calc_") + h.name + "_" + op);
+}
+
+// The stream calculate_hash_value hands the driver for these fields.
+Bytes stream_of(const std::vector<uint32_t> &widths, const std::vector<uint64_t> &values) {
+  std::vector<pd_hash_calc_attribute> attrs;
+  for (size_t i = 0; i < values.size(); ++i) attrs.push_back({uint32_t(i), 0, values[i]});
+  uint8_t out[4];
+  const pd_status s = p4_pd_orbisk_switch_hash_calc_hashOuterIpv4Hdr_calculate_hash_value(
+      3, kDev, uint32_t(widths.size()), attrs.data(), widths.data(), out, sizeof out);
+  EXPECT_EQ(BF_SUCCESS, s);
+  const Seen c = last("pipe_mgr_hash_calc_calculate_hash_value");
+  EXPECT_EQ(c.args[4], (std::accumulate(widths.begin(), widths.end(), 0u) + 7) / 8);
+  return handed("pipe_mgr_hash_calc_calculate_hash_value", "stream");
+}
+
+using HashStream = OnModel;
+
+TEST_F(HashStream, FieldsMakeOneRightAlignedBigEndianBitString) {
+  static const uint8_t k40[5] = {0x12, 0x34, 0x56, 0x78, 0x9A};
+  static const uint8_t k33[5] = {0x01, 0x80, 0x00, 0x00, 0x01};
+  static const uint8_t k128[16] = {0x20, 0x01, 0x0d, 0xb8, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0x01};
+  struct Case {
+    const char *what;
+    std::vector<uint32_t> widths;
+    std::vector<uint64_t> values;
+    Bytes stream;
+  } cases[] = {
+      {"3 and 5 bits, no gap", {3, 5}, {5, 1}, {0xA1}},
+      {"spare bits on top", {4, 8}, {0xF, 0xAB}, {0x0F, 0xAB}},
+      {"a 12-bit field starting inside a byte", {4, 12, 4}, {1, 0xABC, 0xD}, {0x01, 0xAB, 0xCD}},
+      {"no field", {}, {}, {}},
+      {"32 bits through the value", {32}, {0xDEADBEEF}, {0xDE, 0xAD, 0xBE, 0xEF}},
+      {"33 bits through the pointer, after 3 bits", {3, 33}, {0x5, addr(k33)},
+       {0x0B, 0x80, 0x00, 0x00, 0x01}},
+      {"40 bits behind 4 bits", {4, 40}, {0x7, addr(k40)}, {0x07, 0x12, 0x34, 0x56, 0x78, 0x9A}},
+      {"40 bits ahead of 4 bits", {40, 4}, {addr(k40), 0x3},
+       {0x01, 0x23, 0x45, 0x67, 0x89, 0xA3}},
+      {"an address and a port", {128, 16}, {addr(k128), 0x1234},
+       {0x20, 0x01, 0x0d, 0xb8, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0x01, 0x12, 0x34}},
+      // A value is not cut to its width: its whole source bytes are placed.
+      {"a value wider than its width spills into the field before", {4, 4}, {0x1, 0x3F}, {0x3F}},
+      {"only the bytes the width needs are taken", {8, 8}, {0x00, 0x1FF}, {0x00, 0xFF}},
+      {"a spill off the top of the stream is lost", {9, 3}, {0xFFFF, 0}, {0xFF, 0xF8}},
+  };
+  for (const Case &c : cases) {
+    EXPECT_EQ(c.stream, stream_of(c.widths, c.values)) << c.what;
+  }
+  // Each stream was allocated and freed: nothing is kept between calls.
+  EXPECT_EQ(0u, orbisk_model_live_allocations());
+}
+
+// The hash the library gets back equals the algorithm run here on bytes
+// built by hand, for every calculation, with its own algorithm and a seed.
+TEST_F(HashStream, EveryCalculationHashesTheFieldsAsZlibDoesOnTheSameBytes) {
+  static const uint8_t kSip6[16] = {0xfe, 0x80, 0, 0, 0, 0, 0, 0, 0x02, 0x1b, 0x21, 0xff, 0xfe, 0x3c, 0x4d, 0x5e};
+  const uint32_t widths[5] = {8, 128, 16, 16, 6};
+  const pd_hash_calc_attribute attrs[5] = {
+      {0, 0, 6}, {1, 0, addr(kSip6)}, {2, 0, 0xC350}, {3, 0, 443}, {4, 0, 0x2A}};
+  // 174 bits: 2 spare bits on top, then the fields back to back, each
+  // shifted left by the 6 bits of the last.
+  const Bytes by_hand = {0x01, 0xBF, 0xA0, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x86,
+                         0xC8, 0x7F, 0xFF, 0x8F, 0x13, 0x57, 0xB0, 0xD4, 0x00, 0x6E, 0xEA};
+  for (size_t i = 0; i < kNumHashCalcs; ++i) {
+    const HashCalcDesc &h = kHashCalcs[i];
+    SCOPED_TRACE(h.name);
+    const uint64_t seed = 0xA5A5000000001234u + i;
+    ASSERT_EQ(BF_SUCCESS, hash_fn<SeedSet>(h, "seed_set")(3, kDev, seed));
+    uint8_t out[4] = {};
+    ASSERT_EQ(BF_SUCCESS, hash_fn<Calculate>(h, "calculate_hash_value")(3, kDev, 5, attrs, widths,
+                                                                         out, sizeof out));
+    EXPECT_EQ(by_hand, handed("pipe_mgr_hash_calc_calculate_hash_value", "stream"));
+    const uLong start = uint32_t(seed);
+    const uint32_t want = h.algorithm_hdl == ORBISK_MODEL_HASH_CRC32
+                              ? uint32_t(crc32(start, by_hand.data(), uInt(by_hand.size())))
+                              : uint32_t(adler32(start, by_hand.data(), uInt(by_hand.size())));
+    EXPECT_EQ(Bytes({uint8_t(want >> 24), uint8_t(want >> 16), uint8_t(want >> 8), uint8_t(want)}),
+              Bytes(out, out + 4));
+    EXPECT_EQ(Args({3, kDev, h.handle}), head("pipe_mgr_hash_calc_calculate_hash_value", 3));
+  }
+}
+
+using HashSweep = OnModel;
+
+TEST_F(HashSweep, ValuesBecomeTheCalculationsHandlesAndBackWithStatusThreeOnAMismatch) {
+  for (size_t i = 0; i < kNumHashCalcs; ++i) {
+    const HashCalcDesc &h = kHashCalcs[i];
+    SCOPED_TRACE(h.name);
+    const auto input_set = hash_fn<HashSet>(h, "input_set");
+    const auto algorithm_set = hash_fn<HashSet>(h, "algorithm_set");
+    const auto input_get = hash_fn<HashGet>(h, "input_get");
+    const auto algorithm_get = hash_fn<HashGet>(h, "algorithm_get");
+    // Value 0 is the calculation's own handle; any other is handle 0, which
+    // the driver refuses with its own status.
+    EXPECT_EQ(BF_SUCCESS, input_set(3, kDev, 0));
+    EXPECT_EQ(Args({3, kDev, h.handle, h.input_hdl}), last("pipe_mgr_hash_calc_input_set").args);
+    EXPECT_EQ(ORBISK_MODEL_NOT_OF_HASH, input_set(3, kDev, 1));
+    EXPECT_EQ(Args({3, kDev, h.handle, 0}), last("pipe_mgr_hash_calc_input_set").args);
+    EXPECT_EQ(BF_SUCCESS, algorithm_set(3, kDev, 0));
+    EXPECT_EQ(Args({3, kDev, h.handle, h.algorithm_hdl, 0, 0}),
+              last("pipe_mgr_hash_calc_algorithm_set").args);
+    EXPECT_EQ(ORBISK_MODEL_NOT_OF_HASH, algorithm_set(3, kDev, 7));
+    EXPECT_EQ(0u, last("pipe_mgr_hash_calc_algorithm_set").args[3]);
+
+    uint32_t v = 0xEE;
+    EXPECT_EQ(BF_SUCCESS, input_get(3, kDev, &v));
+    EXPECT_EQ(0u, v);
+    v = 0xEE;
+    EXPECT_EQ(BF_SUCCESS, algorithm_get(3, kDev, &v));
+    EXPECT_EQ(0u, v);
+    EXPECT_EQ(0u, last("pipe_mgr_hash_calc_algorithm_get").args[4]);
+    EXPECT_EQ(0u, last("pipe_mgr_hash_calc_algorithm_get").args[5]);
+    // A driver that fails without writing the handle: 3, not its status, and
+    // the caller's place untouched.
+    for (const char *f : {"pipe_mgr_hash_calc_input_get", "pipe_mgr_hash_calc_algorithm_get"}) {
+      ASSERT_EQ(BF_SUCCESS, orbisk_model_fail(f, 1, kArmed));
+      v = 0xEE;
+      const bool input = std::strstr(f, "input") != nullptr;
+      EXPECT_EQ(PD_STATUS_HASH_HANDLE_MISMATCH, (input ? input_get : algorithm_get)(3, kDev, &v));
+      EXPECT_EQ(0xEEu, v);
+    }
+
+    uint64_t seed = 0;
+    EXPECT_EQ(BF_SUCCESS, hash_fn<SeedSet>(h, "seed_set")(3, kDev, 0x0123456789ABCDEFu));
+    EXPECT_EQ(BF_SUCCESS, hash_fn<SeedGet>(h, "seed_get")(3, kDev, &seed));
+    EXPECT_EQ(0x0123456789ABCDEFu, seed);
+    EXPECT_EQ(h.handle, last("pipe_mgr_hash_calc_seed_get").args[2]);
+  }
+}
+
+TEST_F(HashSweep, AttributesGoAsDriverRecordsAndComeBackAsTheCallersWithTheirRules) {
+  for (size_t i = 0; i < kNumHashCalcs; ++i) {
+    const HashCalcDesc &h = kHashCalcs[i];
+    SCOPED_TRACE(h.name);
+    const auto set = hash_fn<AttrSet>(h, "input_field_attribute_set");
+    const auto count_get = hash_fn<AttrCount>(h, "input_field_attribute_count_get");
+    const auto get = hash_fn<AttrGet>(h, "input_field_attribute_get");
+    const pd_hash_calc_attribute in[2] = {{4, 2, 0xFFFFFFFF00000007u}, {0, 1, 0x12345678u}};
+    const size_t allocs = orbisk_model_allocation_count();
+    ASSERT_EQ(BF_SUCCESS, set(3, kDev, 0, 2, in));
+    EXPECT_EQ(allocs + 1, orbisk_model_allocation_count());
+    EXPECT_EQ(Args({3, kDev, h.handle, h.input_hdl, 2}),
+              head("pipe_mgr_hash_calc_input_field_attribute_set", 5));
+    const Bytes recs = handed("pipe_mgr_hash_calc_input_field_attribute_set", "attrs");
+    ASSERT_EQ(64u, recs.size());
+    // input_field, 0, 0, input_field + 1, attr_type, padding, low 32 bits.
+    const Bytes first = {4, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 5, 0, 0, 0,
+                         2, 0, 0, 0, 0, 0, 0, 0, 7, 0, 0, 0, 0, 0, 0, 0};
+    EXPECT_EQ(first, Bytes(recs.begin(), recs.begin() + 32));
+    EXPECT_EQ(1u, recs[32 + 12]);  // field_id of input field 0
+
+    uint32_t n = 0xEE;
+    EXPECT_EQ(BF_SUCCESS, count_get(3, kDev, 0, &n));
+    EXPECT_EQ(2u, n);
+    n = 0xEE;
+    EXPECT_EQ(PD_STATUS_HASH_HANDLE_MISMATCH, count_get(3, kDev, 1, &n));
+    EXPECT_EQ(0xEEu, n);
+
+    pd_hash_calc_attribute out[3];
+    std::memset(out, 0xCC, sizeof out);
+    EXPECT_EQ(BF_SUCCESS, get(3, kDev, 0, 3, out, &n));
+    ASSERT_EQ(2u, n);
+    EXPECT_EQ(4u, out[0].input_field);
+    EXPECT_EQ(2u, out[0].attr_type);
+    EXPECT_EQ(7u, out[0].value);
+    EXPECT_EQ(0x12345678u, out[1].value);
+    EXPECT_EQ(0xCCCCCCCCu, out[2].input_field);
+    // Capacity 0: the count is 0 and nothing is read, but the input is asked.
+    orbisk_model_clear_calls();
+    n = 0xEE;
+    EXPECT_EQ(BF_SUCCESS, get(3, kDev, 0, 0, out, &n));
+    EXPECT_EQ(0u, n);
+    EXPECT_EQ(1u, calls_of("pipe_mgr_hash_calc_input_get"));
+    EXPECT_EQ(0u, calls_of("pipe_mgr_hash_calc_input_field_attribute_get"));
+    n = 0xEE;
+    EXPECT_EQ(PD_STATUS_HASH_HANDLE_MISMATCH, get(3, kDev, 2, 3, out, &n));
+    EXPECT_EQ(0u, n);
+    // A failing read: its status, the count 0, the array given back.
+    ASSERT_EQ(BF_SUCCESS, orbisk_model_fail("pipe_mgr_hash_calc_input_field_attribute_get", 1, kArmed));
+    n = 0xEE;
+    EXPECT_EQ(kArmed, get(3, kDev, 0, 3, out, &n));
+    EXPECT_EQ(0u, n);
+    EXPECT_EQ(0u, orbisk_model_live_allocations());
+    // Count 0: a null array, and nothing allocated.
+    const size_t before = orbisk_model_allocation_count();
+    EXPECT_EQ(BF_SUCCESS, set(3, kDev, 0, 0, nullptr));
+    EXPECT_EQ(before, orbisk_model_allocation_count());
+    EXPECT_EQ(0u, last("pipe_mgr_hash_calc_input_field_attribute_set").args[5]);
+    EXPECT_EQ(BF_SUCCESS, count_get(3, kDev, 0, &n));
+    EXPECT_EQ(0u, n);
+  }
+}
+
+}  // namespace
