@@ -249,6 +249,48 @@ pd_status pipe_mgr_hash_calc_calculate_hash_value(pd_sess_hdl, uint32_t, uint32_
   return BF_SUCCESS;
 }
 
+// Parser value sets.
+pd_status pipe_mgr_pvs_set_property(pd_sess_hdl, uint32_t, uint32_t, uint32_t, uint32_t,
+                                    pd_pvs_property_args) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_pvs_get_property(pd_sess_hdl, uint32_t, uint32_t, uint32_t, uint32_t *,
+                                    pd_pvs_property_args) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_pvs_entry_add(pd_sess_hdl, uint32_t, uint32_t, uint32_t, uint32_t, uint32_t,
+                                 uint32_t, uint32_t, pd_entry_hdl *entry_hdl) {
+  *entry_hdl = ++g_next_entry_hdl;
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_pvs_entry_modify(pd_sess_hdl, uint32_t, uint32_t, pd_entry_hdl, uint32_t,
+                                    uint32_t) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_pvs_entry_delete(pd_sess_hdl, uint32_t, uint32_t, pd_entry_hdl) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_pvs_entry_get(pd_sess_hdl, uint32_t, uint32_t, pd_entry_hdl, uint32_t *,
+                                 uint32_t *, uint32_t *, uint32_t *, uint32_t *) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_pvs_entry_handle_get(pd_sess_hdl, uint32_t, uint32_t, uint32_t, uint32_t,
+                                        uint32_t, uint32_t, uint32_t, pd_entry_hdl *) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_pvs_entry_get_first(pd_sess_hdl, uint32_t, uint32_t, uint32_t, uint32_t,
+                                       uint32_t, pd_entry_hdl *) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_pvs_entry_get_next(pd_sess_hdl, uint32_t, uint32_t, uint32_t, uint32_t,
+                                      uint32_t, pd_entry_hdl, uint32_t, pd_entry_hdl *) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_pvs_entry_get_count(pd_sess_hdl, uint32_t, uint32_t, uint32_t, uint32_t,
+                                       uint32_t, uint32_t, uint32_t *) {
+  return BF_SUCCESS;
+}
+
 pd_status p4_pd_ms_init(void) { return BF_SUCCESS; }
 
 pd_ms_state *p4_pd_ms_init_state(void) { return &g_ms_state; }

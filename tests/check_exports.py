@@ -75,6 +75,11 @@ def main(lib, root):
                   "seed_get", "input_field_attribute_set", "input_field_attribute_count_get",
                   "input_field_attribute_get", "calculate_hash_value"):
             add("hash_calc", "%shash_calc_%s_%s" % (P, h["name"], s))
+    for v in services["value_sets"]:
+        for s in ("set_property", "get_property", "entry_add", "entry_modify", "entry_delete",
+                  "entry_get", "entry_handle_get", "entry_get_first_entry_handle",
+                  "entry_get_next_entry_handles", "entry_get_count"):
+            add("pvs", "%spvs_%s_%s" % (P, v["name"], s))
     add("objects", "bf_drv_hdl")
     add("objects", P + "action_name_strings")
 
@@ -87,7 +92,7 @@ def main(lib, root):
              "idle": 153, "set_property": 154, "get_property": 154, "get_mat_table_handle": 154,
              "register_mat_update_cb": 154,
              "frame": 8, "objects": 2,
-             "hash_calc": 120}
+             "hash_calc": 120, "pvs": 70}
     failed = False
     for k, v in known.items():
         if len(fam.get(k, ())) != v:

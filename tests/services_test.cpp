@@ -257,4 +257,96 @@ TEST_F(HashSweep, AttributesGoAsDriverRecordsAndComeBackAsTheCallersWithTheirRul
   }
 }
 
+// ------------------------------------------------------ parser value sets ---
+
+using orbisk::pd::kNumValueSets;
+using orbisk::pd::kValueSets;
+using orbisk::pd::ValueSetDesc;
+
+template <typename F>
+F pvs_fn(const ValueSetDesc &v, const char *op) {
+  return sym<F>(std::string("pvs_") + v.name + "_" + op);
+}
+
+using ValueSets = OnModel;
+
+// Every set, through a whole life: properties with their argument record,
+// entries added in a scope and found, walked, counted, changed, read and
+// deleted, with the key and mask passed through and the parser id one byte.
+TEST_F(ValueSets, EverySetForwardsWithItsHandleAndTheTargetTakenApart) {
+  using SetProp = pd_status (*)(pd_sess_hdl, uint32_t, uint32_t, uint32_t, uint32_t);
+  using GetProp = pd_status (*)(pd_sess_hdl, uint32_t, uint32_t, uint32_t *, uint32_t);
+  using Add = pd_status (*)(pd_sess_hdl, pd_parser_target, uint32_t, uint32_t, pd_entry_hdl *);
+  using Modify = pd_status (*)(pd_sess_hdl, uint32_t, pd_entry_hdl, uint32_t, uint32_t);
+  using Delete = pd_status (*)(pd_sess_hdl, uint32_t, pd_entry_hdl);
+  using Get = pd_status (*)(pd_sess_hdl, uint32_t, pd_entry_hdl, uint32_t *, uint32_t *);
+  using First = pd_status (*)(pd_sess_hdl, pd_parser_target, pd_entry_hdl *);
+  using Next = pd_status (*)(pd_sess_hdl, pd_parser_target, pd_entry_hdl, uint32_t, pd_entry_hdl *);
+  using Count = pd_status (*)(pd_sess_hdl, pd_parser_target, uint8_t, uint32_t *);
+  for (size_t i = 0; i < kNumValueSets; ++i) {
+    const ValueSetDesc &v = kValueSets[i];
+    SCOPED_TRACE(v.name);
+    const uint32_t H = v.handle;
+    EXPECT_EQ(BF_SUCCESS, pvs_fn<SetProp>(v, "set_property")(3, kDev, 2, 0x77, 0x89ABCDEF));
+    EXPECT_EQ(Args({3, kDev, H, 2, 0x77, 0}), last("pipe_mgr_pvs_set_property").args);
+    EXPECT_EQ(Bytes({0xEF, 0xCD, 0xAB, 0x89, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}),
+              handed("pipe_mgr_pvs_set_property", "args"));
+    uint32_t value = 0;
+    EXPECT_EQ(BF_SUCCESS, pvs_fn<GetProp>(v, "get_property")(3, kDev, 2, &value, 5));
+    EXPECT_EQ(0x77u, value);
+    EXPECT_EQ(Bytes({5, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0}),
+              handed("pipe_mgr_pvs_get_property", "args"));
+    ASSERT_EQ(BF_SUCCESS, orbisk_model_fail("pipe_mgr_pvs_get_property", 1, kArmed));
+    EXPECT_EQ(kArmed, pvs_fn<GetProp>(v, "get_property")(3, kDev, 2, &value, 5));
+    EXPECT_EQ(0xFFFFFFFFu, value);
+
+    pd_parser_target tgt{kDev, 1, 2, 0, {}};
+    const int wide_parser = 0x1FF;
+    tgt.parser_id = uint8_t(wide_parser);
+    pd_entry_hdl a = 0, b = 0;
+    ASSERT_EQ(BF_SUCCESS, pvs_fn<Add>(v, "entry_add")(3, tgt, 0x12345678, 0xFFFF0000, &a));
+    EXPECT_EQ(Args({3, kDev, H, 1, 2, 0xFF, 0x12345678, 0xFFFF0000, last("pipe_mgr_pvs_entry_add").args[8]}),
+              last("pipe_mgr_pvs_entry_add").args);
+    ASSERT_EQ(BF_SUCCESS, pvs_fn<Add>(v, "entry_add")(3, tgt, 0x1, 0xF, &b));
+    EXPECT_EQ(ORBISK_MODEL_ENTRY_EXISTS, pvs_fn<Add>(v, "entry_add")(3, tgt, 0x1, 0xF, &b));
+    pd_entry_hdl found = 0;
+    EXPECT_EQ(BF_SUCCESS, pvs_fn<Add>(v, "entry_handle_get")(3, tgt, 0x12345678, 0xFFFF0000, &found));
+    EXPECT_EQ(a, found);
+    EXPECT_EQ(BF_SUCCESS, pvs_fn<First>(v, "entry_get_first_entry_handle")(3, tgt, &found));
+    EXPECT_EQ(a, found);
+    pd_entry_hdl next[3] = {};
+    EXPECT_EQ(BF_SUCCESS, pvs_fn<Next>(v, "entry_get_next_entry_handles")(3, tgt, a, 3, next));
+    EXPECT_EQ(b, next[0]);
+    EXPECT_EQ(ORBISK_MODEL_NO_HANDLE, next[1]);
+    EXPECT_EQ(Args({3, kDev, H, 1, 2, 0xFF, a, 3, addr(next)}),
+              last("pipe_mgr_pvs_entry_get_next").args);
+    uint32_t count = 0;
+    EXPECT_EQ(BF_SUCCESS, pvs_fn<Count>(v, "entry_get_count")(3, tgt, 1, &count));
+    EXPECT_EQ(2u, count);
+    EXPECT_EQ(1u, last("pipe_mgr_pvs_entry_get_count").args[6]);
+    pd_parser_target other = tgt;
+    other.gress = 0;
+    EXPECT_EQ(BF_SUCCESS, pvs_fn<Count>(v, "entry_get_count")(3, other, 0, &count));
+    EXPECT_EQ(0u, count);
+
+    EXPECT_EQ(BF_SUCCESS, pvs_fn<Modify>(v, "entry_modify")(3, kDev, b, 0xA0B0C0D0, 0xFFFFFFFF));
+    EXPECT_EQ(Args({3, kDev, H, b, 0xA0B0C0D0, 0xFFFFFFFF}), last("pipe_mgr_pvs_entry_modify").args);
+    uint32_t key = 0, mask = 0;
+    EXPECT_EQ(BF_SUCCESS, pvs_fn<Get>(v, "entry_get")(3, kDev, b, &key, &mask));
+    EXPECT_EQ(0xA0B0C0D0u, key);
+    EXPECT_EQ(0xFFFFFFFFu, mask);
+    const Args got = last("pipe_mgr_pvs_entry_get").args;
+    EXPECT_EQ(Args({0, 0, 0}), Args(got.begin() + 6, got.end()));
+
+    EXPECT_EQ(BF_SUCCESS, pvs_fn<Delete>(v, "entry_delete")(3, kDev, a));
+    EXPECT_EQ(Args({3, kDev, H, a}), last("pipe_mgr_pvs_entry_delete").args);
+    EXPECT_EQ(ORBISK_MODEL_NO_SUCH_ENTRY, pvs_fn<Delete>(v, "entry_delete")(3, kDev, a));
+    EXPECT_EQ(ORBISK_MODEL_NO_SUCH_ENTRY, pvs_fn<Get>(v, "entry_get")(3, kDev, a, &key, &mask));
+    // A failure of the driver is its own status, untouched.
+    ASSERT_EQ(BF_SUCCESS, orbisk_model_fail("pipe_mgr_pvs_entry_delete", 1, kArmed));
+    EXPECT_EQ(kArmed, pvs_fn<Delete>(v, "entry_delete")(3, kDev, b));
+    EXPECT_EQ(BF_SUCCESS, pvs_fn<Delete>(v, "entry_delete")(3, kDev, b));
+  }
+}
+
 }  // namespace

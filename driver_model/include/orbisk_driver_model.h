@@ -159,6 +159,22 @@
  *   significant first, zeros above its 32 bits. The call log names the
  *   attribute array "attrs" and the stream "stream".
  *
+ * Parser value sets
+ *   Per device and value set of the program: entries by handle (given out
+ *   from 1 upward per device and set, never twice), each with its key, mask
+ *   and the scope it was added in (gress, pipe, parser id), and properties by
+ *   number with their value and argument record. A scope in a lookup, a walk
+ *   or a count matches an entry when gress is equal and pipe and parser are
+ *   equal or "all" (pipe 0xFFFF, parser 0xFF) on either side. Refused, and
+ *   nothing changes: an unknown set (ORBISK_MODEL_NO_SUCH_VALUE_SET), a key
+ *   and mask already in the scope (ORBISK_MODEL_ENTRY_EXISTS), an unknown or
+ *   deleted entry handle and a lookup that finds nothing
+ *   (ORBISK_MODEL_NO_SUCH_ENTRY), a null out place (ORBISK_MODEL_BAD_RECORD).
+ *   A property never set reads as 0. Walks go by ascending handle, as a
+ *   table's do (unused slots ORBISK_MODEL_NO_HANDLE). entry_get fills the
+ *   three place outputs it is given (gress, pipe, parser) when not null. The
+ *   call log names the property argument record "args".
+ *
  * Notifications
  *   Calls into the clients' callbacks are queued while the model holds its
  *   lock and made once it is released, by the same call, in the caller's
@@ -218,6 +234,8 @@ extern "C" {
 /* An input or algorithm handle the calculation does not have (handle 0
  * among them). */
 #define ORBISK_MODEL_NOT_OF_HASH ((pd_status)0x121)
+/* The value set handle is no parser value set of the program. */
+#define ORBISK_MODEL_NO_SUCH_VALUE_SET ((pd_status)0x122)
 
 /* Handle of the default entry of every table. */
 #define ORBISK_MODEL_DEFAULT_ENTRY_HDL ((pd_entry_hdl)0x80000000u)

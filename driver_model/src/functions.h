@@ -47,6 +47,16 @@
   X(pipe_mgr_hash_calc_input_field_attribute_count_get) \
   X(pipe_mgr_hash_calc_input_field_attribute_get)       \
   X(pipe_mgr_hash_calc_calculate_hash_value)   \
+  X(pipe_mgr_pvs_set_property)                 \
+  X(pipe_mgr_pvs_get_property)                 \
+  X(pipe_mgr_pvs_entry_add)                    \
+  X(pipe_mgr_pvs_entry_modify)                 \
+  X(pipe_mgr_pvs_entry_delete)                 \
+  X(pipe_mgr_pvs_entry_get)                    \
+  X(pipe_mgr_pvs_entry_handle_get)             \
+  X(pipe_mgr_pvs_entry_get_first)              \
+  X(pipe_mgr_pvs_entry_get_next)               \
+  X(pipe_mgr_pvs_entry_get_count)              \
   X(p4_pd_ms_init)                             \
   X(p4_pd_ms_init_state)                       \
   X(p4_pd_ms_destroy_state_for_dev)            \

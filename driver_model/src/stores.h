@@ -284,4 +284,22 @@ class HashStore final : public Store {
   std::map<std::pair<uint32_t, uint32_t>, Calc> calcs;
 };
 
+// Parser value sets, per device and set (value_set_store.cpp): the entries
+// by handle, each with the scope it was added in, and the properties.
+class ValueSetStore final : public Store {
+ public:
+  struct Entry {
+    uint32_t gress, pipe, parser;
+    uint32_t key, mask;
+  };
+  struct Set {
+    std::map<pd_entry_hdl, Entry> entries;
+    pd_entry_hdl next = 1;
+    std::map<uint32_t, std::pair<uint32_t, pd_pvs_property_args>> properties;
+  };
+  void clear() override { sets.clear(); }
+  void drop_device(uint32_t device_id) override { erase_device(sets, device_id); }
+  std::map<std::pair<uint32_t, uint32_t>, Set> sets;
+};
+
 }  // namespace orbisk_model

@@ -111,6 +111,25 @@
  *      field first, as one unbroken big-endian bit string right-aligned in
  *      whole bytes; a value wider than its width spills into the field before
  *      it.
+ *  pvs_<v>_set_property(sess, device id, property, value, argument): sets a
+ *      driver property of the set.
+ *  pvs_<v>_get_property(sess, device id, property, out value, argument):
+ *      reads one back; 0xFFFFFFFF in the out place on failure.
+ *  pvs_<v>_entry_add(sess, parser target, key, mask, out entry handle): adds
+ *      a key and mask, as they are.
+ *  pvs_<v>_entry_modify(sess, device id, entry handle, key, mask): gives an
+ *      entry a new key and mask.
+ *  pvs_<v>_entry_delete(sess, device id, entry handle): deletes an entry.
+ *  pvs_<v>_entry_get(sess, device id, entry handle, out key, out mask): reads
+ *      an entry's key and mask.
+ *  pvs_<v>_entry_handle_get(sess, parser target, key, mask, out entry
+ *      handle): finds the entry with this key and mask.
+ *  pvs_<v>_entry_get_first_entry_handle(sess, parser target, out entry
+ *      handle): starts a walk of the set.
+ *  pvs_<v>_entry_get_next_entry_handles(sess, parser target, entry handle, n,
+ *      out handles): goes on with a walk: up to n handles after this one.
+ *  pvs_<v>_entry_get_count(sess, parser target, read from hardware, out
+ *      count): counts the set's entries.
  */
 #ifndef ORBISK_SWITCH_PD_H
 #define ORBISK_SWITCH_PD_H
@@ -17732,6 +17751,337 @@ pd_status p4_pd_orbisk_switch_hash_calc_egressL2AintfUnresolvedFlood_calculate_h
     const uint32_t *widths,
     uint8_t *hash,
     uint32_t hash_len);
+
+/* -------------------------------------------- parser value sets --- */
+
+/* fabric_port: value set 0x000001ff */
+pd_status p4_pd_orbisk_switch_pvs_fabric_port_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t argument);
+pd_status p4_pd_orbisk_switch_pvs_fabric_port_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t argument);
+pd_status p4_pd_orbisk_switch_pvs_fabric_port_entry_add(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    uint32_t key,
+    uint32_t mask,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_fabric_port_entry_modify(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t key,
+    uint32_t mask);
+pd_status p4_pd_orbisk_switch_pvs_fabric_port_entry_delete(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_fabric_port_entry_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *key,
+    uint32_t *mask);
+pd_status p4_pd_orbisk_switch_pvs_fabric_port_entry_handle_get(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    uint32_t key,
+    uint32_t mask,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_fabric_port_entry_get_first_entry_handle(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_fabric_port_entry_get_next_entry_handles(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    pd_entry_hdl entry_hdl,
+    uint32_t count,
+    pd_entry_hdl *next_entry_handles);
+pd_status p4_pd_orbisk_switch_pvs_fabric_port_entry_get_count(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    uint8_t read_from_hw,
+    uint32_t *count);
+
+/* allow_vlan0: value set 0x000001fe */
+pd_status p4_pd_orbisk_switch_pvs_allow_vlan0_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t argument);
+pd_status p4_pd_orbisk_switch_pvs_allow_vlan0_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t argument);
+pd_status p4_pd_orbisk_switch_pvs_allow_vlan0_entry_add(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    uint32_t key,
+    uint32_t mask,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_allow_vlan0_entry_modify(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t key,
+    uint32_t mask);
+pd_status p4_pd_orbisk_switch_pvs_allow_vlan0_entry_delete(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_allow_vlan0_entry_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *key,
+    uint32_t *mask);
+pd_status p4_pd_orbisk_switch_pvs_allow_vlan0_entry_handle_get(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    uint32_t key,
+    uint32_t mask,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_allow_vlan0_entry_get_first_entry_handle(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_allow_vlan0_entry_get_next_entry_handles(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    pd_entry_hdl entry_hdl,
+    uint32_t count,
+    pd_entry_hdl *next_entry_handles);
+pd_status p4_pd_orbisk_switch_pvs_allow_vlan0_entry_get_count(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    uint8_t read_from_hw,
+    uint32_t *count);
+
+/* allow_ntags: value set 0x000001fd */
+pd_status p4_pd_orbisk_switch_pvs_allow_ntags_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t argument);
+pd_status p4_pd_orbisk_switch_pvs_allow_ntags_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t argument);
+pd_status p4_pd_orbisk_switch_pvs_allow_ntags_entry_add(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    uint32_t key,
+    uint32_t mask,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_allow_ntags_entry_modify(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t key,
+    uint32_t mask);
+pd_status p4_pd_orbisk_switch_pvs_allow_ntags_entry_delete(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_allow_ntags_entry_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *key,
+    uint32_t *mask);
+pd_status p4_pd_orbisk_switch_pvs_allow_ntags_entry_handle_get(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    uint32_t key,
+    uint32_t mask,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_allow_ntags_entry_get_first_entry_handle(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_allow_ntags_entry_get_next_entry_handles(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    pd_entry_hdl entry_hdl,
+    uint32_t count,
+    pd_entry_hdl *next_entry_handles);
+pd_status p4_pd_orbisk_switch_pvs_allow_ntags_entry_get_count(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    uint8_t read_from_hw,
+    uint32_t *count);
+
+/* vxlan_ports_32bVni: value set 0x000001fc */
+pd_status p4_pd_orbisk_switch_pvs_vxlan_ports_32bVni_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t argument);
+pd_status p4_pd_orbisk_switch_pvs_vxlan_ports_32bVni_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t argument);
+pd_status p4_pd_orbisk_switch_pvs_vxlan_ports_32bVni_entry_add(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    uint32_t key,
+    uint32_t mask,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_vxlan_ports_32bVni_entry_modify(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t key,
+    uint32_t mask);
+pd_status p4_pd_orbisk_switch_pvs_vxlan_ports_32bVni_entry_delete(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_vxlan_ports_32bVni_entry_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *key,
+    uint32_t *mask);
+pd_status p4_pd_orbisk_switch_pvs_vxlan_ports_32bVni_entry_handle_get(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    uint32_t key,
+    uint32_t mask,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_vxlan_ports_32bVni_entry_get_first_entry_handle(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_vxlan_ports_32bVni_entry_get_next_entry_handles(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    pd_entry_hdl entry_hdl,
+    uint32_t count,
+    pd_entry_hdl *next_entry_handles);
+pd_status p4_pd_orbisk_switch_pvs_vxlan_ports_32bVni_entry_get_count(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    uint8_t read_from_hw,
+    uint32_t *count);
+
+/* vxlan_ports: value set 0x000001fb */
+pd_status p4_pd_orbisk_switch_pvs_vxlan_ports_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t argument);
+pd_status p4_pd_orbisk_switch_pvs_vxlan_ports_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t argument);
+pd_status p4_pd_orbisk_switch_pvs_vxlan_ports_entry_add(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    uint32_t key,
+    uint32_t mask,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_vxlan_ports_entry_modify(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t key,
+    uint32_t mask);
+pd_status p4_pd_orbisk_switch_pvs_vxlan_ports_entry_delete(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_vxlan_ports_entry_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *key,
+    uint32_t *mask);
+pd_status p4_pd_orbisk_switch_pvs_vxlan_ports_entry_handle_get(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    uint32_t key,
+    uint32_t mask,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_vxlan_ports_entry_get_first_entry_handle(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_vxlan_ports_entry_get_next_entry_handles(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    pd_entry_hdl entry_hdl,
+    uint32_t count,
+    pd_entry_hdl *next_entry_handles);
+pd_status p4_pd_orbisk_switch_pvs_vxlan_ports_entry_get_count(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    uint8_t read_from_hw,
+    uint32_t *count);
+
+/* fabric_port_folded_pipe: value set 0x100001f9 */
+pd_status p4_pd_orbisk_switch_pvs_fabric_port_folded_pipe_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t argument);
+pd_status p4_pd_orbisk_switch_pvs_fabric_port_folded_pipe_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t argument);
+pd_status p4_pd_orbisk_switch_pvs_fabric_port_folded_pipe_entry_add(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    uint32_t key,
+    uint32_t mask,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_fabric_port_folded_pipe_entry_modify(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t key,
+    uint32_t mask);
+pd_status p4_pd_orbisk_switch_pvs_fabric_port_folded_pipe_entry_delete(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_fabric_port_folded_pipe_entry_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *key,
+    uint32_t *mask);
+pd_status p4_pd_orbisk_switch_pvs_fabric_port_folded_pipe_entry_handle_get(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    uint32_t key,
+    uint32_t mask,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_fabric_port_folded_pipe_entry_get_first_entry_handle(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_fabric_port_folded_pipe_entry_get_next_entry_handles(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    pd_entry_hdl entry_hdl,
+    uint32_t count,
+    pd_entry_hdl *next_entry_handles);
+pd_status p4_pd_orbisk_switch_pvs_fabric_port_folded_pipe_entry_get_count(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    uint8_t read_from_hw,
+    uint32_t *count);
+
+/* egr_cpu_port: value set 0x000001fa */
+pd_status p4_pd_orbisk_switch_pvs_egr_cpu_port_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t argument);
+pd_status p4_pd_orbisk_switch_pvs_egr_cpu_port_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t argument);
+pd_status p4_pd_orbisk_switch_pvs_egr_cpu_port_entry_add(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    uint32_t key,
+    uint32_t mask,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_egr_cpu_port_entry_modify(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t key,
+    uint32_t mask);
+pd_status p4_pd_orbisk_switch_pvs_egr_cpu_port_entry_delete(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_egr_cpu_port_entry_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *key,
+    uint32_t *mask);
+pd_status p4_pd_orbisk_switch_pvs_egr_cpu_port_entry_handle_get(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    uint32_t key,
+    uint32_t mask,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_egr_cpu_port_entry_get_first_entry_handle(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_egr_cpu_port_entry_get_next_entry_handles(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    pd_entry_hdl entry_hdl,
+    uint32_t count,
+    pd_entry_hdl *next_entry_handles);
+pd_status p4_pd_orbisk_switch_pvs_egr_cpu_port_entry_get_count(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    uint8_t read_from_hw,
+    uint32_t *count);
 
 #ifdef __cplusplus
 }

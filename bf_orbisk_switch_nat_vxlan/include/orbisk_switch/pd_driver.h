@@ -135,6 +135,39 @@ pd_status pipe_mgr_hash_calc_calculate_hash_value(pd_sess_hdl sess, uint32_t dev
                                                   uint32_t stream_len, uint8_t *hash,
                                                   uint32_t hash_len);
 
+/* Parser value sets. The parser target is taken apart: gress, pipe and the
+ * parser id widened from its byte. entry_get's three place outputs are
+ * always null from this library. */
+pd_status pipe_mgr_pvs_set_property(pd_sess_hdl sess, uint32_t device_id, uint32_t pvs_hdl,
+                                    uint32_t property, uint32_t value,
+                                    pd_pvs_property_args args);
+pd_status pipe_mgr_pvs_get_property(pd_sess_hdl sess, uint32_t device_id, uint32_t pvs_hdl,
+                                    uint32_t property, uint32_t *value,
+                                    pd_pvs_property_args args);
+pd_status pipe_mgr_pvs_entry_add(pd_sess_hdl sess, uint32_t device_id, uint32_t pvs_hdl,
+                                 uint32_t gress, uint32_t pipe, uint32_t parser, uint32_t key,
+                                 uint32_t mask, pd_entry_hdl *entry_hdl);
+pd_status pipe_mgr_pvs_entry_modify(pd_sess_hdl sess, uint32_t device_id, uint32_t pvs_hdl,
+                                    pd_entry_hdl entry_hdl, uint32_t key, uint32_t mask);
+pd_status pipe_mgr_pvs_entry_delete(pd_sess_hdl sess, uint32_t device_id, uint32_t pvs_hdl,
+                                    pd_entry_hdl entry_hdl);
+pd_status pipe_mgr_pvs_entry_get(pd_sess_hdl sess, uint32_t device_id, uint32_t pvs_hdl,
+                                 pd_entry_hdl entry_hdl, uint32_t *key, uint32_t *mask,
+                                 uint32_t *gress, uint32_t *pipe, uint32_t *parser);
+pd_status pipe_mgr_pvs_entry_handle_get(pd_sess_hdl sess, uint32_t device_id, uint32_t pvs_hdl,
+                                        uint32_t gress, uint32_t pipe, uint32_t parser,
+                                        uint32_t key, uint32_t mask, pd_entry_hdl *entry_hdl);
+pd_status pipe_mgr_pvs_entry_get_first(pd_sess_hdl sess, uint32_t device_id, uint32_t pvs_hdl,
+                                       uint32_t gress, uint32_t pipe, uint32_t parser,
+                                       pd_entry_hdl *entry_hdl);
+pd_status pipe_mgr_pvs_entry_get_next(pd_sess_hdl sess, uint32_t device_id, uint32_t pvs_hdl,
+                                      uint32_t gress, uint32_t pipe, uint32_t parser,
+                                      pd_entry_hdl entry_hdl, uint32_t count,
+                                      pd_entry_hdl *next_hdls);
+pd_status pipe_mgr_pvs_entry_get_count(pd_sess_hdl sess, uint32_t device_id, uint32_t pvs_hdl,
+                                       uint32_t gress, uint32_t pipe, uint32_t parser,
+                                       uint32_t read_from_hw, uint32_t *count);
+
 /* Member-selection service: one state for each action profile. */
 pd_status p4_pd_ms_init(void);
 pd_ms_state *p4_pd_ms_init_state(void);

@@ -200,6 +200,17 @@ PD_STATIC_ASSERT(offsetof(pd_hash_calc_driver_attribute, field_id) == 12, "field
 PD_STATIC_ASSERT(offsetof(pd_hash_calc_driver_attribute, attr_type) == 16, "attr_type at 16");
 PD_STATIC_ASSERT(offsetof(pd_hash_calc_driver_attribute, value) == 24, "value at 24");
 
+/* The argument record of the value-set property calls, passed by value: the
+ * caller's 32-bit argument widened into the first word; the second word is
+ * 0 from this library. */
+typedef struct pd_pvs_property_args {
+  uint64_t value;
+  uint64_t reserved;
+} pd_pvs_property_args;
+
+PD_STATIC_ASSERT(sizeof(pd_pvs_property_args) == 16, "pd_pvs_property_args is 16 bytes");
+PD_STATIC_ASSERT(offsetof(pd_pvs_property_args, reserved) == 8, "reserved at 8");
+
 #ifdef __cplusplus
 }
 #endif

@@ -105,6 +105,23 @@ PD_STATIC_ASSERT(offsetof(pd_hash_calc_attribute, value) == 8, "value at 8");
  * other than 0 while the calculation uses its own. */
 #define PD_STATUS_HASH_HANDLE_MISMATCH ((pd_status)3)
 
+/* ------------------------------------------------- parser value sets --- */
+
+/* Where a parser value set entry lives, passed by value: device, gress in the
+ * driver's numbering, pipe, and one parser id byte. */
+typedef struct pd_parser_target {
+  uint32_t device_id;
+  uint32_t gress;
+  uint32_t pipe_id;
+  uint8_t parser_id;
+  uint8_t padding[3];
+} pd_parser_target;
+
+PD_STATIC_ASSERT(sizeof(pd_parser_target) == 16, "pd_parser_target is 16 bytes");
+PD_STATIC_ASSERT(offsetof(pd_parser_target, gress) == 4, "gress at 4");
+PD_STATIC_ASSERT(offsetof(pd_parser_target, pipe_id) == 8, "pipe_id at 8");
+PD_STATIC_ASSERT(offsetof(pd_parser_target, parser_id) == 12, "parser_id at 12");
+
 /* Opaque member-selection state of one action profile. */
 typedef struct pd_ms_state pd_ms_state;
 
