@@ -291,6 +291,19 @@ pd_status pipe_mgr_pvs_entry_get_count(pd_sess_hdl, uint32_t, uint32_t, uint32_t
   return BF_SUCCESS;
 }
 
+// Learning digests.
+pd_status pipe_mgr_lrn_digest_notification_register(pd_sess_hdl, uint32_t, uint32_t,
+                                                    pd_lrn_digest_cb, void *) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_lrn_digest_notification_deregister(pd_sess_hdl, uint32_t, uint32_t) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_flow_lrn_notify_ack(pd_sess_hdl, uint32_t, pd_lrn_digest_msg *) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_flow_lrn_set_timeout(pd_sess_hdl, uint32_t, uint32_t) { return BF_SUCCESS; }
+
 pd_status p4_pd_ms_init(void) { return BF_SUCCESS; }
 
 pd_ms_state *p4_pd_ms_init_state(void) { return &g_ms_state; }

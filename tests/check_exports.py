@@ -80,6 +80,11 @@ def main(lib, root):
                   "entry_get", "entry_handle_get", "entry_get_first_entry_handle",
                   "entry_get_next_entry_handles", "entry_get_count"):
             add("pvs", "%spvs_%s_%s" % (P, v["name"], s))
+    for d in services["digests"]:
+        for s in ("register", "deregister", "notify_ack"):
+            add("digest", "%s%s_%s" % (P, d["name"], s))
+    for s in ("set_learning_timeout", "get_digest_entry_size", "get_digest_entry_field"):
+        add("digest", P + s)
     add("objects", "bf_drv_hdl")
     add("objects", P + "action_name_strings")
 
@@ -92,7 +97,7 @@ def main(lib, root):
              "idle": 153, "set_property": 154, "get_property": 154, "get_mat_table_handle": 154,
              "register_mat_update_cb": 154,
              "frame": 8, "objects": 2,
-             "hash_calc": 120, "pvs": 70}
+             "hash_calc": 120, "pvs": 70, "digest": 9}
     failed = False
     for k, v in known.items():
         if len(fam.get(k, ())) != v:

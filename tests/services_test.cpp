@@ -349,4 +349,145 @@ TEST_F(ValueSets, EverySetForwardsWithItsHandleAndTheTargetTakenApart) {
   }
 }
 
+// ------------------------------------------------------- learning digests ---
+
+uint32_t digest_hdl(std::string_view name) {
+  for (size_t i = 0; i < orbisk::pd::kNumDigests; ++i) {
+    if (name == orbisk::pd::kDigests[i].name) return orbisk::pd::kDigests[i].handle;
+  }
+  ADD_FAILURE() << "no digest " << name;
+  return 0;
+}
+
+// A big-endian field of an entry, read where it lies, aligned or not.
+uint64_t field(void *entry, const char *digest, const char *name, uint32_t want_size) {
+  uint32_t size = 0;
+  const auto *p = static_cast<const uint8_t *>(
+      p4_pd_orbisk_switch_get_digest_entry_field(entry, digest, name, &size));
+  EXPECT_EQ(want_size, size) << name;
+  uint64_t v = 0;
+  for (uint32_t i = 0; i < size && i < 8; ++i) v = v << 8 | p[i];
+  return v;
+}
+
+struct Inbox {
+  std::vector<pd_lrn_digest_msg *> msgs;
+  pd_sess_hdl sess = 0;
+};
+
+pd_status on_digest(pd_sess_hdl sess, pd_lrn_digest_msg *msg, void *cookie) {
+  auto *in = static_cast<Inbox *>(cookie);
+  in->sess = sess;
+  in->msgs.push_back(msg);
+  return BF_SUCCESS;
+}
+
+using Digests = OnModel;
+
+TEST_F(Digests, SizesAndFieldPlacesByNameUnalignedAsTheLayoutSays) {
+  const std::pair<const char *, uint32_t> sizes[] = {
+      {"macLearningDigest", 14}, {"vtepLearningDigest", 36}, {"", 0}, {"VtepLearningDigest", 0}};
+  for (const auto &[name, size] : sizes) EXPECT_EQ(size, p4_pd_orbisk_switch_get_digest_entry_size(name)) << name;
+  struct Place {
+    const char *digest, *field;
+    uint32_t offset, size;
+  } places[] = {{"macLearningDigest", "ingMd_ingL2Domain", 8, 2},
+                {"vtepLearningDigest", "ingMd_ingL2Domain", 0, 2},
+                {"macLearningDigest", "ingMd_ingL2Aintf", 10, 4},
+                {"vtepLearningDigest", "innerEthHdr_smacOui", 2, 4},
+                {"vtepLearningDigest", "outerIpv6Hdr_sip", 14, 16},
+                {"vtepLearningDigest", "vxlanHdr_vniReserved", 35, 1}};
+  uint8_t entry[36];
+  for (const Place &p : places) {
+    uint32_t size = 0;
+    EXPECT_EQ(entry + p.offset,
+              p4_pd_orbisk_switch_get_digest_entry_field(entry, p.digest, p.field, &size))
+        << p.field;
+    EXPECT_EQ(p.size, size) << p.field;
+  }
+  // A field name is a constant of the caller's code: a miss ends the process.
+  uint32_t size = 0;
+  EXPECT_DEATH(p4_pd_orbisk_switch_get_digest_entry_field(entry, "vtepLearningDigest",
+                                                          "ingMd_smacOui", &size),
+               "src/pd:[0-9]+: p4_pd_orbisk_switch_get_digest_entry_field: Assertion `0' failed");
+  EXPECT_DEATH(p4_pd_orbisk_switch_get_digest_entry_field(entry, "macDigest", "ingMd_smacOui", &size),
+               "Assertion `0' failed");
+}
+
+// A MAC learned by the model reaches the callback registered through the
+// library, after the learning timeout, packed in the program's layout; it is
+// read field by field and acknowledged once.
+TEST_F(Digests, ALearnedMacIsDeliveredAfterTheTimeoutReadByNameAndAcknowledgedOnce) {
+  const uint32_t mac = digest_hdl("macLearningDigest");
+  Inbox in;
+  const int wide_dev = 256 + kDev;  // one byte of it reaches the driver
+  ASSERT_EQ(BF_SUCCESS, p4_pd_orbisk_switch_macLearningDigest_register(7, uint8_t(wide_dev), on_digest, &in));
+  EXPECT_EQ(Args({7, kDev, mac, addr(reinterpret_cast<const void *>(on_digest)), addr(&in)}),
+            last("pipe_mgr_lrn_digest_notification_register").args);
+  ASSERT_EQ(BF_SUCCESS, p4_pd_orbisk_switch_set_learning_timeout(7, uint8_t(wide_dev), 100));
+  EXPECT_EQ(Args({7, kDev, 100}), last("pipe_mgr_flow_lrn_set_timeout").args);
+
+  const uint64_t learned[4] = {0x001b21, 0x3c4d5e, 0x0123, 0x000ABCDE};
+  ASSERT_EQ(BF_SUCCESS, orbisk_model_learn(kDev, mac, learned, 4));
+  ASSERT_EQ(BF_SUCCESS, orbisk_model_learn(kDev, mac, learned, 4));
+  orbisk_model_advance_time(99);
+  EXPECT_TRUE(in.msgs.empty());
+  EXPECT_EQ(2u, orbisk_model_digests_pending(kDev, mac));
+  orbisk_model_advance_time(1);
+  ASSERT_EQ(1u, in.msgs.size());
+  pd_lrn_digest_msg *msg = in.msgs[0];
+  EXPECT_EQ(7u, in.sess);
+  EXPECT_EQ(2u, msg->num_entries);
+  ASSERT_EQ(p4_pd_orbisk_switch_get_digest_entry_size("macLearningDigest"), msg->entry_bytes);
+  // The layout's bytes, the 4-byte interface at the unaligned offset 10.
+  EXPECT_EQ(Bytes({0x00, 0x00, 0x1b, 0x21, 0x00, 0x3c, 0x4d, 0x5e, 0x01, 0x23, 0x00, 0x0A, 0xBC, 0xDE}),
+            Bytes(msg->entries + 14, msg->entries + 28));
+  EXPECT_EQ(0x3c4d5eu, field(msg->entries, "macLearningDigest", "ingMd_smacStation", 4));
+  EXPECT_EQ(0x0123u, field(msg->entries, "macLearningDigest", "ingMd_ingL2Domain", 2));
+  EXPECT_EQ(0x000ABCDEu, field(msg->entries + 14, "macLearningDigest", "ingMd_ingL2Aintf", 4));
+
+  EXPECT_EQ(1u, orbisk_model_digests_unacked(kDev, mac));
+  // The message goes back under its own digest only, and only once.
+  EXPECT_EQ(ORBISK_MODEL_NOT_DELIVERED, p4_pd_orbisk_switch_vtepLearningDigest_notify_ack(7, msg));
+  ASSERT_EQ(BF_SUCCESS, p4_pd_orbisk_switch_macLearningDigest_notify_ack(7, msg));
+  EXPECT_EQ(Args({7, mac, addr(msg)}), last("pipe_mgr_flow_lrn_notify_ack").args);
+  EXPECT_EQ(0u, orbisk_model_digests_unacked(kDev, mac));
+  EXPECT_EQ(ORBISK_MODEL_NOT_DELIVERED, p4_pd_orbisk_switch_macLearningDigest_notify_ack(7, msg));
+
+  // Values that do not fit, and the wrong count, are refused and kept nowhere.
+  const uint64_t too_wide[4] = {0x1'0000'0000, 0, 0, 0};
+  EXPECT_EQ(ORBISK_MODEL_BAD_RECORD, orbisk_model_learn(kDev, mac, too_wide, 4));
+  EXPECT_EQ(ORBISK_MODEL_BAD_RECORD, orbisk_model_learn(kDev, mac, learned, 3));
+  EXPECT_EQ(0u, orbisk_model_digests_pending(kDev, mac));
+  // A deregistered digest is not delivered: its pending entries go too.
+  ASSERT_EQ(BF_SUCCESS, orbisk_model_learn(kDev, mac, learned, 4));
+  ASSERT_EQ(BF_SUCCESS, p4_pd_orbisk_switch_macLearningDigest_deregister(7, kDev));
+  EXPECT_EQ(Args({7, kDev, mac}), last("pipe_mgr_lrn_digest_notification_deregister").args);
+  orbisk_model_advance_time(1000);
+  EXPECT_EQ(1u, in.msgs.size());
+  EXPECT_EQ(ORBISK_MODEL_NOT_SUBSCRIBED, orbisk_model_learn(kDev, mac, learned, 4));
+  EXPECT_EQ(ORBISK_MODEL_NOT_SUBSCRIBED, p4_pd_orbisk_switch_macLearningDigest_deregister(7, kDev));
+}
+
+TEST_F(Digests, AVtepEntryPacksItsSixteenByteAddressAndOneByteFields) {
+  const uint32_t vtep = digest_hdl("vtepLearningDigest");
+  Inbox in;
+  ASSERT_EQ(BF_SUCCESS, p4_pd_orbisk_switch_vtepLearningDigest_register(1, kDev, on_digest, &in));
+  // Ten values for nine fields: the IPv6 address is two words.
+  const uint64_t learned[10] = {0x0042, 0x001b21, 0x3c4d5e, 0x0a000001, 0x20010db800000000u, 1,
+                                0x86DD, 0x0012, 0x34, 0x00};
+  ASSERT_EQ(BF_SUCCESS, orbisk_model_learn(kDev, vtep, learned, 10));
+  ASSERT_EQ(1u, in.msgs.size());  // no timeout set: at once
+  uint8_t *e = in.msgs[0]->entries;
+  EXPECT_EQ(0x0a000001u, field(e, "vtepLearningDigest", "outerIpv4Hdr_sip", 4));
+  EXPECT_EQ(0x20010db800000000u, field(e, "vtepLearningDigest", "outerIpv6Hdr_sip", 16));
+  EXPECT_EQ(1u, e[29]);
+  EXPECT_EQ(0x86DDu, field(e, "vtepLearningDigest", "outerEthHdr_etherType", 2));
+  EXPECT_EQ(0x34u, field(e, "vtepLearningDigest", "ingMd_ingressVniLow", 1));
+  EXPECT_EQ(BF_SUCCESS, p4_pd_orbisk_switch_vtepLearningDigest_notify_ack(1, in.msgs[0]));
+  // A driver failure is the caller's, untouched.
+  ASSERT_EQ(BF_SUCCESS, orbisk_model_fail("pipe_mgr_flow_lrn_notify_ack", 1, kArmed));
+  EXPECT_EQ(kArmed, p4_pd_orbisk_switch_vtepLearningDigest_notify_ack(1, in.msgs[0]));
+}
+
 }  // namespace

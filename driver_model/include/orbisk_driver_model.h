@@ -175,6 +175,21 @@
  *   three place outputs it is given (gress, pipe, parser) when not null. The
  *   call log names the property argument record "args".
  *
+ * Learning digests
+ *   Per device and digest of the program, one subscription (a later
+ *   registration replaces it); per device a learning timeout (ms of the model
+ *   clock, 0 until set). orbisk_model_learn hands the model one learned
+ *   entry, which it packs in the digest's layout into the pending message of
+ *   that device and digest. With a timeout of 0 the message is delivered at
+ *   once; otherwise when the clock (orbisk_model_advance_time) has moved the
+ *   timeout on since its first entry, or when it holds
+ *   ORBISK_MODEL_DIGEST_MAX_ENTRIES entries. Delivery calls the subscriber's
+ *   callback with its session, the message and its cookie, outside the lock.
+ *   The model owns a delivered message until pipe_mgr_flow_lrn_notify_ack
+ *   hands it back; orbisk_model_digests_unacked counts those still out. A
+ *   deregistration drops the pending entries: they are never delivered.
+ *   A reset or the device's removal takes back its unacknowledged messages.
+ *
  * Notifications
  *   Calls into the clients' callbacks are queued while the model holds its
  *   lock and made once it is released, by the same call, in the caller's
@@ -236,6 +251,14 @@ extern "C" {
 #define ORBISK_MODEL_NOT_OF_HASH ((pd_status)0x121)
 /* The value set handle is no parser value set of the program. */
 #define ORBISK_MODEL_NO_SUCH_VALUE_SET ((pd_status)0x122)
+/* The digest handle is no learning digest of the program. */
+#define ORBISK_MODEL_NO_SUCH_DIGEST ((pd_status)0x123)
+/* No client subscribes to the digest on the device: a deregistration, or
+ * entries learned, with nobody to deliver them to. */
+#define ORBISK_MODEL_NOT_SUBSCRIBED ((pd_status)0x124)
+/* An acknowledgement of a message the model never delivered for that digest,
+ * or one already acknowledged. */
+#define ORBISK_MODEL_NOT_DELIVERED ((pd_status)0x125)
 
 /* Handle of the default entry of every table. */
 #define ORBISK_MODEL_DEFAULT_ENTRY_HDL ((pd_entry_hdl)0x80000000u)
@@ -434,6 +457,25 @@ pd_act_fn_hdl orbisk_model_ms_member_action(pd_ms_state *state, uint32_t device_
  * 0, not its usual 1). 0 for an algorithm the model does not have. */
 uint32_t orbisk_model_hash(uint32_t algorithm_hdl, uint64_t seed, const uint8_t *bytes,
                            size_t len);
+
+/* -------------------------------------------------- learning digests --- */
+
+/* A pending message is delivered once it holds this many entries. */
+#define ORBISK_MODEL_DIGEST_MAX_ENTRIES 64u
+
+/* One learned entry of a digest, as traffic would make it: one value per
+ * field in entry order, written most significant byte first into the
+ * field's bytes; a field of more than 8 bytes takes its value as words of 8
+ * bytes, most significant word first. ORBISK_MODEL_NO_SUCH_DIGEST,
+ * ORBISK_MODEL_NOT_SUBSCRIBED, and ORBISK_MODEL_BAD_RECORD for the wrong
+ * number of values or a value that does not fit its field; nothing is kept
+ * then. */
+pd_status orbisk_model_learn(uint32_t device_id, uint32_t digest_hdl, const uint64_t *values,
+                             uint32_t num_values);
+/* Messages of a digest on a device delivered and not yet acknowledged; entries
+ * learned and not yet delivered. */
+size_t orbisk_model_digests_unacked(uint32_t device_id, uint32_t digest_hdl);
+size_t orbisk_model_digests_pending(uint32_t device_id, uint32_t digest_hdl);
 
 #ifdef __cplusplus
 }

@@ -57,6 +57,10 @@
   X(pipe_mgr_pvs_entry_get_first)              \
   X(pipe_mgr_pvs_entry_get_next)               \
   X(pipe_mgr_pvs_entry_get_count)              \
+  X(pipe_mgr_lrn_digest_notification_register) \
+  X(pipe_mgr_lrn_digest_notification_deregister) \
+  X(pipe_mgr_flow_lrn_notify_ack)              \
+  X(pipe_mgr_flow_lrn_set_timeout)             \
   X(p4_pd_ms_init)                             \
   X(p4_pd_ms_init_state)                       \
   X(p4_pd_ms_destroy_state_for_dev)            \

@@ -229,15 +229,6 @@ class PropertyStore final : public Store {
   std::map<std::pair<uint32_t, pd_tbl_hdl>, UpdateCb> update_cbs;
 };
 
-// Digests waiting to be delivered to the client that registered for them,
-// per device and digest handle.
-class DigestStore final : public Store {
- public:
-  void clear() override;
-  void drop_device(uint32_t device_id) override;
-  std::map<std::pair<uint32_t, uint32_t>, std::vector<std::vector<uint8_t>>> pending;
-};
-
 // Snapshots of a pipe's state, per device and pipe.
 class SnapshotStore final : public Store {
  public:
@@ -300,6 +291,40 @@ class ValueSetStore final : public Store {
   void clear() override { sets.clear(); }
   void drop_device(uint32_t device_id) override { erase_device(sets, device_id); }
   std::map<std::pair<uint32_t, uint32_t>, Set> sets;
+};
+
+// Learning digests (digest_store.cpp): per device and digest the client's
+// subscription and the entries learned but not yet delivered; per device the
+// learning timeout; and every message delivered and not yet acknowledged,
+// which the model owns until then.
+class DigestStore final : public Store {
+ public:
+  struct Subscription {
+    pd_sess_hdl sess;
+    pd_lrn_digest_cb callback;
+    void *cookie;
+  };
+  struct Pending {
+    std::vector<uint8_t> entries;  // packed, back to back
+    uint16_t count = 0;
+    uint64_t since_ms = 0;         // model clock at the first entry
+  };
+  struct Message {
+    pd_lrn_digest_msg msg;
+    std::vector<uint8_t> entries;
+  };
+  using Key = std::pair<uint32_t, uint32_t>;  // device, digest handle
+  void clear() override;
+  void drop_device(uint32_t device_id) override;
+  // Makes a message of the pending entries of key and queues its delivery.
+  void deliver(const Key &key, std::vector<std::function<void()>> &due);
+  // Delivers every pending message whose device's timeout has run out by now_ms.
+  void deliver_due(uint64_t now_ms, std::vector<std::function<void()>> &due);
+  std::map<Key, Subscription> subscriptions;
+  std::map<Key, Pending> pending;
+  std::map<uint32_t, uint32_t> timeouts;  // ms of the model clock, by device
+  std::map<const pd_lrn_digest_msg *, std::unique_ptr<Message>> delivered;
+  uint64_t next_msg_id = 1;
 };
 
 }  // namespace orbisk_model

@@ -87,6 +87,18 @@
  *
  * Services of the program, for <h> a hash calculation, <v> a parser value
  * set and <d> a learning digest:
+ *  <d>_register(sess, device id byte, callback, cookie): the callback the
+ *      driver calls with each message of the digest.
+ *  <d>_deregister(sess, device id byte): ends the subscription.
+ *  <d>_notify_ack(sess, message): hands a delivered message back to the
+ *      driver.
+ *  set_learning_timeout(sess, device id byte, timeout): the device's learning
+ *      timeout, for every digest.
+ *  get_digest_entry_size(digest name): bytes of one entry of the named
+ *      digest; 0 for an unknown name.
+ *  get_digest_entry_field(entry, digest name, field name, out size): the
+ *      named field of an entry and its size in bytes; an unknown digest or
+ *      field name ends the process.
  *  hash_calc_<h>_input_set(sess, device id, input): selects the input field
  *      list: 0 is the calculation's own, any other value sends handle 0.
  *  hash_calc_<h>_input_get(sess, device id, out input): reads it back as 0;
@@ -17245,6 +17257,36 @@ void unbuild_action_spec_setPruneParamsForL2Flood(const pd_action_record *act,
     p4_pd_orbisk_switch_setPruneParamsForL2Flood_action_spec_t *action_spec);
 void unbuild_action_spec_setPruneParamsForL3Only(const pd_action_record *act,
     p4_pd_orbisk_switch_setPruneParamsForL3Only_action_spec_t *action_spec);
+
+/* --------------------------------------------- learning digests --- */
+
+/* macLearningDigest: digest 0x09000000, 14-byte entries: ingMd_smacOui 0+4, ingMd_smacStation 4+4, ingMd_ingL2Domain 8+2, ingMd_ingL2Aintf 10+4 */
+pd_status p4_pd_orbisk_switch_macLearningDigest_register(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_lrn_digest_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_macLearningDigest_deregister(pd_sess_hdl sess_hdl,
+    uint8_t dev_id);
+pd_status p4_pd_orbisk_switch_macLearningDigest_notify_ack(pd_sess_hdl sess_hdl,
+    pd_lrn_digest_msg *msg);
+pd_status p4_pd_orbisk_switch_set_learning_timeout(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    uint32_t timeout);
+uint32_t p4_pd_orbisk_switch_get_digest_entry_size(const char *digest_name);
+void * p4_pd_orbisk_switch_get_digest_entry_field(void *entry,
+    const char *digest_name,
+    const char *field_name,
+    uint32_t *size);
+
+/* vtepLearningDigest: digest 0x09000001, 36-byte entries: ingMd_ingL2Domain 0+2, innerEthHdr_smacOui 2+4, innerEthHdr_smacStation 6+4, outerIpv4Hdr_sip 10+4, outerIpv6Hdr_sip 14+16, outerEthHdr_etherType 30+2, ingMd_ingressVniHigh 32+2, ingMd_ingressVniLow 34+1, vxlanHdr_vniReserved 35+1 */
+pd_status p4_pd_orbisk_switch_vtepLearningDigest_register(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_lrn_digest_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_vtepLearningDigest_deregister(pd_sess_hdl sess_hdl,
+    uint8_t dev_id);
+pd_status p4_pd_orbisk_switch_vtepLearningDigest_notify_ack(pd_sess_hdl sess_hdl,
+    pd_lrn_digest_msg *msg);
 
 /* -------------------------------------------- hash calculations --- */
 

@@ -168,6 +168,16 @@ pd_status pipe_mgr_pvs_entry_get_count(pd_sess_hdl sess, uint32_t device_id, uin
                                        uint32_t gress, uint32_t pipe, uint32_t parser,
                                        uint32_t read_from_hw, uint32_t *count);
 
+/* Learning digests. The callback and cookie are the caller's, unchanged. */
+pd_status pipe_mgr_lrn_digest_notification_register(pd_sess_hdl sess, uint32_t device_id,
+                                                    uint32_t digest_hdl,
+                                                    pd_lrn_digest_cb callback, void *cookie);
+pd_status pipe_mgr_lrn_digest_notification_deregister(pd_sess_hdl sess, uint32_t device_id,
+                                                      uint32_t digest_hdl);
+pd_status pipe_mgr_flow_lrn_notify_ack(pd_sess_hdl sess, uint32_t digest_hdl,
+                                       pd_lrn_digest_msg *msg);
+pd_status pipe_mgr_flow_lrn_set_timeout(pd_sess_hdl sess, uint32_t device_id, uint32_t timeout);
+
 /* Member-selection service: one state for each action profile. */
 pd_status p4_pd_ms_init(void);
 pd_ms_state *p4_pd_ms_init_state(void);

@@ -211,6 +211,32 @@ typedef struct pd_pvs_property_args {
 PD_STATIC_ASSERT(sizeof(pd_pvs_property_args) == 16, "pd_pvs_property_args is 16 bytes");
 PD_STATIC_ASSERT(offsetof(pd_pvs_property_args, reserved) == 8, "reserved at 8");
 
+/* A learning digest message as the driver delivers it to the callback
+ * registered for the digest, and takes it back through notify_ack. Its
+ * entries lie back to back, entry_bytes each, packed in the program's layout
+ * with no padding (get_digest_entry_field finds a field in one); each field
+ * is most significant byte first. The message stays the driver's until it
+ * is acknowledged. */
+typedef struct pd_lrn_digest_msg {
+  pd_dev_target dev_tgt;  /* where the entries were learned */
+  uint32_t digest_hdl;
+  uint16_t num_entries;
+  uint16_t entry_bytes;
+  uint8_t *entries;
+  uint64_t msg_id;        /* the driver's number for the message */
+} pd_lrn_digest_msg;
+
+PD_STATIC_ASSERT(sizeof(pd_lrn_digest_msg) == 32, "pd_lrn_digest_msg is 32 bytes");
+PD_STATIC_ASSERT(offsetof(pd_lrn_digest_msg, digest_hdl) == 8, "digest_hdl at 8");
+PD_STATIC_ASSERT(offsetof(pd_lrn_digest_msg, num_entries) == 12, "num_entries at 12");
+PD_STATIC_ASSERT(offsetof(pd_lrn_digest_msg, entry_bytes) == 14, "entry_bytes at 14");
+PD_STATIC_ASSERT(offsetof(pd_lrn_digest_msg, entries) == 16, "entries at 16");
+PD_STATIC_ASSERT(offsetof(pd_lrn_digest_msg, msg_id) == 24, "msg_id at 24");
+
+/* Called by the driver with each digest message, on a thread of its own,
+ * never inside a driver call of the same thread. */
+typedef pd_status (*pd_lrn_digest_cb)(pd_sess_hdl sess, pd_lrn_digest_msg *msg, void *cookie);
+
 #ifdef __cplusplus
 }
 #endif
