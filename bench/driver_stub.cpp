@@ -304,6 +304,26 @@ pd_status pipe_mgr_flow_lrn_notify_ack(pd_sess_hdl, uint32_t, pd_lrn_digest_msg 
 }
 pd_status pipe_mgr_flow_lrn_set_timeout(pd_sess_hdl, uint32_t, uint32_t) { return BF_SUCCESS; }
 
+// Snapshots.
+pd_status bf_snapshot_create(uint32_t, uint32_t, uint8_t, uint8_t, uint32_t, uint32_t *hdl) {
+  *hdl = 4;
+  return BF_SUCCESS;
+}
+pd_status bf_snapshot_delete(uint32_t) { return BF_SUCCESS; }
+pd_status bf_snapshot_capture_trigger_set(uint32_t, const void *, const void *) {
+  return BF_SUCCESS;
+}
+pd_status bf_snapshot_capture_phv_fields_dict_size(uint32_t, uint32_t *total, uint32_t *record) {
+  *total = 0;
+  *record = 794;
+  return BF_SUCCESS;
+}
+pd_status bf_snapshot_capture_get(uint32_t, uint32_t, uint8_t *, pd_snapshot_capture_ctrl *,
+                                  uint32_t *count) {
+  *count = 0;
+  return BF_SUCCESS;
+}
+
 pd_status p4_pd_ms_init(void) { return BF_SUCCESS; }
 
 pd_ms_state *p4_pd_ms_init_state(void) { return &g_ms_state; }

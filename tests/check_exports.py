@@ -85,6 +85,9 @@ def main(lib, root):
             add("digest", "%s%s_%s" % (P, d["name"], s))
     for s in ("set_learning_timeout", "get_digest_entry_size", "get_digest_entry_field"):
         add("digest", P + s)
+    for s in ("snapshot_create", "snapshot_delete", "snapshot_capture_trigger_set",
+              "snapshot_capture_data_get"):
+        add("snapshot", P + s)
     add("objects", "bf_drv_hdl")
     add("objects", P + "action_name_strings")
 
@@ -97,7 +100,7 @@ def main(lib, root):
              "idle": 153, "set_property": 154, "get_property": 154, "get_mat_table_handle": 154,
              "register_mat_update_cb": 154,
              "frame": 8, "objects": 2,
-             "hash_calc": 120, "pvs": 70, "digest": 9}
+             "hash_calc": 120, "pvs": 70, "digest": 9, "snapshot": 4}
     failed = False
     for k, v in known.items():
         if len(fam.get(k, ())) != v:

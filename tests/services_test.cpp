@@ -5,6 +5,7 @@
 #include <dlfcn.h>
 #include <zlib.h>
 
+#include <algorithm>
 #include <numeric>
 #include <string>
 
@@ -488,6 +489,116 @@ TEST_F(Digests, AVtepEntryPacksItsSixteenByteAddressAndOneByteFields) {
   // A driver failure is the caller's, untouched.
   ASSERT_EQ(BF_SUCCESS, orbisk_model_fail("pipe_mgr_flow_lrn_notify_ack", 1, kArmed));
   EXPECT_EQ(kArmed, p4_pd_orbisk_switch_vtepLearningDigest_notify_ack(1, in.msgs[0]));
+}
+
+// -------------------------------------------------------------- snapshots ---
+
+using Record = p4_pd_orbisk_switch_snapshot_record_t;
+using orbisk::pd::kSnapshotLayouts;
+
+// A record whose every byte differs from its neighbours.
+Record pattern(uint8_t seed) {
+  Record r;
+  for (size_t i = 0; i < sizeof r.bytes; ++i) r.bytes[i] = uint8_t(seed + i * 7);
+  return r;
+}
+
+using Snapshots = OnModel;
+
+// Over the whole record and both layouts: exactly the layout's fields are
+// reversed, in value and mask alike, and every other byte is as given.
+TEST_F(Snapshots, TheTriggerIsSwappedFieldByFieldOverTheWholeRecord) {
+  const Record value = pattern(1), mask = pattern(100);
+  const Record value_before = value, mask_before = mask;
+  for (uint32_t direction : {0u, 1u}) {
+    SCOPED_TRACE(direction);
+    uint32_t hdl = 0;
+    ASSERT_EQ(BF_SUCCESS, p4_pd_orbisk_switch_snapshot_create({kDev, 1}, 2, 5, direction, &hdl));
+    ASSERT_EQ(direction, (hdl >> 1) & 1u);
+    ASSERT_EQ(BF_SUCCESS, p4_pd_orbisk_switch_snapshot_capture_trigger_set(hdl, &value, &mask));
+    EXPECT_EQ(0, std::memcmp(&value, &value_before, sizeof value));
+    EXPECT_EQ(0, std::memcmp(&mask, &mask_before, sizeof mask));
+    for (const auto &[name, given] : {std::pair{"value", value}, std::pair{"mask", mask}}) {
+      const Bytes sent = handed("bf_snapshot_capture_trigger_set", name);
+      ASSERT_EQ(sizeof(Record), sent.size());
+      Bytes want(given.bytes, given.bytes + sizeof given.bytes);
+      const auto &layout = kSnapshotLayouts[direction];
+      for (uint16_t i = 0; i < layout.num_fields; ++i) {
+        std::reverse(want.begin() + layout.fields[i].offset,
+                     want.begin() + layout.fields[i].offset + layout.fields[i].bytes);
+      }
+      EXPECT_EQ(want, sent) << name;
+      // The golden corners: offset 0 is one 2-byte field without bit 1 and
+      // one 4-byte field with it; byte 4 is in neither layout.
+      if (direction == 0) {
+        EXPECT_EQ(Bytes({given.bytes[1], given.bytes[0], given.bytes[3], given.bytes[2]}),
+                  Bytes(sent.begin(), sent.begin() + 4));
+      } else {
+        EXPECT_EQ(Bytes({given.bytes[3], given.bytes[2], given.bytes[1], given.bytes[0]}),
+                  Bytes(sent.begin(), sent.begin() + 4));
+      }
+      EXPECT_EQ(given.bytes[4], sent[4]);
+    }
+    EXPECT_EQ(ORBISK_MODEL_SNAPSHOT_ARMED, orbisk_model_snapshot_state(hdl));
+  }
+}
+
+TEST_F(Snapshots, ALifeFromCreateToDeleteWithTheCaptureCopiedAsTheDriverMadeIt) {
+  uint32_t hdl = 0;
+  // The pipe is bits 32 to 47 of the target word: all pipes reach the driver whole.
+  ASSERT_EQ(BF_SUCCESS, p4_pd_orbisk_switch_snapshot_create({kDev, PD_DEV_PIPE_ALL}, 0, 20, 0, &hdl));
+  EXPECT_EQ(Args({kDev, 0xFFFF, 0, 20, 0, last("bf_snapshot_create").args[5]}), last("bf_snapshot_create").args);
+  Record value = pattern(3), mask;
+  std::memset(mask.bytes, 0xFF, sizeof mask.bytes);
+  mask.bytes[4] = 0x0F;
+  ASSERT_EQ(BF_SUCCESS, p4_pd_orbisk_switch_snapshot_capture_trigger_set(hdl, &value, &mask));
+
+  static Record captures[P4_PD_ORBISK_SWITCH_SNAPSHOT_CAPTURES + 1];
+  std::memset(captures, 0xEE, sizeof captures);
+  pd_snapshot_capture_ctrl ctrl{};
+  uint32_t count = 99;
+  // Nothing captured yet: nothing copied, the capture's status.
+  EXPECT_EQ(BF_SUCCESS, p4_pd_orbisk_switch_snapshot_capture_data_get(hdl, 1, captures, &ctrl, &count));
+  EXPECT_EQ(0u, count);
+  EXPECT_EQ(0xEEu, captures[0].bytes[0]);
+
+  ASSERT_EQ(BF_SUCCESS, orbisk_model_snapshot_trigger(hdl));
+  // 21 stages captured: exactly 20 records reach the caller.
+  EXPECT_EQ(BF_SUCCESS, p4_pd_orbisk_switch_snapshot_capture_data_get(hdl, 1, captures, &ctrl, &count));
+  EXPECT_EQ(21u, count);
+  EXPECT_EQ(21u, ctrl.num_captured);
+  EXPECT_EQ(20u, ctrl.end_stage);
+  const Bytes sent = handed("bf_snapshot_capture_trigger_set", "value");
+  for (size_t i = 0; i < P4_PD_ORBISK_SWITCH_SNAPSHOT_CAPTURES; ++i) {
+    // Not swapped back: the driver's bytes, masked by the model's capture.
+    EXPECT_EQ(Bytes(sent.begin() + 5, sent.end()), Bytes(captures[i].bytes + 5, captures[i].bytes + sizeof(Record))) << i;
+    EXPECT_EQ(uint8_t(sent[4] & 0x0F), captures[i].bytes[4]);
+  }
+  EXPECT_EQ(0xEEu, captures[P4_PD_ORBISK_SWITCH_SNAPSHOT_CAPTURES].bytes[0]);
+  EXPECT_EQ(ORBISK_MODEL_SNAPSHOT_READ, orbisk_model_snapshot_state(hdl));
+  EXPECT_EQ(0u, orbisk_model_live_allocations());
+
+  // The library's own statuses: 2 when it cannot allocate, the count still 0;
+  // and a driver failure of the capture comes after the copy.
+  orbisk_model_fail_allocation(1);
+  count = 99;
+  EXPECT_EQ(PD_STATUS_NO_MEMORY, p4_pd_orbisk_switch_snapshot_capture_data_get(hdl, 1, captures, &ctrl, &count));
+  EXPECT_EQ(0u, count);
+  ASSERT_EQ(BF_SUCCESS, orbisk_model_fail("bf_snapshot_capture_get", 1, kArmed));
+  std::memset(captures, 0xEE, sizeof captures);
+  EXPECT_EQ(kArmed, p4_pd_orbisk_switch_snapshot_capture_data_get(hdl, 1, captures, &ctrl, &count));
+  EXPECT_EQ(0u, captures[0].bytes[0]);  // an empty block, copied all the same
+  EXPECT_EQ(0u, orbisk_model_live_allocations());
+  // A record size the records cannot be placed by: the size call failed and
+  // left it 0.
+  ASSERT_EQ(BF_SUCCESS, orbisk_model_fail("bf_snapshot_capture_phv_fields_dict_size", 1, kArmed));
+  EXPECT_EQ(PD_STATUS_SNAPSHOT_RECORD_SIZE,
+            p4_pd_orbisk_switch_snapshot_capture_data_get(hdl, 1, captures, &ctrl, &count));
+
+  EXPECT_EQ(BF_SUCCESS, p4_pd_orbisk_switch_snapshot_delete(hdl));
+  EXPECT_EQ(ORBISK_MODEL_NO_SUCH_SNAPSHOT, p4_pd_orbisk_switch_snapshot_delete(hdl));
+  EXPECT_EQ(ORBISK_MODEL_NO_SUCH_SNAPSHOT, p4_pd_orbisk_switch_snapshot_capture_trigger_set(hdl, &value, &mask));
+  EXPECT_EQ(ORBISK_MODEL_BAD_RECORD, p4_pd_orbisk_switch_snapshot_create({kDev, 0}, 5, 4, 0, &hdl));
 }
 
 }  // namespace

@@ -190,6 +190,24 @@
  *   deregistration drops the pending entries: they are never delivered.
  *   A reset or the device's removal takes back its unacknowledged messages.
  *
+ * Snapshots
+ *   By handle, from bf_snapshot_create to bf_snapshot_delete: device, pipe,
+ *   stages, direction, state, the trigger records as given and the captures.
+ *   Direction 0 is ingress and 1 egress; bit 1 of the handle is set for an
+ *   egress snapshot (the record layout the library picks by it). States:
+ *   created; armed once a trigger is set; triggered by
+ *   orbisk_model_snapshot_trigger, which captures one record per stage from
+ *   start to end, each the trigger value where its mask is set and 0
+ *   elsewhere (the fields a matching packet is known to hold); read once
+ *   captured records have been got. bf_snapshot_capture_phv_fields_dict_size
+ *   answers the captured size (0 before a trigger) and the record size;
+ *   bf_snapshot_capture_get copies the captures into the buffer and fills the
+ *   control record. Refused, and nothing changes: an unknown or deleted
+ *   handle (ORBISK_MODEL_NO_SUCH_SNAPSHOT), a direction above 1 or a start
+ *   stage after the end stage (ORBISK_MODEL_BAD_RECORD), a trigger of a
+ *   snapshot not armed (ORBISK_MODEL_SNAPSHOT_NOT_ARMED). The call log names
+ *   the trigger records "value" and "mask".
+ *
  * Notifications
  *   Calls into the clients' callbacks are queued while the model holds its
  *   lock and made once it is released, by the same call, in the caller's
@@ -259,6 +277,10 @@ extern "C" {
 /* An acknowledgement of a message the model never delivered for that digest,
  * or one already acknowledged. */
 #define ORBISK_MODEL_NOT_DELIVERED ((pd_status)0x125)
+/* No snapshot has that handle (a deleted one included). */
+#define ORBISK_MODEL_NO_SUCH_SNAPSHOT ((pd_status)0x126)
+/* orbisk_model_snapshot_trigger on a snapshot whose trigger is not set. */
+#define ORBISK_MODEL_SNAPSHOT_NOT_ARMED ((pd_status)0x127)
 
 /* Handle of the default entry of every table. */
 #define ORBISK_MODEL_DEFAULT_ENTRY_HDL ((pd_entry_hdl)0x80000000u)
@@ -417,6 +439,9 @@ void orbisk_model_clear_log(void);
 size_t orbisk_model_live_allocations(void);
 /* Calls of bf_sys_calloc since the last reset. */
 size_t orbisk_model_allocation_count(void);
+/* The nth next bf_sys_calloc (1 = the next) answers null, as memory running
+ * out would; 0 disarms. A reset disarms too. */
+void orbisk_model_fail_allocation(uint32_t nth);
 
 /* -------------------------------------------------------- registration --- */
 
@@ -476,6 +501,19 @@ pd_status orbisk_model_learn(uint32_t device_id, uint32_t digest_hdl, const uint
  * learned and not yet delivered. */
 size_t orbisk_model_digests_unacked(uint32_t device_id, uint32_t digest_hdl);
 size_t orbisk_model_digests_pending(uint32_t device_id, uint32_t digest_hdl);
+
+/* --------------------------------------------------------- snapshots --- */
+
+#define ORBISK_MODEL_SNAPSHOT_NONE 0
+#define ORBISK_MODEL_SNAPSHOT_CREATED 1
+#define ORBISK_MODEL_SNAPSHOT_ARMED 2
+#define ORBISK_MODEL_SNAPSHOT_TRIGGERED 3
+#define ORBISK_MODEL_SNAPSHOT_READ 4
+
+/* A packet matches the trigger of an armed snapshot: its captures are taken. */
+pd_status orbisk_model_snapshot_trigger(uint32_t snapshot_hdl);
+/* ORBISK_MODEL_SNAPSHOT_* of a snapshot; NONE for an unknown handle. */
+int orbisk_model_snapshot_state(uint32_t snapshot_hdl);
 
 #ifdef __cplusplus
 }

@@ -61,6 +61,11 @@
   X(pipe_mgr_lrn_digest_notification_deregister) \
   X(pipe_mgr_flow_lrn_notify_ack)              \
   X(pipe_mgr_flow_lrn_set_timeout)             \
+  X(bf_snapshot_create)                        \
+  X(bf_snapshot_delete)                        \
+  X(bf_snapshot_capture_trigger_set)           \
+  X(bf_snapshot_capture_phv_fields_dict_size)  \
+  X(bf_snapshot_capture_get)                   \
   X(p4_pd_ms_init)                             \
   X(p4_pd_ms_init_state)                       \
   X(p4_pd_ms_destroy_state_for_dev)            \

@@ -17,6 +17,7 @@ void AllocationStore::clear() {
   retired.merge(live);
   live.clear();
   count = 0;
+  fail_in = 0;
 }
 
 }  // namespace orbisk_model
@@ -67,7 +68,15 @@ void orbisk_model_clear_log(void) {
   in_frame([](Model &m) { std::deque<std::string>().swap(m.log_lines.lines); });
 }
 
+void orbisk_model_fail_allocation(uint32_t nth) {
+  in_frame([&](Model &m) { m.allocations.fail_in = nth; });
+}
+
 void *bf_sys_calloc(size_t count, size_t size) {
+  const bool fail = in_frame([](Model &m) {
+    return m.allocations.fail_in != 0 && --m.allocations.fail_in == 0;
+  });
+  if (fail) return nullptr;
   void *p = std::calloc(count, size);
   if (p != nullptr) {
     in_frame([&](Model &m) {

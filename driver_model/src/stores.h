@@ -100,6 +100,7 @@ class AllocationStore final : public Store {
   // a block a client keeps on purpose is not taken for a leak.
   std::unordered_set<void *> retired;
   size_t count = 0;  // bf_sys_calloc calls since the last reset
+  uint32_t fail_in = 0;  // the fail_in-th next bf_sys_calloc answers null; 0 none
 };
 
 // ------------------------------------- member selection (model_ms.cpp) ---
@@ -229,14 +230,6 @@ class PropertyStore final : public Store {
   std::map<std::pair<uint32_t, pd_tbl_hdl>, UpdateCb> update_cbs;
 };
 
-// Snapshots of a pipe's state, per device and pipe.
-class SnapshotStore final : public Store {
- public:
-  void clear() override;
-  void drop_device(uint32_t device_id) override;
-  std::map<std::pair<uint32_t, uint16_t>, std::vector<std::vector<uint8_t>>> snapshots;
-};
-
 // Placement data of match tables: the bytes a client reads out of one
 // device's table and writes into another's, per device and table.
 class PlacementStore final : public Store {
@@ -325,6 +318,25 @@ class DigestStore final : public Store {
   std::map<uint32_t, uint32_t> timeouts;  // ms of the model clock, by device
   std::map<const pd_lrn_digest_msg *, std::unique_ptr<Message>> delivered;
   uint64_t next_msg_id = 1;
+};
+
+// Snapshots (snapshot_store.cpp), by handle: where they were created, the
+// stages they span, their state, the trigger records as given, and what a
+// trigger captured.
+class SnapshotStore final : public Store {
+ public:
+  struct Snapshot {
+    uint32_t device_id, pipe;
+    uint8_t start_stage, end_stage;
+    uint32_t direction;
+    int state;  // ORBISK_MODEL_SNAPSHOT_*
+    std::vector<uint8_t> value, mask;
+    std::vector<uint8_t> captures;  // one record per stage once triggered
+  };
+  void clear() override;
+  void drop_device(uint32_t device_id) override;
+  std::map<uint32_t, Snapshot> snapshots;
+  uint32_t next = 1;
 };
 
 }  // namespace orbisk_model

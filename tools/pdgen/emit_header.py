@@ -148,6 +148,9 @@ def emit(prog):
     for a in prog.actions:
         for f in families.action_functions(a):
             o.append(f.proto() + ";")
+    head = families.service_header_lines(prog)
+    if head:
+        o += [""] + head
     for section, fns in families.service_sections(prog):
         o.append("")
         o.append("/* %s */" % (" " + section + " ---").rjust(66, "-"))

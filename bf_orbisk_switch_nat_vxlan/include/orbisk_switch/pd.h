@@ -123,6 +123,18 @@
  *      field first, as one unbroken big-endian bit string right-aligned in
  *      whole bytes; a value wider than its width spills into the field before
  *      it.
+ *  snapshot_create(target, start stage, end stage, direction, out snapshot
+ *      handle): creates a snapshot of the stages from start to end of a
+ *      device's pipe.
+ *  snapshot_delete(snapshot handle): deletes it.
+ *  snapshot_capture_trigger_set(snapshot handle, trigger value, trigger
+ *      mask): arms it with a trigger value and mask, most significant byte
+ *      first; the caller's records are left alone.
+ *  snapshot_capture_data_get(snapshot handle, pipe, out captures, out control
+ *      record, out count): reads up to P4_PD_ORBISK_SWITCH_SNAPSHOT_CAPTURES
+ *      captured records as the driver made them. Status 2 when the library
+ *      cannot allocate, 0x20 for a driver record size below the record's;
+ *      otherwise the capture's status, after the copy.
  *  pvs_<v>_set_property(sess, device id, property, value, argument): sets a
  *      driver property of the set.
  *  pvs_<v>_get_property(sess, device id, property, out value, argument):
@@ -17258,6 +17270,16 @@ void unbuild_action_spec_setPruneParamsForL2Flood(const pd_action_record *act,
 void unbuild_action_spec_setPruneParamsForL3Only(const pd_action_record *act,
     p4_pd_orbisk_switch_setPruneParamsForL3Only_action_spec_t *action_spec);
 
+/* The snapshot record: the program's header vector fields, packed with no
+ * alignment, as a trigger value or mask and as one captured record. */
+#define P4_PD_ORBISK_SWITCH_SNAPSHOT_RECORD_BYTES 794
+/* The most captured records one read gives: the caller's array holds as many. */
+#define P4_PD_ORBISK_SWITCH_SNAPSHOT_CAPTURES 20
+typedef struct p4_pd_orbisk_switch_snapshot_record {
+  uint8_t bytes[P4_PD_ORBISK_SWITCH_SNAPSHOT_RECORD_BYTES];
+} p4_pd_orbisk_switch_snapshot_record_t;
+PD_STATIC_ASSERT(sizeof(p4_pd_orbisk_switch_snapshot_record_t) == 794, "the snapshot record is 794 bytes");
+
 /* --------------------------------------------- learning digests --- */
 
 /* macLearningDigest: digest 0x09000000, 14-byte entries: ingMd_smacOui 0+4, ingMd_smacStation 4+4, ingMd_ingL2Domain 8+2, ingMd_ingL2Aintf 10+4 */
@@ -17793,6 +17815,22 @@ pd_status p4_pd_orbisk_switch_hash_calc_egressL2AintfUnresolvedFlood_calculate_h
     const uint32_t *widths,
     uint8_t *hash,
     uint32_t hash_len);
+
+/* ---------------------------------------------------- snapshots --- */
+pd_status p4_pd_orbisk_switch_snapshot_create(pd_dev_target dev_tgt,
+    uint8_t start_stage,
+    uint8_t end_stage,
+    uint32_t direction,
+    uint32_t *snapshot_hdl);
+pd_status p4_pd_orbisk_switch_snapshot_delete(uint32_t snapshot_hdl);
+pd_status p4_pd_orbisk_switch_snapshot_capture_trigger_set(uint32_t snapshot_hdl,
+    const p4_pd_orbisk_switch_snapshot_record_t *trig_spec,
+    const p4_pd_orbisk_switch_snapshot_record_t *trig_mask);
+pd_status p4_pd_orbisk_switch_snapshot_capture_data_get(uint32_t snapshot_hdl,
+    uint32_t pipe,
+    p4_pd_orbisk_switch_snapshot_record_t *capture,
+    pd_snapshot_capture_ctrl *capture_ctrl,
+    uint32_t *num_captures);
 
 /* -------------------------------------------- parser value sets --- */
 

@@ -178,6 +178,18 @@ pd_status pipe_mgr_flow_lrn_notify_ack(pd_sess_hdl sess, uint32_t digest_hdl,
                                        pd_lrn_digest_msg *msg);
 pd_status pipe_mgr_flow_lrn_set_timeout(pd_sess_hdl sess, uint32_t device_id, uint32_t timeout);
 
+/* Snapshots. Trigger records are in the driver's byte order; captures are
+ * record_size bytes apart in the buffer. */
+pd_status bf_snapshot_create(uint32_t device_id, uint32_t pipe, uint8_t start_stage,
+                             uint8_t end_stage, uint32_t direction, uint32_t *snapshot_hdl);
+pd_status bf_snapshot_delete(uint32_t snapshot_hdl);
+pd_status bf_snapshot_capture_trigger_set(uint32_t snapshot_hdl, const void *value,
+                                          const void *mask);
+pd_status bf_snapshot_capture_phv_fields_dict_size(uint32_t snapshot_hdl, uint32_t *total_size,
+                                                   uint32_t *record_size);
+pd_status bf_snapshot_capture_get(uint32_t snapshot_hdl, uint32_t pipe, uint8_t *buffer,
+                                  pd_snapshot_capture_ctrl *ctrl, uint32_t *count);
+
 /* Member-selection service: one state for each action profile. */
 pd_status p4_pd_ms_init(void);
 pd_ms_state *p4_pd_ms_init_state(void);

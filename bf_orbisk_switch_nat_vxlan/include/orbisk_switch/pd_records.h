@@ -237,6 +237,20 @@ PD_STATIC_ASSERT(offsetof(pd_lrn_digest_msg, msg_id) == 24, "msg_id at 24");
  * never inside a driver call of the same thread. */
 typedef pd_status (*pd_lrn_digest_cb)(pd_sess_hdl sess, pd_lrn_digest_msg *msg, void *cookie);
 
+/* The driver's account of a snapshot capture, written by bf_snapshot_capture_get
+ * straight into the caller's place. */
+typedef struct pd_snapshot_capture_ctrl {
+  uint32_t state;        /* the driver's state of the snapshot */
+  uint32_t start_stage;
+  uint32_t end_stage;
+  uint32_t num_captured; /* records in the capture */
+} pd_snapshot_capture_ctrl;
+
+PD_STATIC_ASSERT(sizeof(pd_snapshot_capture_ctrl) == 16, "pd_snapshot_capture_ctrl is 16 bytes");
+PD_STATIC_ASSERT(offsetof(pd_snapshot_capture_ctrl, start_stage) == 4, "start_stage at 4");
+PD_STATIC_ASSERT(offsetof(pd_snapshot_capture_ctrl, end_stage) == 8, "end_stage at 8");
+PD_STATIC_ASSERT(offsetof(pd_snapshot_capture_ctrl, num_captured) == 12, "num_captured at 12");
+
 #ifdef __cplusplus
 }
 #endif

@@ -122,6 +122,14 @@ PD_STATIC_ASSERT(offsetof(pd_parser_target, gress) == 4, "gress at 4");
 PD_STATIC_ASSERT(offsetof(pd_parser_target, pipe_id) == 8, "pipe_id at 8");
 PD_STATIC_ASSERT(offsetof(pd_parser_target, parser_id) == 12, "parser_id at 12");
 
+/* ---------------------------------------------------------- snapshots --- */
+
+/* The library could not allocate what a call needs (a snapshot capture read). */
+#define PD_STATUS_NO_MEMORY ((pd_status)2)
+/* A snapshot capture read whose driver gives a record size below the
+ * program's snapshot record (0 included): its records cannot be placed. */
+#define PD_STATUS_SNAPSHOT_RECORD_SIZE ((pd_status)0x20)
+
 /* Opaque member-selection state of one action profile. */
 typedef struct pd_ms_state pd_ms_state;
 

@@ -47,6 +47,12 @@ def service_families():
     return [f for f in FAMILIES if f.each == "service"]
 
 
+def service_header_lines(prog):
+    """Declarations the service groups put in the header before their
+    functions (records sized by the catalogue)."""
+    return [line for g in GROUPS if hasattr(g, "header_lines") for line in g.header_lines(prog)]
+
+
 def service_sections(prog):
     """(section title, [Fn]) of the services, item by item within a section,
     in the order the header declares them."""
