@@ -17,10 +17,11 @@
  *     enable state and the timeout callback; per entry its TTL and hit state.
  *   Properties: per device and table, each property's two values, and the
  *     table's update callback.
+ *   Hash calculations, parser value sets, learning digests and snapshots:
+ *     see their sections below.
  *   Homes, empty for now, for what later driver services keep: action data
  *     and selector tables per profile and device; counters, meters and
- *     registers by device, resource handle and pipe; digests; snapshots by
- *     device and pipe; placement data.
+ *     registers by device, resource handle and pipe; placement data.
  *   What the model knows of the program (tables, key fields and widths,
  *   actions, parameters, resources) comes from the descriptors generated from
  *   the catalogue, the same ones the library is built from.
