@@ -1,5 +1,6 @@
 #include "hash_calc.h"
 
+#include "bytes.h"
 #include "orbisk_switch/pd_driver.h"
 
 namespace orbisk::pd {
@@ -10,40 +11,72 @@ namespace {
 // other value is sent as handle 0 for the driver to judge.
 uint32_t handle_of(uint32_t value, uint32_t own) { return value == 0 ? own : 0; }
 
-// Writes a field's source bytes (n of them, most significant first) into the
-// stream from its least significant bit upward, starting bit_pos bits above
-// the stream's lowest bit, and moves bit_pos past the field's width.
-void prepend_to_bytestream(uint8_t *stream, std::size_t len, std::size_t &bit_pos,
-                           const uint8_t *src, uint32_t width) {
-  const std::size_t n = (std::size_t(width) + 7) / 8;
-  const unsigned shift = bit_pos % 8;
-  std::size_t at = len - 1 - bit_pos / 8;  // the stream byte of the field's lowest bit
-  for (std::size_t k = 0; k < n && at < len; ++k, --at) {
-    const uint8_t b = src[n - 1 - k];
-    stream[at] = uint8_t(stream[at] | b << shift);
-    if (shift != 0 && at != 0) stream[at - 1] = uint8_t(stream[at - 1] | b >> (8 - shift));
+// The stream is written from its last byte back, as bits arrive from the
+// last field's lowest upward: `acc` holds the bits not yet written, its low
+// `bits` of them placed, and above them whatever a field's whole source bytes
+// carried past its width, which the fields before it are ORed onto.
+struct StreamWriter {
+  uint8_t *stream;
+  std::size_t left;  // bytes of the stream not yet written, from its start
+  uint64_t acc = 0;
+  unsigned bits = 0;
+
+  // Whole words out while 32 placed bits wait: a field of up to 32 bits
+  // with its spill and the bits before it stays within the 64.
+  void flush() {
+    while (bits >= 32 && left >= 4) {
+      left -= 4;
+      put_be<4>(stream + left, uint32_t(acc));
+      acc >>= 32;
+      bits -= 32;
+    }
   }
-  bit_pos += width;
+  // A field's source bytes (n of them, most significant first), its lowest
+  // bit next; `width` bits of the stream are the field's.
+  void prepend_to_bytestream(const uint8_t *src, uint32_t width) {
+    const std::size_t n = (std::size_t(width) + 7) / 8;
+    for (std::size_t k = n; k-- > 0;) {
+      const unsigned take = width >= 8 ? 8 : unsigned(width);
+      acc |= uint64_t(src[k]) << bits;
+      bits += take;
+      width -= take;
+      flush();
+    }
+  }
+  // A field of up to 32 bits: its value's low whole bytes at once.
+  void prepend_value(uint32_t value, uint32_t width) {
+    const unsigned n = (width + 7) / 8;
+    const uint64_t src = n == 4 ? value : value & ((uint32_t(1) << (8 * n)) - 1);
+    acc |= src << bits;
+    bits += width;
+    flush();
+  }
+  // What is left, at most 8 bytes: the first bytes' bits and the spare ones
+  // above them.
+  void finish() {
+    while (left != 0) {
+      stream[--left] = uint8_t(acc);
+      acc >>= 8;
+    }
+  }
+};
+
+// The stream of count fields, right-aligned in stream_len zeroed bytes.
+void build_hash_stream(uint32_t count, const pd_hash_calc_attribute *attrs,
+                       const uint32_t *widths, uint8_t *stream, std::size_t stream_len) {
+  StreamWriter w{stream, stream_len};
+  for (uint32_t i = count; i-- > 0;) {
+    if (widths[i] <= 32) {
+      w.prepend_value(uint32_t(attrs[i].value), widths[i]);
+    } else {
+      w.prepend_to_bytestream(reinterpret_cast<const uint8_t *>(uintptr_t(attrs[i].value)),
+                              widths[i]);
+    }
+  }
+  w.finish();
 }
 
 }  // namespace
-
-void build_hash_stream(uint32_t count, const pd_hash_calc_attribute *attrs,
-                       const uint32_t *widths, uint8_t *stream, std::size_t stream_len) {
-  std::size_t bit_pos = 0;
-  for (uint32_t i = count; i-- > 0;) {
-    const uint32_t w = widths[i];
-    if (w == 0) continue;
-    if (w <= 32) {
-      const uint32_t v = uint32_t(attrs[i].value);
-      const uint8_t be[4] = {uint8_t(v >> 24), uint8_t(v >> 16), uint8_t(v >> 8), uint8_t(v)};
-      prepend_to_bytestream(stream, stream_len, bit_pos, be + 4 - (w + 7) / 8, w);
-    } else {
-      const auto *src = reinterpret_cast<const uint8_t *>(uintptr_t(attrs[i].value));
-      prepend_to_bytestream(stream, stream_len, bit_pos, src, w);
-    }
-  }
-}
 
 pd_status hash_input_set(uint32_t hash, uint32_t input_hdl, pd_sess_hdl sess, uint32_t dev_id,
                          uint32_t input) {

@@ -28,17 +28,15 @@ pd_status hash_attribute_count_get(uint32_t hash, uint32_t input_hdl, pd_sess_hd
 pd_status hash_attribute_get(uint32_t hash, uint32_t input_hdl, pd_sess_hdl sess,
                              uint32_t dev_id, uint32_t input, uint32_t capacity,
                              pd_hash_calc_attribute *attrs, uint32_t *count);
+
+// Hashes the stream of count fields: their values as one unbroken
+// big-endian bit string, first field first, right-aligned in whole bytes. A
+// field of up to 32 bits takes its value from attrs[i].value, a wider one
+// through the pointer there, most significant byte first; every bit of the
+// field's whole source bytes is placed, so a value wider than its width
+// spills into the field before it, and bits above the stream are lost.
 pd_status hash_calculate(uint32_t hash, pd_sess_hdl sess, uint32_t dev_id, uint32_t count,
                          const pd_hash_calc_attribute *attrs, const uint32_t *widths,
                          uint8_t *out, uint32_t out_len);
-
-// The stream of count fields: their values as one unbroken big-endian bit
-// string, first field first, right-aligned in stream_len bytes (zeroed by
-// the caller). A field of up to 32 bits takes its value from attrs[i].value,
-// a wider one through the pointer there, most significant byte first; every
-// bit of the field's whole source bytes is placed, so a value wider than its
-// width spills into the field before it, and bits above the stream are lost.
-void build_hash_stream(uint32_t count, const pd_hash_calc_attribute *attrs,
-                       const uint32_t *widths, uint8_t *stream, std::size_t stream_len);
 
 }  // namespace orbisk::pd
