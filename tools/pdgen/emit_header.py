@@ -156,9 +156,12 @@ def emit(prog):
         o.append("/* %s */" % (" " + section + " ---").rjust(66, "-"))
         item = None
         for f in fns:
-            if f.item is not None and f.item is not item:
+            if f.item is not item:
                 item = f.item
-                o += ["", "/* %s */" % item.describe()]
+                o.append("")
+                if item is not None:
+                    o += textwrap.wrap("/* %s */" % item.describe(), 78, subsequent_indent=" * ",
+                                       break_on_hyphens=False)
             o.append(f.proto() + ";")
     o += ["", "#ifdef __cplusplus", "}", "#endif", "", "#endif", ""]
     return "\n".join(o)

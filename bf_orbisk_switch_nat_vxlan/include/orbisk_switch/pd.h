@@ -1449,7 +1449,7 @@ pd_status p4_pd_orbisk_switch_dev_restore(uint32_t device_id,
 /* Nothing to release: kept for agents that call it. */
 void p4_pd_orbisk_switch_device_state_cleanup(void);
 /* Full name of an action; NULL past the last. */
-const char * p4_pd_orbisk_switch_action_enum_to_string(uint32_t action);
+const char *p4_pd_orbisk_switch_action_enum_to_string(uint32_t action);
 /* Action of a full name; P4_PD_ORBISK_SWITCH_ACTION_COUNT for none. */
 p4_pd_orbisk_switch_action_names_t p4_pd_orbisk_switch_action_string_to_enum(const char *name);
 
@@ -17282,7 +17282,8 @@ PD_STATIC_ASSERT(sizeof(p4_pd_orbisk_switch_snapshot_record_t) == 794, "the snap
 
 /* --------------------------------------------- learning digests --- */
 
-/* macLearningDigest: digest 0x09000000, 14-byte entries: ingMd_smacOui 0+4, ingMd_smacStation 4+4, ingMd_ingL2Domain 8+2, ingMd_ingL2Aintf 10+4 */
+/* macLearningDigest: digest 0x09000000, 14-byte entries: ingMd_smacOui 0+4,
+ * ingMd_smacStation 4+4, ingMd_ingL2Domain 8+2, ingMd_ingL2Aintf 10+4 */
 pd_status p4_pd_orbisk_switch_macLearningDigest_register(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_lrn_digest_cb callback,
@@ -17291,16 +17292,12 @@ pd_status p4_pd_orbisk_switch_macLearningDigest_deregister(pd_sess_hdl sess_hdl,
     uint8_t dev_id);
 pd_status p4_pd_orbisk_switch_macLearningDigest_notify_ack(pd_sess_hdl sess_hdl,
     pd_lrn_digest_msg *msg);
-pd_status p4_pd_orbisk_switch_set_learning_timeout(pd_sess_hdl sess_hdl,
-    uint8_t dev_id,
-    uint32_t timeout);
-uint32_t p4_pd_orbisk_switch_get_digest_entry_size(const char *digest_name);
-void * p4_pd_orbisk_switch_get_digest_entry_field(void *entry,
-    const char *digest_name,
-    const char *field_name,
-    uint32_t *size);
 
-/* vtepLearningDigest: digest 0x09000001, 36-byte entries: ingMd_ingL2Domain 0+2, innerEthHdr_smacOui 2+4, innerEthHdr_smacStation 6+4, outerIpv4Hdr_sip 10+4, outerIpv6Hdr_sip 14+16, outerEthHdr_etherType 30+2, ingMd_ingressVniHigh 32+2, ingMd_ingressVniLow 34+1, vxlanHdr_vniReserved 35+1 */
+/* vtepLearningDigest: digest 0x09000001, 36-byte entries: ingMd_ingL2Domain
+ * 0+2, innerEthHdr_smacOui 2+4, innerEthHdr_smacStation 6+4, outerIpv4Hdr_sip
+ * 10+4, outerIpv6Hdr_sip 14+16, outerEthHdr_etherType 30+2,
+ * ingMd_ingressVniHigh 32+2, ingMd_ingressVniLow 34+1, vxlanHdr_vniReserved
+ * 35+1 */
 pd_status p4_pd_orbisk_switch_vtepLearningDigest_register(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_lrn_digest_cb callback,
@@ -17309,6 +17306,15 @@ pd_status p4_pd_orbisk_switch_vtepLearningDigest_deregister(pd_sess_hdl sess_hdl
     uint8_t dev_id);
 pd_status p4_pd_orbisk_switch_vtepLearningDigest_notify_ack(pd_sess_hdl sess_hdl,
     pd_lrn_digest_msg *msg);
+
+pd_status p4_pd_orbisk_switch_set_learning_timeout(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    uint32_t timeout);
+uint32_t p4_pd_orbisk_switch_get_digest_entry_size(const char *digest_name);
+void *p4_pd_orbisk_switch_get_digest_entry_field(void *entry,
+    const char *digest_name,
+    const char *field_name,
+    uint32_t *size);
 
 /* -------------------------------------------- hash calculations --- */
 
@@ -17396,7 +17402,8 @@ pd_status p4_pd_orbisk_switch_hash_calc_hashInnerEthHdr_calculate_hash_value(pd_
     uint8_t *hash,
     uint32_t hash_len);
 
-/* hashInnerIpAndL4Hdr: hash 0x08000002, input 0x21000002, algorithm 0x23000001 */
+/* hashInnerIpAndL4Hdr: hash 0x08000002, input 0x21000002, algorithm
+ * 0x23000001 */
 pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpAndL4Hdr_input_set(pd_sess_hdl sess_hdl,
     uint32_t dev_id,
     uint32_t input);
@@ -17438,7 +17445,8 @@ pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpAndL4Hdr_calculate_hash_value
     uint8_t *hash,
     uint32_t hash_len);
 
-/* hashInnerIpv4Hdr: hash 0x08000003, input 0x21000003, algorithm 0x23000001 */
+/* hashInnerIpv4Hdr: hash 0x08000003, input 0x21000003, algorithm 0x23000001
+ * */
 pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpv4Hdr_input_set(pd_sess_hdl sess_hdl,
     uint32_t dev_id,
     uint32_t input);
@@ -17480,7 +17488,8 @@ pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpv4Hdr_calculate_hash_value(pd
     uint8_t *hash,
     uint32_t hash_len);
 
-/* hashInnerIpv6Hdr: hash 0x08000004, input 0x21000004, algorithm 0x23000001 */
+/* hashInnerIpv6Hdr: hash 0x08000004, input 0x21000004, algorithm 0x23000001
+ * */
 pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpv6Hdr_input_set(pd_sess_hdl sess_hdl,
     uint32_t dev_id,
     uint32_t input);
@@ -17564,7 +17573,8 @@ pd_status p4_pd_orbisk_switch_hash_calc_hashOuterEthHdr_calculate_hash_value(pd_
     uint8_t *hash,
     uint32_t hash_len);
 
-/* hashOuterIpAndL4Hdr: hash 0x08000006, input 0x21000006, algorithm 0x23000001 */
+/* hashOuterIpAndL4Hdr: hash 0x08000006, input 0x21000006, algorithm
+ * 0x23000001 */
 pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpAndL4Hdr_input_set(pd_sess_hdl sess_hdl,
     uint32_t dev_id,
     uint32_t input);
@@ -17606,7 +17616,8 @@ pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpAndL4Hdr_calculate_hash_value
     uint8_t *hash,
     uint32_t hash_len);
 
-/* hashOuterIpv4Hdr: hash 0x08000007, input 0x21000007, algorithm 0x23000001 */
+/* hashOuterIpv4Hdr: hash 0x08000007, input 0x21000007, algorithm 0x23000001
+ * */
 pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpv4Hdr_input_set(pd_sess_hdl sess_hdl,
     uint32_t dev_id,
     uint32_t input);
@@ -17648,7 +17659,8 @@ pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpv4Hdr_calculate_hash_value(pd
     uint8_t *hash,
     uint32_t hash_len);
 
-/* hashOuterIpv6Hdr: hash 0x08000008, input 0x21000008, algorithm 0x23000001 */
+/* hashOuterIpv6Hdr: hash 0x08000008, input 0x21000008, algorithm 0x23000001
+ * */
 pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpv6Hdr_input_set(pd_sess_hdl sess_hdl,
     uint32_t dev_id,
     uint32_t input);
@@ -17732,7 +17744,8 @@ pd_status p4_pd_orbisk_switch_hash_calc_ingVlanStpHash_calculate_hash_value(pd_s
     uint8_t *hash,
     uint32_t hash_len);
 
-/* queueCounterHash: hash 0x0800000a, input 0x2100000a, algorithm 0x23000000 */
+/* queueCounterHash: hash 0x0800000a, input 0x2100000a, algorithm 0x23000000
+ * */
 pd_status p4_pd_orbisk_switch_hash_calc_queueCounterHash_input_set(pd_sess_hdl sess_hdl,
     uint32_t dev_id,
     uint32_t input);
@@ -17774,7 +17787,8 @@ pd_status p4_pd_orbisk_switch_hash_calc_queueCounterHash_calculate_hash_value(pd
     uint8_t *hash,
     uint32_t hash_len);
 
-/* egressL2AintfUnresolvedFlood: hash 0x0800000b, input 0x2100000b, algorithm 0x23000000 */
+/* egressL2AintfUnresolvedFlood: hash 0x0800000b, input 0x2100000b, algorithm
+ * 0x23000000 */
 pd_status p4_pd_orbisk_switch_hash_calc_egressL2AintfUnresolvedFlood_input_set(pd_sess_hdl sess_hdl,
     uint32_t dev_id,
     uint32_t input);

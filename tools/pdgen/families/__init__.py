@@ -60,9 +60,12 @@ def service_sections(prog):
     for g in GROUPS:
         fams = [f for f in g.FAMILIES if f.each == "service"]
         for section in dict.fromkeys(f.section for f in fams):
-            per = [f.service_functions(prog) for f in fams if f.section == section]
-            # Item by item: every function of the first item, then the next.
-            fns = [fn for i in range(max(len(p) for p in per)) for p in per if i < len(p) for fn in [p[i]]]
+            per = [f.service_functions(prog) for f in fams if f.section == section and f.items]
+            # Item by item: every function of the first item, then the next;
+            # then the section's functions that are one in all.
+            fns = [p[i] for i in range(max((len(p) for p in per), default=0)) for p in per]
+            fns += [fn for f in fams if f.section == section and not f.items
+                    for fn in f.service_functions(prog)]
             out.append((section, fns))
     return out
 

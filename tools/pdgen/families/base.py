@@ -80,10 +80,11 @@ class Fn:
         return any(n == name for _, n in self.args)
 
     def proto(self, indent="    "):
+        result = self.result + ("" if self.result.endswith("*") else " ")
         if not self.args:
-            return "%s %s(void)" % (self.result, self.name)
+            return "%s%s(void)" % (result, self.name)
         parts = ["%s%s%s" % (t, "" if t.endswith("*") else " ", n) for t, n in self.args]
-        return "%s %s(%s)" % (self.result, self.name, (",\n" + indent).join(
+        return "%s%s(%s)" % (result, self.name, (",\n" + indent).join(
             [parts[0]] + parts[1:]) if len(parts) > 1 else parts[0])
 
     def body(self):
