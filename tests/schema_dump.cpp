@@ -1,12 +1,8 @@
-// Calls the library's schema functions by name for tests/check_schema.py,
-// which derives the names from the catalogue and judges the answers. One
-// request a line on stdin, one answer a line on stdout:
-//   ptr <symbol>   const char *(void)  -> the text
-//   int <symbol>   int (void)          -> the number
-//   buf <symbol>   int (char *)        -> "<result> <text>"
-//   cli <handle>   cli_schema          -> "<result> <text>"
-// A symbol the library does not define answers "missing". A text function
-// that writes other than its text and one NUL answers "overrun" instead.
+// Calls schema functions by name for check_schema.py, one request a line on
+// stdin, one answer a line on stdout: "ptr <symbol>" (const char *(void)) the
+// text, "int <symbol>" (int (void)) the number, "buf <symbol>" (int (char *))
+// and "cli <handle>" (cli_schema) "<result> <text>", or "overrun" when more
+// than the text and its NUL was written; "missing" for an undefined symbol.
 #include <dlfcn.h>
 
 #include <cstdio>
@@ -17,38 +13,23 @@
 
 #include "orbisk_switch/pd.h"
 
-namespace {
-
-// Room well past the longest text, so a write beyond its NUL shows.
-constexpr std::size_t kRoom = P4_PD_ORBISK_SWITCH_SCHEMA_MAX + 1024;
-constexpr char kFill = '\x5a';
-
 template <typename F>
 void text_answer(F write) {
-  static char buf[kRoom];
-  std::memset(buf, kFill, sizeof buf);
+  static char buf[P4_PD_ORBISK_SWITCH_SCHEMA_MAX + 1024];  // room to see an overrun
+  std::memset(buf, 'Z', sizeof buf - 1);
+  buf[sizeof buf - 1] = '\0';
   const int n = write(buf);
-  const bool exact = n >= 0 && std::size_t(n) < kRoom && std::strlen(buf) == std::size_t(n) &&
-                     buf[n + 1] == kFill;
-  if (exact) {
-    std::printf("%d %s\n", n, buf);
-  } else {
-    std::printf("overrun\n");
-  }
+  const bool exact = n >= 0 && std::strlen(buf) == std::size_t(n) && buf[n + 1] == 'Z';
+  exact ? std::printf("%d %s\n", n, buf) : std::printf("overrun\n");
 }
-
-}  // namespace
 
 int main() {
   std::string kind, arg;
   while (std::cin >> kind >> arg) {
     if (kind == "cli") {
-      const auto handle = pd_tbl_hdl(std::strtoul(arg.c_str(), nullptr, 0));
-      text_answer([&](char *out) { return p4_pd_orbisk_switch_cli_schema(handle, out); });
-      continue;
-    }
-    void *fn = dlsym(RTLD_DEFAULT, arg.c_str());
-    if (fn == nullptr) {
+      const auto hdl = pd_tbl_hdl(std::strtoul(arg.c_str(), nullptr, 0));
+      text_answer([&](char *out) { return p4_pd_orbisk_switch_cli_schema(hdl, out); });
+    } else if (void *fn = dlsym(RTLD_DEFAULT, arg.c_str()); fn == nullptr) {
       std::printf("missing\n");
     } else if (kind == "ptr") {
       std::printf("%s\n", reinterpret_cast<const char *(*)()>(fn)());
