@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "export.h"
+#include "orbisk_switch/pd.h"
 
 namespace orbisk::pd {
 
