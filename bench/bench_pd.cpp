@@ -255,6 +255,33 @@ pd_status case_l2Lookup_get_entry(uint32_t i) {
   return s;
 }
 
+// Schema text: the longest table text, written into a buffer just big
+// enough; the same table through the dispatch by handle; and an action tuple,
+// which is a constant handed out as it stands.
+char g_schema[3020];
+static_assert(sizeof g_schema == P4_PD_ORBISK_SWITCH_SCHEMA_MAX);
+
+pd_status case_finalDropControl_schema(uint32_t) {
+  int n = p4_pd_orbisk_switch_finalDropControl_schema(g_schema);
+  benchmark::DoNotOptimize(g_schema);
+  return n == 3019 ? BF_SUCCESS : 1;
+}
+
+pd_status case_cli_schema_by_handle(uint32_t i) {
+  pd_tbl_hdl hdl = 0x01000057u;  // finalDropControl
+  benchmark::DoNotOptimize(hdl);
+  benchmark::DoNotOptimize(i);
+  int n = p4_pd_orbisk_switch_cli_schema(hdl, g_schema);
+  benchmark::DoNotOptimize(g_schema);
+  return n == 3019 ? BF_SUCCESS : 1;
+}
+
+pd_status case_setNextHop_schema(uint32_t) {
+  const char *text = p4_pd_orbisk_switch_setNextHop_schema();
+  benchmark::DoNotOptimize(text);
+  return text[0] == '(' ? BF_SUCCESS : 1;
+}
+
 // The floor under every add: the same input handling and one driver call
 // with records built once, outside the loop.
 pd_status case_driver_call_only(uint32_t i) {
@@ -294,22 +321,26 @@ struct Case {
   const char *name;
   LoopFn loop;
   void (*bench)(benchmark::State &);
-  bool writes;  // a write path: must not allocate
+  // "write" (a write path) or "text" (schema text): must not allocate; "read"
+  const char *kind;
 };
 
 template <CaseFn F>
-constexpr Case make_case(const char *name, bool writes) {
-  return Case{name, run_loop<F>, run_benchmark<F>, writes};
+constexpr Case make_case(const char *name, const char *kind) {
+  return Case{name, run_loop<F>, run_benchmark<F>, kind};
 }
 
 constexpr Case kCases[] = {
-    make_case<case_l2Lookup_add>("l2Lookup_add", true),
-    make_case<case_l2Lookup_add_reference>("l2Lookup_add_reference", true),
-    make_case<case_l2DomainLookup_add>("l2DomainLookup_add", true),
-    make_case<case_ipv4ShortMaskLpm_add>("ipv4ShortMaskLpm_add", true),
-    make_case<case_ipv6FinalResolve_add>("ipv6FinalResolve_add", true),
-    make_case<case_l2Lookup_get_entry>("l2Lookup_get_entry", false),
-    make_case<case_driver_call_only>("driver_call_only", true),
+    make_case<case_l2Lookup_add>("l2Lookup_add", "write"),
+    make_case<case_l2Lookup_add_reference>("l2Lookup_add_reference", "write"),
+    make_case<case_l2DomainLookup_add>("l2DomainLookup_add", "write"),
+    make_case<case_ipv4ShortMaskLpm_add>("ipv4ShortMaskLpm_add", "write"),
+    make_case<case_ipv6FinalResolve_add>("ipv6FinalResolve_add", "write"),
+    make_case<case_l2Lookup_get_entry>("l2Lookup_get_entry", "read"),
+    make_case<case_driver_call_only>("driver_call_only", "write"),
+    make_case<case_finalDropControl_schema>("finalDropControl_schema", "text"),
+    make_case<case_cli_schema_by_handle>("cli_schema_by_handle", "text"),
+    make_case<case_setNextHop_schema>("setNextHop_schema", "text"),
 };
 
 const Case *find_case(std::string_view name) {
@@ -369,7 +400,7 @@ int main(int argc, char **argv) {
     return 1;
   }
   if (argc >= 2 && std::strcmp(argv[1], "--list") == 0) {
-    for (const Case &c : kCases) std::printf("%s %s\n", c.name, c.writes ? "write" : "read");
+    for (const Case &c : kCases) std::printf("%s %s\n", c.name, c.kind);
     return 0;
   }
   if (argc >= 2 && std::strcmp(argv[1], "--loop") == 0) {

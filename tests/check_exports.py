@@ -44,6 +44,14 @@ def main(lib, root):
                 add("unbuild_mask", "unbuild_mask_" + n)
         if direct:
             add("get_entry", "%s%s_get_entry" % (P, n))
+        # Schema text and widths.
+        add("table_schema", "%s%s_schema" % (P, n))
+        add("supports_entry_priority", "%s%s_supports_entry_priority" % (P, n))
+        if keyed:
+            add("match_spec_schema", "%s%s_match_spec_schema" % (P, n))
+        for f in t.get("fields", []):
+            field = f["name"][:-len("_valid")] if f["name"].endswith("_valid") else f["name"]
+            add("field_width", "%s%s_%s_width" % (P, n, field))
         for s in ("get_entry_count", "get_first_entry_handle", "get_next_entry_handles",
                   "table_get_default_entry", "table_get_default_entry_handle",
                   "table_reset_default_entry"):
@@ -66,6 +74,10 @@ def main(lib, root):
     for a, ps in params.items():
         if ps:
             add("unbuild_action_spec", "unbuild_action_spec_" + a)
+        add("action_schema", "%s%s_schema" % (P, a))
+    for p in program["profiles"]:
+        add("profile_schema", "%s%s_schema" % (P, p["name"]))
+    add("cli_schema", P + "cli_schema")
     for s in ("init", "cleanup", "dev_remove", "dev_log", "dev_restore", "device_state_cleanup",
               "action_enum_to_string", "action_string_to_enum"):
         add("frame", P + s)
@@ -80,7 +92,10 @@ def main(lib, root):
              "table_get_default_entry_handle": 154, "table_reset_default_entry": 154,
              "idle": 153, "set_property": 154, "get_property": 154, "get_mat_table_handle": 154,
              "register_mat_update_cb": 154,
-             "frame": 8, "objects": 2}
+             "frame": 8, "objects": 2,
+             "table_schema": 154, "match_spec_schema": 136, "action_schema": 296,
+             "profile_schema": 6, "cli_schema": 1, "field_width": 487,
+             "supports_entry_priority": 154}
     failed = False
     for k, v in known.items():
         if len(fam.get(k, ())) != v:

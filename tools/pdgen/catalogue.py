@@ -231,6 +231,8 @@ class Program:
             for t in doc["tables"]:
                 self.tables.append(Table(t, doc["area"], area, self))
         self.profiles = [Profile(p, self) for p in prog["profiles"]]
+        for i, p in enumerate(self.profiles):
+            p.index = i  # place in the descriptors
         self.resources = {}
         for c in prog["counters"]:
             self.resources[c["name"]] = Resource(c, False)

@@ -28,7 +28,8 @@ INTRO = """\
  *  - Every record and string lives on the caller's stack for one call; the
  *    driver copies what it keeps. Nothing is allocated on a write.
  *
- * Families, for <t> a table and <a> an action of it:"""
+ * Families, for <t> a table, <a> an action of it, <f> a key field of it and
+ * <r> an action profile:"""
 
 
 def family_list():
@@ -83,6 +84,8 @@ def emit(prog):
     o.append("/* Room for any full action name and its final zero. */")
     o.append("#define P4_PD_ORBISK_SWITCH_ACTION_NAME_MAX %d" % longest)
     o.append("")
+    for group in families.GROUPS:
+        o += group.header_lines(prog) if hasattr(group, "header_lines") else []
     o.append("/* Full action names, with the prefix, in enum order. */")
     o.append("extern const char *const %saction_name_strings[%d];" % (PREFIX, len(prog.enum_names)))
     o.append("")
@@ -113,7 +116,7 @@ def emit(prog):
     o.append("PD_STATIC_ASSERT(offsetof(p4_pd_orbisk_switch_action_specs_t, u) == 4,")
     o.append("                 \"parameters from the fourth byte on\");")
     o.append("")
-    o.append("/* ---------------------------------------------------- lifecycle --- */")
+    o.append("/* ---------------------------------------- lifecycle and dispatch --- */")
     o.append("")
     for f in families.frame_functions():
         o.append("/* %s */" % f.kind.doc)
@@ -136,6 +139,14 @@ def emit(prog):
         for f in families.table_functions(t):
             o.append(f.proto() + ";")
         o.append("")
+    o.append("/* --------------------------------------------- action profiles --- */")
+    o.append("")
+    for r in prog.profiles:
+        o.append("/* %s: action data table 0x%08x, selector table 0x%08x, for %s */" % (
+            r.name, r.adt, r.sel, r.match_table))
+        for f in families.profile_functions(r):
+            o.append(f.proto() + ";")
+    o.append("")
     o.append("/* ------------------------------------ action data read back --- */")
     o.append("")
     for a in prog.actions:

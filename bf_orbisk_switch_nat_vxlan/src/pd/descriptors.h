@@ -144,6 +144,8 @@ extern const std::size_t kNumResources;
 
 // The table with this handle, or null: a range test and one load, no search.
 const TableDesc *find_table(pd_tbl_hdl handle);
+// The profile whose action data table has this handle, or null, the same way.
+const ProfileDesc *find_profile(uint32_t adt_hdl);
 
 }  // namespace orbisk::pd
 

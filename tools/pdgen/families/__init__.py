@@ -27,22 +27,32 @@ FAMILIES = [f for g in GROUPS for f in g.FAMILIES]
 EXPORTED_OBJECTS = [o for g in GROUPS for o in getattr(g, "EXPORTED_OBJECTS", [])]
 
 
+# The families whose functions are not a table's.
+NOT_OF_TABLES = ("action", "profile", "program")
+
+
 def table_functions(t):
     """Every exported function of table t, in the order the header declares them."""
-    keyed = [kf for f in FAMILIES if f.each not in ("action", "program") for kf in f.table_functions(t)]
+    keyed = [kf for f in FAMILIES if f.each not in NOT_OF_TABLES for kf in f.table_functions(t)]
     return [fn for _, fn in sorted(keyed, key=lambda kf: kf[0])]
 
 
 def documented_families():
-    """The table and action families, in the order of a table's declarations
-    (those of an action last), for the header's family list."""
-    table = sorted((f for f in FAMILIES if f.each not in ("action", "program")), key=lambda f: f.place)
-    return table + [f for f in FAMILIES if f.each == "action"]
+    """The table, action and profile families, in the order of a table's
+    declarations (those of an action, then of a profile, last), for the
+    header's family list."""
+    table = sorted((f for f in FAMILIES if f.each not in NOT_OF_TABLES), key=lambda f: f.place)
+    return table + [f for f in FAMILIES if f.each == "action"] + [f for f in FAMILIES if f.each == "profile"]
 
 
 def action_functions(a):
     """Every exported function of one action of the program (not of a table)."""
     return [f.fn(a=a) for f in FAMILIES if f.each == "action" and f.when(a)]
+
+
+def profile_functions(r):
+    """Every exported function of one action profile."""
+    return [f.fn(r=r) for f in FAMILIES if f.each == "profile" and f.when(r)]
 
 
 def unbuild_action_fn(a):
@@ -59,4 +69,6 @@ def all_functions(prog):
         fns += table_functions(t)
     for a in prog.actions:
         fns += action_functions(a)
+    for r in prog.profiles:
+        fns += profile_functions(r)
     return fns
