@@ -27,17 +27,22 @@ FAMILIES = [f for g in GROUPS for f in g.FAMILIES]
 EXPORTED_OBJECTS = [o for g in GROUPS for o in getattr(g, "EXPORTED_OBJECTS", [])]
 
 
+# Families whose functions are not a table's.
+NOT_TABLE = ("action", "program", "resource", "service")
+
+
 def table_functions(t):
     """Every exported function of table t, in the order the header declares them."""
-    keyed = [kf for f in FAMILIES if f.each not in ("action", "program") for kf in f.table_functions(t)]
+    keyed = [kf for f in FAMILIES if f.each not in NOT_TABLE for kf in f.table_functions(t)]
     return [fn for _, fn in sorted(keyed, key=lambda kf: kf[0])]
 
 
 def documented_families():
     """The table and action families, in the order of a table's declarations
     (those of an action last), for the header's family list."""
-    table = sorted((f for f in FAMILIES if f.each not in ("action", "program")), key=lambda f: f.place)
-    return table + [f for f in FAMILIES if f.each == "action"]
+    table = sorted((f for f in FAMILIES if f.each not in NOT_TABLE), key=lambda f: f.place)
+    return table + [f for f in FAMILIES if f.each == "action"] + [
+        f for f in FAMILIES if f.each in ("resource", "service")]
 
 
 def action_functions(a):
@@ -53,8 +58,20 @@ def frame_functions():
     return [f.fn() for f in FAMILIES if f.each == "program"]
 
 
+def resource_functions(prog, r):
+    """Every exported function of one counter, meter or register."""
+    return [f.fn(r=r) for f in FAMILIES if f.each == "resource" and f.when(r)]
+
+
+def service_functions(group=None):
+    """The functions that stand once beside the resources (of one group)."""
+    return [f.fn() for f in FAMILIES if f.each == "service" and (group is None or f in group.FAMILIES)]
+
+
 def all_functions(prog):
-    fns = frame_functions()
+    fns = frame_functions() + service_functions()
+    for r in prog.resources.values():
+        fns += resource_functions(prog, r)
     for t in prog.tables:
         fns += table_functions(t)
     for a in prog.actions:

@@ -67,7 +67,9 @@ class Fn:
     """One exported function: its name, result, arguments (C type, name), the
     family it belongs to, and the table and action it is for."""
 
-    def __init__(self, name, result, args, family, table=None, action=None, kind=None):
+    def __init__(self, name, result, args, family, table=None, action=None, kind=None,
+                 resource=None):
+        self.resource = resource
         self.name = name
         self.result = result
         self.args = args
@@ -102,7 +104,10 @@ class Family:
              is written by hand in the engine
     each     'table': one per table; 'entry_action' and 'default_action': one
              per action a table allows as an entry's or as its default;
-             'action': one per action of the program; 'program': one
+             'action': one per action of the program; 'program': one;
+             'resource': one per counter, meter or register ({r} its name,
+             and its Args' functions get the resource in place of the table);
+             'service': one, declared with the resources
     when     which tables (or, for 'action', which actions) have its functions
     place    (block, step): where its declarations stand among a table's; the
              functions of one block are grouped by action, then by step
@@ -120,12 +125,16 @@ class Family:
         self.when = when
         self.place = place
 
-    def fn(self, t=None, a=None):
+    def fn(self, t=None, a=None, r=None):
+        if self.each == "resource":
+            args = [x for arg in self.args for x in arg.resolve(r, None)]
+            return Fn(self.name.format(p=PREFIX, r=r.name), self.result, args, self.id, kind=self,
+                      resource=r)
         if self.each == "action":
             name = self.name.format(p=PREFIX, a=a.name)
             args = [x for arg in self.args for x in arg.resolve(None, a)]
             return Fn(name, self.result, args, self.id, action=a, kind=self)
-        if self.each == "program":
+        if self.each in ("program", "service"):
             args = [x for arg in self.args for x in arg.resolve(None, None)]
             return Fn(self.name.format(p=PREFIX), self.result, args, self.id, kind=self)
         name = self.name.format(p=PREFIX, t=t.name, a=a.name if a else "")
@@ -144,7 +153,7 @@ class Family:
 
     def pattern(self):
         """The name as the documentation shows it."""
-        return self.name.format(p="", t="<t>", a="<a>")
+        return self.name.format(p="", t="<t>", a="<a>", r="<r>")
 
     def doc_line(self):
         """Name, arguments and what it does, for the header's family list."""
