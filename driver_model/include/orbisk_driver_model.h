@@ -415,6 +415,9 @@ void orbisk_model_clear_log(void);
 size_t orbisk_model_live_allocations(void);
 /* Calls of bf_sys_calloc since the last reset. */
 size_t orbisk_model_allocation_count(void);
+/* Makes the nth next bf_sys_calloc answer null, as memory that ran out
+ * would; 0 disarms it. A reset disarms it too. */
+void orbisk_model_fail_allocation(uint32_t nth);
 
 /* -------------------------------------------------------- registration --- */
 

@@ -100,6 +100,7 @@ class AllocationStore final : public Store {
   // a block a client keeps on purpose is not taken for a leak.
   std::unordered_set<void *> retired;
   size_t count = 0;  // bf_sys_calloc calls since the last reset
+  uint32_t fail_in = 0;  // the bf_sys_calloc call, counting from 1, that answers null; 0 none
 };
 
 // ------------------------------------- member selection (model_ms.cpp) ---
