@@ -1,10 +1,6 @@
 #include "meters.h"
 
-#include <assert.h>
-
 #include "assertions.h"
-#include "orbisk_switch/pd_driver.h"
-#include "resources.h"
 
 namespace orbisk::pd {
 
@@ -16,25 +12,16 @@ constexpr const char *kGenericSource = "bf_orbisk_switch_nat_vxlan/src/pd_orbisk
 
 uint32_t checked_meter_type(uint32_t meter_type, bool has_pre_color, const char *function) {
   if (meter_type > PD_METER_TYPE_COLOR_UNAWARE) {
-    __assert_fail(
+    pd_hard_assert_failed_in(
+        kGenericSource,
         "requested_meter_type == PD_METER_TYPE_COLOR_AWARE || requested_meter_type == "
         "PD_METER_TYPE_COLOR_UNAWARE",
-        kGenericSource, __LINE__, function);
+        function, __LINE__);
   }
   if (meter_type == PD_METER_TYPE_COLOR_AWARE && !has_pre_color) {
-    __assert_fail("has_pre_color == true", kGenericSource, __LINE__, function);
+    pd_hard_assert_failed_in(kGenericSource, "has_pre_color == true", function, __LINE__);
   }
   return meter_type;
-}
-
-void fill(pd_meter_record &m, uint32_t type, uint32_t unit, const pd_meter_spec &spec) {
-  m.meter_type = type;
-  m.cir_unit = unit;
-  m.pir_unit = unit;
-  m.cir = spec.cir;
-  m.cburst = spec.cburst;
-  m.pir = spec.pir;
-  m.pburst = spec.pburst;
 }
 
 void unfill(pd_meter_spec &spec, const pd_meter_record &m) {
@@ -52,7 +39,7 @@ pd_status meter_set_generic(bool packets, pd_sess_hdl sess, pd_dev_target target
   const uint32_t type = checked_meter_type(
       spec->meter_type, has_pre_color, packets ? "get_packets_meter_type" : "get_bytes_meter_type");
   pd_meter_record m{};
-  fill(m, type, packets ? PD_METER_RATE_UNIT_PACKETS : PD_METER_RATE_UNIT_BYTES, *spec);
+  fill_meter(m, type, packets ? PD_METER_RATE_UNIT_PACKETS : PD_METER_RATE_UNIT_BYTES, *spec);
   return pipe_mgr_meter_ent_set(sess, target, tbl, index, &m, 0);
 }
 
@@ -76,21 +63,18 @@ uint32_t get_packets_meter_type(uint32_t meter_type, bool has_pre_color) {
                                                    : PD_METER_TYPE_COLOR_AWARE;
 }
 
-pd_status meter_set_direct(pd_tbl_hdl tbl, uint32_t meter_hdl, pd_sess_hdl sess,
-                           uint32_t device_id, pd_entry_hdl entry_hdl, const pd_meter_spec *spec) {
-  pd_action_record rec{};
-  set_direct_meter_slot(rec, meter_hdl, *spec);
-  return pipe_mgr_mat_ent_set_resource(sess, device_id, tbl, entry_hdl, rec.resources, 1, 0);
+pd_status send_direct_meter_bad_type(pd_tbl_hdl tbl, uint32_t meter_hdl, pd_sess_hdl sess,
+                                     uint32_t device_id, pd_entry_hdl entry_hdl,
+                                     const pd_meter_spec *spec) {
+  return send_direct_meter(tbl, meter_hdl, sess, device_id, entry_hdl, spec,
+                           get_bytes_meter_type(spec->meter_type, true));
 }
 
 pd_status meter_set_indexed(pd_tbl_hdl tbl, bool packets, pd_sess_hdl sess,
                             pd_dev_target target, uint32_t index, const pd_meter_spec *spec) {
   pd_meter_record m{};
-  if (packets) {
-    fill(m, get_packets_meter_type(spec->meter_type, true), PD_METER_RATE_UNIT_PACKETS, *spec);
-  } else {
-    fill(m, get_bytes_meter_type(spec->meter_type, true), PD_METER_RATE_UNIT_BYTES, *spec);
-  }
+  fill_meter(m, named_meter_type(spec->meter_type, packets),
+             packets ? PD_METER_RATE_UNIT_PACKETS : PD_METER_RATE_UNIT_BYTES, *spec);
   return pipe_mgr_meter_ent_set(sess, target, tbl, index, &m, 0);
 }
 
