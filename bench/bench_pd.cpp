@@ -137,6 +137,40 @@ BENCH_OUT_OF_LINE pd_status reference_l2Lookup_add_l2LookupKnownUcast(
   return pipe_mgr_mat_ent_add(sess, tgt, 0x0100002fu, &key, 0x200000a6u, &act, 0, 0, entry_hdl);
 }
 
+// A direct counter read written out by hand: the query into a local record
+// and the swap into the caller's.
+BENCH_OUT_OF_LINE pd_status reference_counter_read_l2DmacClassifyCount(
+    pd_sess_hdl sess, uint32_t dev_id, pd_entry_hdl entry_hdl, uint32_t flags,
+    pd_counter_value *value) {
+  if (flags & 1u) {
+    pd_status s = pipe_mgr_direct_stat_ent_database_sync(sess, dev_id, 0x0100000au, entry_hdl);
+    if (s != BF_SUCCESS) return s;
+  }
+  pd_counter_record rec;
+  pd_status s = pipe_mgr_mat_ent_direct_stat_query(sess, dev_id, 0x0100000au, entry_hdl, &rec);
+  if (s != BF_SUCCESS) return s;
+  value->packets = rec.packets;
+  value->bytes = rec.bytes;
+  return BF_SUCCESS;
+}
+
+// The direct meter set written out by hand: one resource slot with the byte
+// meter's record, colour mode from the spec.
+BENCH_OUT_OF_LINE pd_status reference_meter_set_stormControlMeter(pd_sess_hdl sess, uint32_t dev_id,
+                                                                  pd_entry_hdl entry_hdl,
+                                                                  const pd_meter_spec *spec) {
+  pd_resource_record rec;
+  std::memset(&rec, 0, sizeof rec);
+  rec.resource_hdl = 0x05000001u;
+  rec.resource_tag = PD_RESOURCE_TAG_ATTACHED;
+  rec.resource_spec.meter.meter_type = spec->meter_type == PD_METER_TYPE_COLOR_UNAWARE ? 1u : 0u;
+  rec.resource_spec.meter.cir = spec->cir;
+  rec.resource_spec.meter.cburst = spec->cburst;
+  rec.resource_spec.meter.pir = spec->pir;
+  rec.resource_spec.meter.pburst = spec->pburst;
+  return pipe_mgr_mat_ent_set_resource(sess, dev_id, 0x01000030u, entry_hdl, &rec, 1, 0);
+}
+
 }  // namespace orbisk_bench
 
 namespace {
@@ -298,6 +332,40 @@ pd_status case_driver_call_only(uint32_t i) {
   return s;
 }
 
+pd_status case_counter_read(uint32_t i) {
+  pd_counter_value v;
+  pd_entry_hdl hdl = 1 + (i & 0xFFFFu);
+  benchmark::DoNotOptimize(hdl);
+  pd_status s = p4_pd_orbisk_switch_counter_read_l2DmacClassifyCount(kSess, 0, hdl, 0, &v);
+  benchmark::DoNotOptimize(v);
+  return s;
+}
+
+pd_status case_counter_read_reference(uint32_t i) {
+  pd_counter_value v;
+  pd_entry_hdl hdl = 1 + (i & 0xFFFFu);
+  benchmark::DoNotOptimize(hdl);
+  pd_status s = orbisk_bench::reference_counter_read_l2DmacClassifyCount(kSess, 0, hdl, 0, &v);
+  benchmark::DoNotOptimize(v);
+  return s;
+}
+
+pd_status case_meter_set(uint32_t i) {
+  pd_meter_spec m{1000u + (i & 0xFFu), 200, 2000, 400, PD_METER_TYPE_COLOR_UNAWARE};
+  pd_entry_hdl hdl = 1 + (i & 0xFFFFu);
+  benchmark::DoNotOptimize(m);
+  benchmark::DoNotOptimize(hdl);
+  return p4_pd_orbisk_switch_meter_set_stormControlMeter(kSess, 0, hdl, &m);
+}
+
+pd_status case_meter_set_reference(uint32_t i) {
+  pd_meter_spec m{1000u + (i & 0xFFu), 200, 2000, 400, PD_METER_TYPE_COLOR_UNAWARE};
+  pd_entry_hdl hdl = 1 + (i & 0xFFFFu);
+  benchmark::DoNotOptimize(m);
+  benchmark::DoNotOptimize(hdl);
+  return orbisk_bench::reference_meter_set_stormControlMeter(kSess, 0, hdl, &m);
+}
+
 using CaseFn = pd_status (*)(uint32_t);
 using LoopFn = uint64_t (*)(uint64_t);
 
@@ -321,7 +389,8 @@ struct Case {
   const char *name;
   LoopFn loop;
   void (*bench)(benchmark::State &);
-  // "write" (a write path) or "text" (schema text): must not allocate; "read"
+  // "write" (a write path), "text" (schema text) or "resource" (a counter or
+  // meter call): must not allocate; "read"
   const char *kind;
 };
 
@@ -341,6 +410,10 @@ constexpr Case kCases[] = {
     make_case<case_finalDropControl_schema>("finalDropControl_schema", "text"),
     make_case<case_cli_schema_by_handle>("cli_schema_by_handle", "text"),
     make_case<case_setNextHop_schema>("setNextHop_schema", "text"),
+    make_case<case_counter_read>("counter_read_l2DmacClassifyCount", "resource"),
+    make_case<case_counter_read_reference>("counter_read_l2DmacClassifyCount_reference", "resource"),
+    make_case<case_meter_set>("meter_set_stormControlMeter", "resource"),
+    make_case<case_meter_set_reference>("meter_set_stormControlMeter_reference", "resource"),
 };
 
 const Case *find_case(std::string_view name) {

@@ -23,8 +23,9 @@ LOOP_LINE = re.compile(r"^case (\S+) calls (\d+) allocations (\S+) failures (\d+
 REFERENCE = "l2Lookup_add_reference"
 LIBRARY = "l2Lookup_add"
 FLOOR = "driver_call_only"
-# Kinds of case that must not allocate: write paths, and schema text.
-NO_ALLOCATION = ("write", "text")
+# Kinds of case that must not allocate: write paths, schema text, counter and
+# meter calls.
+NO_ALLOCATION = ("write", "text", "resource")
 
 
 def run(cmd):

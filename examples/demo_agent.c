@@ -424,6 +424,39 @@ static void expect_count(const char *table, count_fn fn, uint32_t want) {
   expect_u32(table, "entry count", count, want);
 }
 
+/* Traffic with an illegal source MAC on port 5 is dropped by the drop-check
+ * table, and its direct counter counts it. The model stands in for the
+ * chip's traffic; the agent syncs the cell from the chip as it reads. */
+static void count_drops(void) {
+  static const char *const table = "ingressPortDropCheck";
+  p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_t ms;
+  memset(&ms, 0, sizeof ms);
+  ms.ig_intr_md_ingress_port = 5;
+  ms.ingMd_illegalSmac = 1;
+  ms.ingMd_illegalSmac_mask = 1;
+  pd_entry_hdl hdl = 0;
+  must(p4_pd_orbisk_switch_ingressPortDropCheck_table_add_with_setDrop(SESS, kTarget, &ms, 10, &hdl),
+       "ingressPortDropCheck add");
+  pd_tbl_hdl tbl = 0;
+  must(p4_pd_orbisk_switch_ingressPortDropCheck_get_mat_table_handle(&tbl),
+       "ingressPortDropCheck table handle");
+
+  pd_counter_value zero = {0, 0};
+  must(p4_pd_orbisk_switch_counter_write_ingressPortDropCount(SESS, DEVICE, hdl, zero),
+       "ingressPortDropCount write");
+  must(orbisk_model_count_traffic(DEVICE, tbl, hdl, 42, 42 * 64), "traffic");
+  pd_counter_value v = {UINT64_MAX, UINT64_MAX};
+  must(p4_pd_orbisk_switch_counter_read_ingressPortDropCount(SESS, DEVICE, hdl, PD_READ_FROM_HW, &v),
+       "ingressPortDropCount read");
+  expect_u32(table, "dropped packets", (uint32_t)v.packets, 42);
+  expect_u32(table, "dropped bytes", (uint32_t)v.bytes, 42 * 64);
+  printf("%s entry %" PRIu32 ": illegal source MAC on port 5 dropped %" PRIu64 " packets, %" PRIu64
+         " bytes (ingressPortDropCount)\n",
+         table, (uint32_t)hdl, v.packets, v.bytes);
+  must(p4_pd_orbisk_switch_ingressPortDropCheck_table_delete(SESS, DEVICE, hdl),
+       "ingressPortDropCheck delete");
+}
+
 int main(void) {
   p4_pd_orbisk_switch_init();
   printf("registered with the driver as client %" PRIu32 "\n", bf_drv_hdl);
@@ -459,6 +492,7 @@ int main(void) {
   printf("deleted 4 entries; all four tables are empty\n");
 
   age_out_route();
+  count_drops();
 
   must(p4_pd_orbisk_switch_cleanup(), "cleanup");
 

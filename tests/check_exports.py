@@ -81,6 +81,24 @@ def main(lib, root):
     for s in ("init", "cleanup", "dev_remove", "dev_log", "dev_restore", "device_state_cleanup",
               "action_enum_to_string", "action_string_to_enum"):
         add("frame", P + s)
+    for c in program["counters"]:
+        for s in ("counter_read_", "counter_write_", "counter_hw_sync_"):
+            add("counter", P + s + c["name"])
+    for m in program["meters"]:
+        for s in ("meter_set_", "meter_read_", "meter_bytecount_adjust_set_",
+                  "meter_bytecount_adjust_get_"):
+            add("meter", P + s + m["name"])
+    for s in ("packets_meter_set", "packets_meter_read", "bytes_meter_set", "bytes_meter_read",
+              "wred_set"):
+        add("meter_generic", P + s)
+    for r in program["registers"]:
+        for s in ("hw_sync_", "read_", "write_", "reset_all_", "write_all_", "range_reset_",
+                  "range_read_"):
+            add("register", P + "register_" + s + r["name"])
+    for s in ("read_direct", "read_indirect", "write_direct", "write_indirect", "hw_sync_direct",
+              "hw_sync_indirect", "reset_all_indirect", "range_reset_indirect",
+              "write_all_indirect"):
+        add("register_generic", P + "register_" + s)
     add("objects", "bf_drv_hdl")
     add("objects", P + "action_name_strings")
 
@@ -95,7 +113,8 @@ def main(lib, root):
              "frame": 8, "objects": 2,
              "table_schema": 154, "match_spec_schema": 136, "action_schema": 296,
              "profile_schema": 6, "cli_schema": 1, "field_width": 487,
-             "supports_entry_priority": 154}
+             "supports_entry_priority": 154,
+             "counter": 51, "meter": 16, "meter_generic": 5, "register": 28, "register_generic": 9}
     failed = False
     for k, v in known.items():
         if len(fam.get(k, ())) != v:

@@ -17,6 +17,7 @@ void AllocationStore::clear() {
   retired.merge(live);
   live.clear();
   count = 0;
+  fail_in = 0;
 }
 
 }  // namespace orbisk_model
@@ -68,6 +69,11 @@ void orbisk_model_clear_log(void) {
 }
 
 void *bf_sys_calloc(size_t count, size_t size) {
+  // An armed failure answers null, as memory that ran out would.
+  const bool fail = in_frame([&](Model &m) {
+    return m.allocations.fail_in != 0 && --m.allocations.fail_in == 0;
+  });
+  if (fail) return nullptr;
   void *p = std::calloc(count, size);
   if (p != nullptr) {
     in_frame([&](Model &m) {
@@ -91,6 +97,10 @@ void bf_sys_free(void *ptr) {
 
 size_t orbisk_model_live_allocations(void) {
   return in_frame([](Model &m) { return m.allocations.live.size(); });
+}
+
+void orbisk_model_fail_allocation(uint32_t nth) {
+  in_frame([&](Model &m) { m.allocations.fail_in = nth; });
 }
 
 size_t orbisk_model_allocation_count(void) {

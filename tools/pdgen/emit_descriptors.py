@@ -136,11 +136,21 @@ def emit(prog):
     o.append("const ResourceDesc kResources[] = {")
     for n in res_names:
         r = prog.resources[n]
-        o.append('    {"%s", %s, ResourceKind::%s, %s, %s},' % (
-            r.name, hx(r.handle), "Meter" if r.is_meter else "Counter",
-            "true" if r.kind == "direct" else "false", "true" if r.unit == "packets" else "false"))
+        o.append('    {"%s", %s, ResourceKind::%s, %s, %s, %s, %d, %d},' % (
+            r.name, hx(r.handle), r.cls.capitalize(),
+            "true" if r.direct else "false", "true" if r.unit == "packets" else "false",
+            hx(r.driver_handle), r.size, r.bits))
     o.append("};")
     o.append("const std::size_t kNumResources = %d;" % len(res_names))
+    o.append("")
+    # Not on a hot path: the model and the tests look resources up.
+    o.append("const ResourceDesc *find_resource(uint32_t handle, ResourceKind kind) {")
+    o.append("  for (std::size_t i = 0; i < kNumResources; ++i) {")
+    o.append("    const ResourceDesc &r = kResources[i];")
+    o.append("    if (r.kind == kind && (r.handle == handle || r.table_hdl == handle)) return &r;")
+    o.append("  }")
+    o.append("  return nullptr;")
+    o.append("}")
     o.append("")
 
     table_index = {t.name: i for i, t in enumerate(prog.tables)}

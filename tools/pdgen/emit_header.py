@@ -28,8 +28,9 @@ INTRO = """\
  *  - Every record and string lives on the caller's stack for one call; the
  *    driver copies what it keeps. Nothing is allocated on a write.
  *
- * Families, for <t> a table, <a> an action of it, <f> a key field of it and
- * <r> an action profile:"""
+ * Families, for <t> a table, <a> an action of it, <f> a key field of it,
+ * <r> an action profile or, in the resources' families, a counter, meter or
+ * register:"""
 
 
 def family_list():
@@ -62,6 +63,34 @@ def describe(t):
     if t.indirect:
         bits.append("entries name a member or group of " + t.profile.name)
     return ", ".join(bits)
+
+
+def resource_sections(prog):
+    """Each group's functions of counters, meters and registers, by
+    resource, then the group's functions that stand once, documented."""
+    o = []
+    for g in families.GROUPS:
+        fams = [f for f in g.FAMILIES if f.each in ("resource", "service")]
+        if not fams:
+            continue
+        o.append("/* %s */" % ("-" * 66))
+        o.append("/* %s */" % g.TITLE)
+        o.append("/* %s */" % ("-" * 66))
+        o.append("")
+        for r in prog.resources.values():
+            fns = [f for f in families.resource_functions(prog, r) if f.kind in fams]
+            if not fns:
+                continue
+            o.append("/* %s: %s */" % (r.name, g.describe(r)))
+            for f in fns:
+                o.append(f.proto() + ";")
+            o.append("")
+        for f in families.service_functions(g):
+            o += textwrap.wrap(f.kind.doc, 74, initial_indent="/* ", subsequent_indent=" * ")
+            o[-1] += " */"
+            o.append(f.proto() + ";")
+        o.append("")
+    return o
 
 
 def emit(prog):
@@ -147,6 +176,7 @@ def emit(prog):
         for f in families.profile_functions(r):
             o.append(f.proto() + ";")
     o.append("")
+    o += resource_sections(prog)
     o.append("/* ------------------------------------ action data read back --- */")
     o.append("")
     for a in prog.actions:

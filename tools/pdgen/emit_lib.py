@@ -84,6 +84,19 @@ def profile_sources(prog, group):
     return {"pd_%s_profiles.cpp" % group_name(group): source(group, None, blocks)} if blocks else {}
 
 
+def resource_sources(prog, group):
+    """A group's functions of resources and its services: one source."""
+    blocks = []
+    for r in prog.resources.values():
+        fns = [f for f in families.resource_functions(prog, r) if f.kind in group.FAMILIES]
+        if fns:
+            blocks.append(["// " + r.name] + [x for f in fns for x in definition(f)])
+    fns = families.service_functions(group)
+    if fns:
+        blocks.append([x for f in fns for x in definition(f)])
+    return {"pd_%s.cpp" % group_name(group): source(group, None, blocks)} if blocks else {}
+
+
 def emit_version_script(prog):
     names = sorted([f.name for f in families.all_functions(prog)] + families.EXPORTED_OBJECTS)
     o = ["{", "  global:"]
@@ -101,4 +114,5 @@ def emit(prog):
         out.update(table_sources(prog, group))
         out.update(action_sources(prog, group))
         out.update(profile_sources(prog, group))
+        out.update(resource_sources(prog, group))
     return out

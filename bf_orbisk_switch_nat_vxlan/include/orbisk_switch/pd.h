@@ -18,8 +18,9 @@
  *  - Every record and string lives on the caller's stack for one call; the
  *    driver copies what it keeps. Nothing is allocated on a write.
  *
- * Families, for <t> a table, <a> an action of it, <f> a key field of it and
- * <r> an action profile:
+ * Families, for <t> a table, <a> an action of it, <f> a key field of it,
+ * <r> an action profile or, in the resources' families, a counter, meter or
+ * register:
  *  <t>_table_add_with_<a>(sess, target, match spec, [priority], [action
  *      spec], [meter spec], [ttl], out entry handle): adds an entry. A NULL
  *      meter spec ends the process; the index of a counter or meter cell goes
@@ -94,6 +95,73 @@
  *      spec): an action record's data into an action spec.
  *  <r>_schema(out text): writes the profile's action tuples as schema text
  *      and a NUL; its length.
+ *  counter_read_<r>(sess, [device id], [target], [entry handle], [index],
+ *      flags, out value): reads a counter cell, from the chip first when bit
+ *      0 of the flags is set; untouched on failure.
+ *  counter_write_<r>(sess, [device id], [target], [entry handle], [index],
+ *      value): writes a counter cell.
+ *  counter_hw_sync_<r>(sess, target, callback, cookie): brings every cell of
+ *      a counter from the chip; the driver calls the callback when done.
+ *  meter_set_<r>(sess, [device id], [target], [entry handle], [index], spec):
+ *      sets a meter cell's rates and bursts in the meter's unit; a type above
+ *      1 is logged and taken as colour-aware.
+ *  meter_read_<r>(sess, [device id], [target], [entry handle], [index], out
+ *      spec): reads a meter cell back: values cut to 32 bits, the driver's
+ *      type as it is; untouched on failure.
+ *  meter_bytecount_adjust_set_<r>(sess, target, adjustment): sets the bytes a
+ *      meter adds to each packet's length.
+ *  meter_bytecount_adjust_get_<r>(sess, target, out adjustment): reads that
+ *      adjustment back.
+ *  register_hw_sync_<r>(sess, target, callback, cookie): brings every cell of
+ *      a register from the chip; the driver calls the callback when done.
+ *  register_read_<r>(sess, target, index, flags, out values, out count):
+ *      reads one index, a byte per pipe (room for one per pipe), from the
+ *      chip with bit 0 of the flags; 2 when memory runs out.
+ *  register_write_<r>(sess, target, index, value): writes one index: any
+ *      nonzero byte is 1.
+ *  register_reset_all_<r>(sess, target): every cell back to the register's
+ *      initial value.
+ *  register_write_all_<r>(sess, target, value): every cell to one value: any
+ *      nonzero byte is 1.
+ *  register_range_reset_<r>(sess, target, first index, count): count cells
+ *      from the first back to the initial value.
+ *  register_range_read_<r>(sess, target, first index, count, flags, out
+ *      indices read, out values, out count): reads count indices: the values
+ *      grouped by index, by pipe inside one, for the indices the driver read;
+ *      2 when memory runs out.
+ *  packets_meter_set(sess, target, table handle, index, spec, has
+ *      pre-colour): Sets a cell of any packet meter table; a type above 1, or
+ *      colour-aware without a pre-colour, ends the process.
+ *  packets_meter_read(sess, target, table handle, index, out spec): Reads a
+ *      cell of any meter table back; untouched on failure.
+ *  bytes_meter_set(sess, target, table handle, index, spec, has pre-colour):
+ *      Sets a cell of any byte meter table, with the same checks.
+ *  bytes_meter_read(sess, target, table handle, index, out spec): Reads a
+ *      cell of any meter table back, as packets_meter_read.
+ *  wred_set(sess, target, table handle, index, spec): Sets a cell of any WRED
+ *      table; the record goes as it is.
+ *  register_read_direct(sess, device id, table handle, entry handle, flags,
+ *      query record): Reads an entry's cell of any direct register into the
+ *      caller's query record.
+ *  register_read_indirect(sess, target, table handle, index, flags, query
+ *      record): Reads an index of any register into the caller's query
+ *      record.
+ *  register_write_direct(sess, device id, table handle, entry handle,
+ *      element): Writes an entry's cell of any direct register; the one
+ *      handle names the table and the register, and the device goes as one
+ *      byte.
+ *  register_write_indirect(sess, target, table handle, index, element):
+ *      Writes an index of any register with the caller's element.
+ *  register_hw_sync_direct(sess, device id, table handle, callback, cookie):
+ *      Brings any direct register from the chip.
+ *  register_hw_sync_indirect(sess, target, table handle, callback, cookie):
+ *      Brings any register from the chip.
+ *  register_reset_all_indirect(sess, target, table handle): Every cell of any
+ *      register back to its initial value.
+ *  register_range_reset_indirect(sess, target, table handle, first index,
+ *      count): A range of any register back to its initial value.
+ *  register_write_all_indirect(sess, target, table handle, element): Every
+ *      cell of any register to the caller's element.
  */
 #ifndef ORBISK_SWITCH_PD_H
 #define ORBISK_SWITCH_PD_H
@@ -17853,6 +17921,550 @@ int p4_pd_orbisk_switch_ecmpMemberActionProfile_schema(char *out);
 int p4_pd_orbisk_switch_tunnelMemberActionProfile_schema(char *out);
 /* lagPortActionProfile: action data table 0x1201000e, selector table 0x13010003, for lagGroup */
 int p4_pd_orbisk_switch_lagPortActionProfile_schema(char *out);
+
+/* ------------------------------------------------------------------ */
+/* counters, meters and registers */
+/* ------------------------------------------------------------------ */
+
+/* l2DmacClassifyCount: counter 0x04000001, direct on l2DmacClassify (0x0100000a) */
+pd_status p4_pd_orbisk_switch_counter_read_l2DmacClassifyCount(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t flags,
+    pd_counter_value *counter_value);
+pd_status p4_pd_orbisk_switch_counter_write_l2DmacClassifyCount(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_counter_value counter_value);
+pd_status p4_pd_orbisk_switch_counter_hw_sync_l2DmacClassifyCount(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_stat_sync_cb cb_fn,
+    void *cb_cookie);
+
+/* ingressPortDropCount: counter 0x04000002, direct on ingressPortDropCheck (0x01000010) */
+pd_status p4_pd_orbisk_switch_counter_read_ingressPortDropCount(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t flags,
+    pd_counter_value *counter_value);
+pd_status p4_pd_orbisk_switch_counter_write_ingressPortDropCount(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_counter_value counter_value);
+pd_status p4_pd_orbisk_switch_counter_hw_sync_ingressPortDropCount(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_stat_sync_cb cb_fn,
+    void *cb_cookie);
+
+/* egressPortQueueCount: counter 0x04000008, 2048 cells by index */
+pd_status p4_pd_orbisk_switch_counter_read_egressPortQueueCount(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    uint32_t flags,
+    pd_counter_value *counter_value);
+pd_status p4_pd_orbisk_switch_counter_write_egressPortQueueCount(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    pd_counter_value counter_value);
+pd_status p4_pd_orbisk_switch_counter_hw_sync_egressPortQueueCount(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_stat_sync_cb cb_fn,
+    void *cb_cookie);
+
+/* staticDnatCounters: counter 0x04000003, direct on addrPortDnat (0x01000026) */
+pd_status p4_pd_orbisk_switch_counter_read_staticDnatCounters(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t flags,
+    pd_counter_value *counter_value);
+pd_status p4_pd_orbisk_switch_counter_write_staticDnatCounters(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_counter_value counter_value);
+pd_status p4_pd_orbisk_switch_counter_hw_sync_staticDnatCounters(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_stat_sync_cb cb_fn,
+    void *cb_cookie);
+
+/* ingL2DomainCounters: counter 0x04000004, direct on ingL2DomainCount (0x01000062) */
+pd_status p4_pd_orbisk_switch_counter_read_ingL2DomainCounters(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t flags,
+    pd_counter_value *counter_value);
+pd_status p4_pd_orbisk_switch_counter_write_ingL2DomainCounters(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_counter_value counter_value);
+pd_status p4_pd_orbisk_switch_counter_hw_sync_ingL2DomainCounters(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_stat_sync_cb cb_fn,
+    void *cb_cookie);
+
+/* egrL2DomainCounters: counter 0x04000005, direct on egrL2DomainCount (0x01000065) */
+pd_status p4_pd_orbisk_switch_counter_read_egrL2DomainCounters(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t flags,
+    pd_counter_value *counter_value);
+pd_status p4_pd_orbisk_switch_counter_write_egrL2DomainCounters(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_counter_value counter_value);
+pd_status p4_pd_orbisk_switch_counter_hw_sync_egrL2DomainCounters(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_stat_sync_cb cb_fn,
+    void *cb_cookie);
+
+/* trapToCpuCount: counter 0x04000006, direct on trapToCpu (0x01000047) */
+pd_status p4_pd_orbisk_switch_counter_read_trapToCpuCount(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t flags,
+    pd_counter_value *counter_value);
+pd_status p4_pd_orbisk_switch_counter_write_trapToCpuCount(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_counter_value counter_value);
+pd_status p4_pd_orbisk_switch_counter_hw_sync_trapToCpuCount(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_stat_sync_cb cb_fn,
+    void *cb_cookie);
+
+/* egressPortDropCount: counter 0x04000007, direct on egressPortDropCheck (0x01000074) */
+pd_status p4_pd_orbisk_switch_counter_read_egressPortDropCount(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t flags,
+    pd_counter_value *counter_value);
+pd_status p4_pd_orbisk_switch_counter_write_egressPortDropCount(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_counter_value counter_value);
+pd_status p4_pd_orbisk_switch_counter_hw_sync_egressPortDropCount(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_stat_sync_cb cb_fn,
+    void *cb_cookie);
+
+/* finalDropControlCount: counter 0x04000009, direct on finalDropControl (0x01000057) */
+pd_status p4_pd_orbisk_switch_counter_read_finalDropControlCount(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t flags,
+    pd_counter_value *counter_value);
+pd_status p4_pd_orbisk_switch_counter_write_finalDropControlCount(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_counter_value counter_value);
+pd_status p4_pd_orbisk_switch_counter_hw_sync_finalDropControlCount(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_stat_sync_cb cb_fn,
+    void *cb_cookie);
+
+/* haloCount: counter 0x0400000a, direct on haloCounters (0x01000059) */
+pd_status p4_pd_orbisk_switch_counter_read_haloCount(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t flags,
+    pd_counter_value *counter_value);
+pd_status p4_pd_orbisk_switch_counter_write_haloCount(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_counter_value counter_value);
+pd_status p4_pd_orbisk_switch_counter_hw_sync_haloCount(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_stat_sync_cb cb_fn,
+    void *cb_cookie);
+
+/* foldedPipeCount: counter 0x0400000b, direct on foldedPipeCounters (0x0100005a) */
+pd_status p4_pd_orbisk_switch_counter_read_foldedPipeCount(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t flags,
+    pd_counter_value *counter_value);
+pd_status p4_pd_orbisk_switch_counter_write_foldedPipeCount(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_counter_value counter_value);
+pd_status p4_pd_orbisk_switch_counter_hw_sync_foldedPipeCount(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_stat_sync_cb cb_fn,
+    void *cb_cookie);
+
+/* staticSnatCounters: counter 0x14010001, direct on addrPortSnat (0x11010016) */
+pd_status p4_pd_orbisk_switch_counter_read_staticSnatCounters(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t flags,
+    pd_counter_value *counter_value);
+pd_status p4_pd_orbisk_switch_counter_write_staticSnatCounters(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_counter_value counter_value);
+pd_status p4_pd_orbisk_switch_counter_hw_sync_staticSnatCounters(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_stat_sync_cb cb_fn,
+    void *cb_cookie);
+
+/* eifAclCount: counter 0x14010002, direct on eifAcl (0x1101001a) */
+pd_status p4_pd_orbisk_switch_counter_read_eifAclCount(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t flags,
+    pd_counter_value *counter_value);
+pd_status p4_pd_orbisk_switch_counter_write_eifAclCount(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_counter_value counter_value);
+pd_status p4_pd_orbisk_switch_counter_hw_sync_eifAclCount(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_stat_sync_cb cb_fn,
+    void *cb_cookie);
+
+/* eifForwardToPeerAclCount: counter 0x14010003, direct on eifForwardToPeerAcl (0x1101001d) */
+pd_status p4_pd_orbisk_switch_counter_read_eifForwardToPeerAclCount(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t flags,
+    pd_counter_value *counter_value);
+pd_status p4_pd_orbisk_switch_counter_write_eifForwardToPeerAclCount(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_counter_value counter_value);
+pd_status p4_pd_orbisk_switch_counter_hw_sync_eifForwardToPeerAclCount(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_stat_sync_cb cb_fn,
+    void *cb_cookie);
+
+/* dynNatCounters: counter 0x14010004, direct on dynamicNatCount (0x1101001e) */
+pd_status p4_pd_orbisk_switch_counter_read_dynNatCounters(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t flags,
+    pd_counter_value *counter_value);
+pd_status p4_pd_orbisk_switch_counter_write_dynNatCounters(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_counter_value counter_value);
+pd_status p4_pd_orbisk_switch_counter_hw_sync_dynNatCounters(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_stat_sync_cb cb_fn,
+    void *cb_cookie);
+
+/* pdpClassCount: counter 0x14010005, 1024 cells by index */
+pd_status p4_pd_orbisk_switch_counter_read_pdpClassCount(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    uint32_t flags,
+    pd_counter_value *counter_value);
+pd_status p4_pd_orbisk_switch_counter_write_pdpClassCount(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    pd_counter_value counter_value);
+pd_status p4_pd_orbisk_switch_counter_hw_sync_pdpClassCount(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_stat_sync_cb cb_fn,
+    void *cb_cookie);
+
+/* finalDropControlIBCount: counter 0x14010006, direct on finalDropControlIB (0x11010027) */
+pd_status p4_pd_orbisk_switch_counter_read_finalDropControlIBCount(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t flags,
+    pd_counter_value *counter_value);
+pd_status p4_pd_orbisk_switch_counter_write_finalDropControlIBCount(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_counter_value counter_value);
+pd_status p4_pd_orbisk_switch_counter_hw_sync_finalDropControlIBCount(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_stat_sync_cb cb_fn,
+    void *cb_cookie);
+
+/* stormControlMeter: meter 0x05000001, direct on l2LookupMiss (0x01000030), in bytes */
+pd_status p4_pd_orbisk_switch_meter_set_stormControlMeter(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    const pd_meter_spec *meter_spec);
+pd_status p4_pd_orbisk_switch_meter_read_stormControlMeter(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_meter_spec *meter_spec);
+pd_status p4_pd_orbisk_switch_meter_bytecount_adjust_set_stormControlMeter(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    int32_t bytecount);
+pd_status p4_pd_orbisk_switch_meter_bytecount_adjust_get_stormControlMeter(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    int32_t *bytecount);
+
+/* egressMirrorMeter: meter 0x05000003, 1024 cells by index, in bytes */
+pd_status p4_pd_orbisk_switch_meter_set_egressMirrorMeter(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    const pd_meter_spec *meter_spec);
+pd_status p4_pd_orbisk_switch_meter_read_egressMirrorMeter(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    pd_meter_spec *meter_spec);
+pd_status p4_pd_orbisk_switch_meter_bytecount_adjust_set_egressMirrorMeter(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    int32_t bytecount);
+pd_status p4_pd_orbisk_switch_meter_bytecount_adjust_get_egressMirrorMeter(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    int32_t *bytecount);
+
+/* ingressMirrorMeter: meter 0x05000002, 1024 cells by index, in bytes */
+pd_status p4_pd_orbisk_switch_meter_set_ingressMirrorMeter(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    const pd_meter_spec *meter_spec);
+pd_status p4_pd_orbisk_switch_meter_read_ingressMirrorMeter(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    pd_meter_spec *meter_spec);
+pd_status p4_pd_orbisk_switch_meter_bytecount_adjust_set_ingressMirrorMeter(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    int32_t bytecount);
+pd_status p4_pd_orbisk_switch_meter_bytecount_adjust_get_ingressMirrorMeter(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    int32_t *bytecount);
+
+/* pdpMeter: meter 0x15010001, 1024 cells by index, in packets */
+pd_status p4_pd_orbisk_switch_meter_set_pdpMeter(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    const pd_meter_spec *meter_spec);
+pd_status p4_pd_orbisk_switch_meter_read_pdpMeter(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    pd_meter_spec *meter_spec);
+pd_status p4_pd_orbisk_switch_meter_bytecount_adjust_set_pdpMeter(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    int32_t bytecount);
+pd_status p4_pd_orbisk_switch_meter_bytecount_adjust_get_pdpMeter(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    int32_t *bytecount);
+
+/* ingStpCheckData: register 0x06000001, 4096 indices of 1 bit per pipe */
+pd_status p4_pd_orbisk_switch_register_hw_sync_ingStpCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_register_sync_cb cb_fn,
+    void *cb_cookie);
+pd_status p4_pd_orbisk_switch_register_read_ingStpCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    uint32_t flags,
+    uint8_t *register_values,
+    uint32_t *value_count);
+pd_status p4_pd_orbisk_switch_register_write_ingStpCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    const uint8_t *register_value);
+pd_status p4_pd_orbisk_switch_register_reset_all_ingStpCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_register_write_all_ingStpCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const uint8_t *register_value);
+pd_status p4_pd_orbisk_switch_register_range_reset_ingStpCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    uint32_t count);
+pd_status p4_pd_orbisk_switch_register_range_read_ingStpCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    uint32_t count,
+    uint32_t flags,
+    uint32_t *num_actually_read,
+    uint8_t *register_values,
+    uint32_t *value_count);
+
+/* ingVlanCheckData: register 0x06000002, 4096 indices of 1 bit per pipe */
+pd_status p4_pd_orbisk_switch_register_hw_sync_ingVlanCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_register_sync_cb cb_fn,
+    void *cb_cookie);
+pd_status p4_pd_orbisk_switch_register_read_ingVlanCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    uint32_t flags,
+    uint8_t *register_values,
+    uint32_t *value_count);
+pd_status p4_pd_orbisk_switch_register_write_ingVlanCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    const uint8_t *register_value);
+pd_status p4_pd_orbisk_switch_register_reset_all_ingVlanCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_register_write_all_ingVlanCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const uint8_t *register_value);
+pd_status p4_pd_orbisk_switch_register_range_reset_ingVlanCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    uint32_t count);
+pd_status p4_pd_orbisk_switch_register_range_read_ingVlanCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    uint32_t count,
+    uint32_t flags,
+    uint32_t *num_actually_read,
+    uint8_t *register_values,
+    uint32_t *value_count);
+
+/* egrStpCheckData: register 0x06000006, 4096 indices of 1 bit per pipe */
+pd_status p4_pd_orbisk_switch_register_hw_sync_egrStpCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_register_sync_cb cb_fn,
+    void *cb_cookie);
+pd_status p4_pd_orbisk_switch_register_read_egrStpCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    uint32_t flags,
+    uint8_t *register_values,
+    uint32_t *value_count);
+pd_status p4_pd_orbisk_switch_register_write_egrStpCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    const uint8_t *register_value);
+pd_status p4_pd_orbisk_switch_register_reset_all_egrStpCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_register_write_all_egrStpCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const uint8_t *register_value);
+pd_status p4_pd_orbisk_switch_register_range_reset_egrStpCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    uint32_t count);
+pd_status p4_pd_orbisk_switch_register_range_read_egrStpCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    uint32_t count,
+    uint32_t flags,
+    uint32_t *num_actually_read,
+    uint8_t *register_values,
+    uint32_t *value_count);
+
+/* egrVlanCheckData: register 0x06000007, 4096 indices of 1 bit per pipe */
+pd_status p4_pd_orbisk_switch_register_hw_sync_egrVlanCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_register_sync_cb cb_fn,
+    void *cb_cookie);
+pd_status p4_pd_orbisk_switch_register_read_egrVlanCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    uint32_t flags,
+    uint8_t *register_values,
+    uint32_t *value_count);
+pd_status p4_pd_orbisk_switch_register_write_egrVlanCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    const uint8_t *register_value);
+pd_status p4_pd_orbisk_switch_register_reset_all_egrVlanCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_register_write_all_egrVlanCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const uint8_t *register_value);
+pd_status p4_pd_orbisk_switch_register_range_reset_egrVlanCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    uint32_t count);
+pd_status p4_pd_orbisk_switch_register_range_read_egrVlanCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    uint32_t count,
+    uint32_t flags,
+    uint32_t *num_actually_read,
+    uint8_t *register_values,
+    uint32_t *value_count);
+
+/* Sets a cell of any packet meter table; a type above 1, or colour-aware
+ * without a pre-colour, ends the process. */
+pd_status p4_pd_orbisk_switch_packets_meter_set(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    uint32_t index,
+    const pd_meter_spec *meter_spec,
+    bool has_pre_color);
+/* Reads a cell of any meter table back; untouched on failure. */
+pd_status p4_pd_orbisk_switch_packets_meter_read(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    uint32_t index,
+    pd_meter_spec *meter_spec);
+/* Sets a cell of any byte meter table, with the same checks. */
+pd_status p4_pd_orbisk_switch_bytes_meter_set(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    uint32_t index,
+    const pd_meter_spec *meter_spec,
+    bool has_pre_color);
+/* Reads a cell of any meter table back, as packets_meter_read. */
+pd_status p4_pd_orbisk_switch_bytes_meter_read(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    uint32_t index,
+    pd_meter_spec *meter_spec);
+/* Sets a cell of any WRED table; the record goes as it is. */
+pd_status p4_pd_orbisk_switch_wred_set(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    uint32_t index,
+    const pd_wred_spec *wred_spec);
+/* Reads an entry's cell of any direct register into the caller's query
+ * record. */
+pd_status p4_pd_orbisk_switch_register_read_direct(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    uint32_t flags,
+    pd_register_query *register_values);
+/* Reads an index of any register into the caller's query record. */
+pd_status p4_pd_orbisk_switch_register_read_indirect(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    uint32_t index,
+    uint32_t flags,
+    pd_register_query *register_values);
+/* Writes an entry's cell of any direct register; the one handle names the
+ * table and the register, and the device goes as one byte. */
+pd_status p4_pd_orbisk_switch_register_write_direct(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const pd_register_element *register_value);
+/* Writes an index of any register with the caller's element. */
+pd_status p4_pd_orbisk_switch_register_write_indirect(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    uint32_t index,
+    const pd_register_element *register_value);
+/* Brings any direct register from the chip. */
+pd_status p4_pd_orbisk_switch_register_hw_sync_direct(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_register_sync_cb cb_fn,
+    void *cb_cookie);
+/* Brings any register from the chip. */
+pd_status p4_pd_orbisk_switch_register_hw_sync_indirect(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_register_sync_cb cb_fn,
+    void *cb_cookie);
+/* Every cell of any register back to its initial value. */
+pd_status p4_pd_orbisk_switch_register_reset_all_indirect(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl);
+/* A range of any register back to its initial value. */
+pd_status p4_pd_orbisk_switch_register_range_reset_indirect(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    uint32_t index,
+    uint32_t count);
+/* Every cell of any register to the caller's element. */
+pd_status p4_pd_orbisk_switch_register_write_all_indirect(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    const pd_register_element *register_value);
 
 /* ------------------------------------ action data read back --- */
 

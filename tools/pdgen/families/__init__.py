@@ -28,7 +28,7 @@ EXPORTED_OBJECTS = [o for g in GROUPS for o in getattr(g, "EXPORTED_OBJECTS", []
 
 
 # The families whose functions are not a table's.
-NOT_OF_TABLES = ("action", "profile", "program")
+NOT_OF_TABLES = ("action", "profile", "program", "resource", "service")
 
 
 def table_functions(t):
@@ -39,10 +39,12 @@ def table_functions(t):
 
 def documented_families():
     """The table, action and profile families, in the order of a table's
-    declarations (those of an action, then of a profile, last), for the
-    header's family list."""
+    declarations (those of an action, then of a profile, then of resources,
+    last), for the header's family list."""
     table = sorted((f for f in FAMILIES if f.each not in NOT_OF_TABLES), key=lambda f: f.place)
-    return table + [f for f in FAMILIES if f.each == "action"] + [f for f in FAMILIES if f.each == "profile"]
+    return (table + [f for f in FAMILIES if f.each == "action"]
+            + [f for f in FAMILIES if f.each == "profile"]
+            + [f for f in FAMILIES if f.each in ("resource", "service")])
 
 
 def action_functions(a):
@@ -63,8 +65,20 @@ def frame_functions():
     return [f.fn() for f in FAMILIES if f.each == "program"]
 
 
+def resource_functions(prog, r):
+    """Every exported function of one counter, meter or register."""
+    return [f.fn(r=r) for f in FAMILIES if f.each == "resource" and f.when(r)]
+
+
+def service_functions(group=None):
+    """The functions that stand once beside the resources (of one group)."""
+    return [f.fn() for f in FAMILIES if f.each == "service" and (group is None or f in group.FAMILIES)]
+
+
 def all_functions(prog):
-    fns = frame_functions()
+    fns = frame_functions() + service_functions()
+    for r in prog.resources.values():
+        fns += resource_functions(prog, r)
     for t in prog.tables:
         fns += table_functions(t)
     for a in prog.actions:

@@ -68,7 +68,8 @@ class Fn:
     family it belongs to, and the table and action it is for."""
 
     def __init__(self, name, result, args, family, table=None, action=None, kind=None,
-                 field=None, profile=None):
+                 field=None, profile=None, resource=None):
+        self.resource = resource
         self.name = name
         self.result = result
         self.args = args
@@ -108,7 +109,10 @@ class Family:
              per action a table allows as an entry's or as its default;
              'field': one per key field of a table (not its mask or prefix
              length); 'action': one per action of the program; 'profile': one
-             per action profile; 'program': one
+             per action profile; 'program': one; 'resource': one per counter,
+             meter or register ({r} its name, and its Args' functions get the
+             resource in place of the table); 'service': one, declared with
+             the resources
     when     which tables (or, for 'action', which actions, for 'profile',
              which profiles) have its functions
     place    (block, step): where its declarations stand among a table's; the
@@ -135,11 +139,15 @@ class Family:
         self.field_name = field_name
 
     def fn(self, t=None, a=None, f=None, r=None):
+        if self.each == "resource":
+            args = [x for arg in self.args for x in arg.resolve(r, None)]
+            return Fn(self.name.format(p=PREFIX, r=r.name), self.result, args, self.id, kind=self,
+                      resource=r)
         if self.each == "action":
             name = self.name.format(p=PREFIX, a=a.name)
             args = [x for arg in self.args for x in arg.resolve(None, a)]
             return Fn(name, self.result, args, self.id, action=a, kind=self)
-        if self.each == "program":
+        if self.each in ("program", "service"):
             args = [x for arg in self.args for x in arg.resolve(None, None)]
             return Fn(self.name.format(p=PREFIX), self.result, args, self.id, kind=self)
         if self.each == "profile":
