@@ -137,6 +137,40 @@ BENCH_OUT_OF_LINE pd_status reference_l2Lookup_add_l2LookupKnownUcast(
   return pipe_mgr_mat_ent_add(sess, tgt, 0x0100002fu, &key, 0x200000a6u, &act, 0, 0, entry_hdl);
 }
 
+// A direct counter read written out by hand: the query into a local record
+// and the swap into the caller's.
+BENCH_OUT_OF_LINE pd_status reference_counter_read_l2DmacClassifyCount(
+    pd_sess_hdl sess, uint32_t dev_id, pd_entry_hdl entry_hdl, uint32_t flags,
+    pd_counter_value *value) {
+  if (flags & 1u) {
+    pd_status s = pipe_mgr_direct_stat_ent_database_sync(sess, dev_id, 0x0100000au, entry_hdl);
+    if (s != BF_SUCCESS) return s;
+  }
+  pd_counter_record rec;
+  pd_status s = pipe_mgr_mat_ent_direct_stat_query(sess, dev_id, 0x0100000au, entry_hdl, &rec);
+  if (s != BF_SUCCESS) return s;
+  value->packets = rec.packets;
+  value->bytes = rec.bytes;
+  return BF_SUCCESS;
+}
+
+// The direct meter set written out by hand: one resource slot with the byte
+// meter's record, colour mode from the spec.
+BENCH_OUT_OF_LINE pd_status reference_meter_set_stormControlMeter(pd_sess_hdl sess, uint32_t dev_id,
+                                                                  pd_entry_hdl entry_hdl,
+                                                                  const pd_meter_spec *spec) {
+  pd_resource_record rec;
+  std::memset(&rec, 0, sizeof rec);
+  rec.resource_hdl = 0x05000001u;
+  rec.resource_tag = PD_RESOURCE_TAG_ATTACHED;
+  rec.resource_spec.meter.meter_type = spec->meter_type == PD_METER_TYPE_COLOR_UNAWARE ? 1u : 0u;
+  rec.resource_spec.meter.cir = spec->cir;
+  rec.resource_spec.meter.cburst = spec->cburst;
+  rec.resource_spec.meter.pir = spec->pir;
+  rec.resource_spec.meter.pburst = spec->pburst;
+  return pipe_mgr_mat_ent_set_resource(sess, dev_id, 0x01000030u, entry_hdl, &rec, 1, 0);
+}
+
 }  // namespace orbisk_bench
 
 namespace {
@@ -255,6 +289,33 @@ pd_status case_l2Lookup_get_entry(uint32_t i) {
   return s;
 }
 
+// Schema text: the longest table text, written into a buffer just big
+// enough; the same table through the dispatch by handle; and an action tuple,
+// which is a constant handed out as it stands.
+char g_schema[3020];
+static_assert(sizeof g_schema == P4_PD_ORBISK_SWITCH_SCHEMA_MAX);
+
+pd_status case_finalDropControl_schema(uint32_t) {
+  int n = p4_pd_orbisk_switch_finalDropControl_schema(g_schema);
+  benchmark::DoNotOptimize(g_schema);
+  return n == 3019 ? BF_SUCCESS : 1;
+}
+
+pd_status case_cli_schema_by_handle(uint32_t i) {
+  pd_tbl_hdl hdl = 0x01000057u;  // finalDropControl
+  benchmark::DoNotOptimize(hdl);
+  benchmark::DoNotOptimize(i);
+  int n = p4_pd_orbisk_switch_cli_schema(hdl, g_schema);
+  benchmark::DoNotOptimize(g_schema);
+  return n == 3019 ? BF_SUCCESS : 1;
+}
+
+pd_status case_setNextHop_schema(uint32_t) {
+  const char *text = p4_pd_orbisk_switch_setNextHop_schema();
+  benchmark::DoNotOptimize(text);
+  return text[0] == '(' ? BF_SUCCESS : 1;
+}
+
 // The floor under every add: the same input handling and one driver call
 // with records built once, outside the loop.
 pd_status case_driver_call_only(uint32_t i) {
@@ -269,6 +330,40 @@ pd_status case_driver_call_only(uint32_t i) {
                                      &hdl);
   benchmark::DoNotOptimize(hdl);
   return s;
+}
+
+pd_status case_counter_read(uint32_t i) {
+  pd_counter_value v;
+  pd_entry_hdl hdl = 1 + (i & 0xFFFFu);
+  benchmark::DoNotOptimize(hdl);
+  pd_status s = p4_pd_orbisk_switch_counter_read_l2DmacClassifyCount(kSess, 0, hdl, 0, &v);
+  benchmark::DoNotOptimize(v);
+  return s;
+}
+
+pd_status case_counter_read_reference(uint32_t i) {
+  pd_counter_value v;
+  pd_entry_hdl hdl = 1 + (i & 0xFFFFu);
+  benchmark::DoNotOptimize(hdl);
+  pd_status s = orbisk_bench::reference_counter_read_l2DmacClassifyCount(kSess, 0, hdl, 0, &v);
+  benchmark::DoNotOptimize(v);
+  return s;
+}
+
+pd_status case_meter_set(uint32_t i) {
+  pd_meter_spec m{1000u + (i & 0xFFu), 200, 2000, 400, PD_METER_TYPE_COLOR_UNAWARE};
+  pd_entry_hdl hdl = 1 + (i & 0xFFFFu);
+  benchmark::DoNotOptimize(m);
+  benchmark::DoNotOptimize(hdl);
+  return p4_pd_orbisk_switch_meter_set_stormControlMeter(kSess, 0, hdl, &m);
+}
+
+pd_status case_meter_set_reference(uint32_t i) {
+  pd_meter_spec m{1000u + (i & 0xFFu), 200, 2000, 400, PD_METER_TYPE_COLOR_UNAWARE};
+  pd_entry_hdl hdl = 1 + (i & 0xFFFFu);
+  benchmark::DoNotOptimize(m);
+  benchmark::DoNotOptimize(hdl);
+  return orbisk_bench::reference_meter_set_stormControlMeter(kSess, 0, hdl, &m);
 }
 
 // A flow's five fields, hashed: protocol, source and destination address,
@@ -346,25 +441,34 @@ struct Case {
   const char *name;
   LoopFn loop;
   void (*bench)(benchmark::State &);
-  bool writes;  // a write path: must not allocate
+  // "write" (a write path), "text" (schema text) or "resource" (a counter or
+  // meter call): must not allocate; "hash" (allocates its stream for the
+  // call, as the reference does); "read"
+  const char *kind;
 };
 
 template <CaseFn F>
-constexpr Case make_case(const char *name, bool writes) {
-  return Case{name, run_loop<F>, run_benchmark<F>, writes};
+constexpr Case make_case(const char *name, const char *kind) {
+  return Case{name, run_loop<F>, run_benchmark<F>, kind};
 }
 
 constexpr Case kCases[] = {
-    make_case<case_l2Lookup_add>("l2Lookup_add", true),
-    make_case<case_l2Lookup_add_reference>("l2Lookup_add_reference", true),
-    make_case<case_l2DomainLookup_add>("l2DomainLookup_add", true),
-    make_case<case_ipv4ShortMaskLpm_add>("ipv4ShortMaskLpm_add", true),
-    make_case<case_ipv6FinalResolve_add>("ipv6FinalResolve_add", true),
-    make_case<case_l2Lookup_get_entry>("l2Lookup_get_entry", false),
-    make_case<case_driver_call_only>("driver_call_only", true),
-    // Hashing allocates its stream for the call, as the reference does.
-    make_case<case_hash_5_fields>("calculate_hash_value_5_fields", false),
-    make_case<case_hash_5_fields_reference>("calculate_hash_value_5_fields_reference", false),
+    make_case<case_l2Lookup_add>("l2Lookup_add", "write"),
+    make_case<case_l2Lookup_add_reference>("l2Lookup_add_reference", "write"),
+    make_case<case_l2DomainLookup_add>("l2DomainLookup_add", "write"),
+    make_case<case_ipv4ShortMaskLpm_add>("ipv4ShortMaskLpm_add", "write"),
+    make_case<case_ipv6FinalResolve_add>("ipv6FinalResolve_add", "write"),
+    make_case<case_l2Lookup_get_entry>("l2Lookup_get_entry", "read"),
+    make_case<case_driver_call_only>("driver_call_only", "write"),
+    make_case<case_finalDropControl_schema>("finalDropControl_schema", "text"),
+    make_case<case_cli_schema_by_handle>("cli_schema_by_handle", "text"),
+    make_case<case_setNextHop_schema>("setNextHop_schema", "text"),
+    make_case<case_counter_read>("counter_read_l2DmacClassifyCount", "resource"),
+    make_case<case_counter_read_reference>("counter_read_l2DmacClassifyCount_reference", "resource"),
+    make_case<case_meter_set>("meter_set_stormControlMeter", "resource"),
+    make_case<case_meter_set_reference>("meter_set_stormControlMeter_reference", "resource"),
+    make_case<case_hash_5_fields>("calculate_hash_value_5_fields", "hash"),
+    make_case<case_hash_5_fields_reference>("calculate_hash_value_5_fields_reference", "hash"),
 };
 
 const Case *find_case(std::string_view name) {
@@ -424,7 +528,7 @@ int main(int argc, char **argv) {
     return 1;
   }
   if (argc >= 2 && std::strcmp(argv[1], "--list") == 0) {
-    for (const Case &c : kCases) std::printf("%s %s\n", c.name, c.writes ? "write" : "read");
+    for (const Case &c : kCases) std::printf("%s %s\n", c.name, c.kind);
     return 0;
   }
   if (argc >= 2 && std::strcmp(argv[1], "--loop") == 0) {

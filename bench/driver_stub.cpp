@@ -200,6 +200,108 @@ pd_status pipe_register_mat_update_cb(pd_sess_hdl, uint32_t, pd_tbl_hdl, pd_mat_
   return BF_SUCCESS;
 }
 
+// Counters, meters and registers. A counter query answers a fixed cell, so
+// that the library's swap runs; a register query fills one element per pipe
+// of a two-pipe device.
+pd_status pipe_mgr_direct_stat_ent_database_sync(pd_sess_hdl, uint32_t, pd_tbl_hdl, pd_entry_hdl) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_mat_ent_direct_stat_query(pd_sess_hdl, uint32_t, pd_tbl_hdl, pd_entry_hdl,
+                                             pd_counter_record *value) {
+  value->bytes = 6400;
+  value->packets = 100;
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_mat_ent_direct_stat_set(pd_sess_hdl, uint32_t, pd_tbl_hdl, pd_entry_hdl,
+                                           pd_counter_record *) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_direct_stat_database_sync(pd_sess_hdl, pd_dev_target, pd_tbl_hdl,
+                                             pd_stat_sync_cb, void *) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_stat_ent_database_sync(pd_sess_hdl, pd_dev_target, pd_tbl_hdl, uint32_t) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_stat_ent_query(pd_sess_hdl, pd_dev_target, pd_tbl_hdl, uint32_t *, uint32_t,
+                                  pd_counter_record **values) {
+  values[0]->bytes = 6400;
+  values[0]->packets = 100;
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_stat_ent_set(pd_sess_hdl, pd_dev_target, pd_tbl_hdl, uint32_t,
+                                pd_counter_record *) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_stat_database_sync(pd_sess_hdl, pd_dev_target, pd_tbl_hdl, pd_stat_sync_cb,
+                                      void *) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_mat_ent_set_resource(pd_sess_hdl, uint32_t, pd_tbl_hdl, pd_entry_hdl,
+                                        pd_resource_record *, int, uint32_t) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_meter_read_entry(pd_sess_hdl, uint32_t, pd_tbl_hdl, pd_entry_hdl,
+                                    pd_meter_record *) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_meter_ent_set(pd_sess_hdl, pd_dev_target, pd_tbl_hdl, uint32_t,
+                                 pd_meter_record *, uint32_t) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_meter_read_entry_idx(pd_sess_hdl, pd_dev_target, pd_tbl_hdl, uint32_t,
+                                        pd_meter_record *, uint32_t) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_meter_set_bytecount_adjust(pd_sess_hdl, pd_dev_target, pd_tbl_hdl, int32_t) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_meter_get_bytecount_adjust(pd_sess_hdl, pd_dev_target, pd_tbl_hdl, int32_t *) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_wred_ent_set(pd_sess_hdl, pd_dev_target, pd_tbl_hdl, uint32_t, pd_wred_spec *,
+                                uint32_t) {
+  return BF_SUCCESS;
+}
+pd_status pipe_stful_query_get_sizes(pd_sess_hdl, pd_dev_target, pd_tbl_hdl, int *num_pipes) {
+  *num_pipes = 2;
+  return BF_SUCCESS;
+}
+pd_status pipe_stful_ent_query(pd_sess_hdl, pd_dev_target, pd_tbl_hdl, uint32_t,
+                               pd_register_query *query, uint32_t) {
+  for (int32_t i = 0; i < query->count; ++i) query->data[i].bytes[0] = 1;
+  return BF_SUCCESS;
+}
+pd_status pipe_stful_ent_query_range(pd_sess_hdl, pd_dev_target, pd_tbl_hdl, uint32_t,
+                                     uint32_t count, pd_register_query *, uint32_t *num_read,
+                                     uint32_t) {
+  *num_read = count;
+  return BF_SUCCESS;
+}
+pd_status pipe_stful_ent_set(pd_sess_hdl, pd_dev_target, pd_tbl_hdl, uint32_t,
+                             pd_register_element *, uint32_t) {
+  return BF_SUCCESS;
+}
+pd_status pipe_stful_table_reset(pd_sess_hdl, pd_dev_target, pd_tbl_hdl, pd_register_element *) {
+  return BF_SUCCESS;
+}
+pd_status pipe_stful_table_reset_range(pd_sess_hdl, pd_dev_target, pd_tbl_hdl, uint32_t, uint32_t,
+                                       uint32_t) {
+  return BF_SUCCESS;
+}
+pd_status pipe_stful_database_sync(pd_sess_hdl, pd_dev_target, pd_tbl_hdl, pd_register_sync_cb,
+                                   void *) {
+  return BF_SUCCESS;
+}
+pd_status pipe_stful_direct_ent_query(pd_sess_hdl, uint32_t, pd_tbl_hdl, pd_entry_hdl,
+                                      pd_register_query *, uint32_t) {
+  return BF_SUCCESS;
+}
+pd_status pipe_stful_direct_database_sync(pd_sess_hdl, uint32_t, pd_tbl_hdl, pd_register_sync_cb,
+                                          void *) {
+  return BF_SUCCESS;
+}
+
 // Hash calculations: the calculation answers its own handles, so the
 // library's handle checks pass.
 pd_status pipe_mgr_hash_calc_input_set(pd_sess_hdl, uint32_t, uint32_t, uint32_t) {

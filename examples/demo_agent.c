@@ -9,17 +9,22 @@
  *                         (l2LookupKnownUcast)
  *   - ipv4ShortMaskLpm:   10.1.2.0/24 in VRF 3 to next hop 42 (setNextHop)
  * Each entry is read back, printed in host form and compared with what was
- * written; then every entry is deleted and each table is checked to be
- * empty. Last, the route is added again with an idle time and left without
- * traffic until the driver reports it idle, and is then taken out. It
- * computes the ECMP hash of a flow, and prints a MAC learning digest the
- * driver delivers, then acknowledges it. A failed status ends the program at once, and any difference makes
- * it end with status 1; either is explained on stderr.
+ * written, and each table's schema text is printed (and read by python3,
+ * where it is on the path, as an agent's scripts would read it); then every
+ * entry is deleted and each table is checked to be empty. Last, the route is
+ * added again with an idle time and left without traffic until the driver
+ * reports it idle, and is then taken out. It computes the ECMP hash of a
+ * flow, and prints a MAC learning digest the driver delivers, then
+ * acknowledges it. A failed status ends the program at once, and any
+ * difference makes it end with status 1; either is explained on stderr.
  *
  * Only the library's interface is used, and the driver model's clock to let
  * time pass. The driver functions it calls come from whatever implements
  * them at load time: the chip's driver in a switch, the in-memory driver
  * model here. */
+/* popen and pclose, for handing schema text to python3. */
+#define _POSIX_C_SOURCE 200809L
+
 #include <inttypes.h>
 #include <stdbool.h>
 #include <stdint.h>
@@ -366,6 +371,48 @@ static void age_out_route(void) {
        "ipv4ShortMaskLpm idle_tmo_disable");
 }
 
+/* ---------------------------------------------------------- schemas --- */
+
+typedef int (*schema_fn)(char *out);
+
+/* What python3 says of a table's schema text: the literal evaluated, and the
+ * number of its key elements and actions. */
+#define PYTHON_READS_SCHEMA                                                     \
+  "python3 -c 'import ast, sys; s = ast.literal_eval(sys.stdin.read()); "      \
+  "print(\"    python3 reads it: key elements %d, actions %d\" % (len(s[1]), len(s[2])))'"
+
+/* The schema text of each table the demo programs: the shape an agent learns
+ * at run time, without any other metadata. */
+static void show_schemas(void) {
+  static const struct {
+    const char *table;
+    schema_fn schema;
+  } kSchemas[] = {
+      {"ingressPortMapping", p4_pd_orbisk_switch_ingressPortMapping_schema},
+      {"l2DomainLookup", p4_pd_orbisk_switch_l2DomainLookup_schema},
+      {"l2Lookup", p4_pd_orbisk_switch_l2Lookup_schema},
+      {"ipv4ShortMaskLpm", p4_pd_orbisk_switch_ipv4ShortMaskLpm_schema},
+  };
+  static char text[P4_PD_ORBISK_SWITCH_SCHEMA_MAX];
+  const bool python = system("command -v python3 >/dev/null 2>&1") == 0;
+  if (!python) printf("python3 is not on the path: schema texts are printed, not evaluated\n");
+  for (size_t i = 0; i < sizeof kSchemas / sizeof kSchemas[0]; ++i) {
+    const int length = kSchemas[i].schema(text);
+    printf("schema of %s, %d bytes:\n    %s\n", kSchemas[i].table, length, text);
+    expect_u32(kSchemas[i].table, "schema length", (uint32_t)strlen(text), (uint32_t)length);
+    if (!python) continue;
+    fflush(stdout);
+    FILE *reader = popen(PYTHON_READS_SCHEMA, "w");
+    bool read = reader != NULL && fputs(text, reader) != EOF;
+    if (reader != NULL) read = pclose(reader) == 0 && read;
+    if (!read) {
+      fprintf(stderr, "orbisk_demo: error: %s: python3 cannot read its schema text\n",
+              kSchemas[i].table);
+      ++g_failures;
+    }
+  }
+}
+
 /* -------------------------------------------------------- ECMP hash --- */
 
 /* The flow 10.0.0.1:49152 -> 192.168.0.1:443 over TCP, hashed the way the
@@ -468,6 +515,39 @@ static void expect_count(const char *table, count_fn fn, uint32_t want) {
   expect_u32(table, "entry count", count, want);
 }
 
+/* Traffic with an illegal source MAC on port 5 is dropped by the drop-check
+ * table, and its direct counter counts it. The model stands in for the
+ * chip's traffic; the agent syncs the cell from the chip as it reads. */
+static void count_drops(void) {
+  static const char *const table = "ingressPortDropCheck";
+  p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_t ms;
+  memset(&ms, 0, sizeof ms);
+  ms.ig_intr_md_ingress_port = 5;
+  ms.ingMd_illegalSmac = 1;
+  ms.ingMd_illegalSmac_mask = 1;
+  pd_entry_hdl hdl = 0;
+  must(p4_pd_orbisk_switch_ingressPortDropCheck_table_add_with_setDrop(SESS, kTarget, &ms, 10, &hdl),
+       "ingressPortDropCheck add");
+  pd_tbl_hdl tbl = 0;
+  must(p4_pd_orbisk_switch_ingressPortDropCheck_get_mat_table_handle(&tbl),
+       "ingressPortDropCheck table handle");
+
+  pd_counter_value zero = {0, 0};
+  must(p4_pd_orbisk_switch_counter_write_ingressPortDropCount(SESS, DEVICE, hdl, zero),
+       "ingressPortDropCount write");
+  must(orbisk_model_count_traffic(DEVICE, tbl, hdl, 42, 42 * 64), "traffic");
+  pd_counter_value v = {UINT64_MAX, UINT64_MAX};
+  must(p4_pd_orbisk_switch_counter_read_ingressPortDropCount(SESS, DEVICE, hdl, PD_READ_FROM_HW, &v),
+       "ingressPortDropCount read");
+  expect_u32(table, "dropped packets", (uint32_t)v.packets, 42);
+  expect_u32(table, "dropped bytes", (uint32_t)v.bytes, 42 * 64);
+  printf("%s entry %" PRIu32 ": illegal source MAC on port 5 dropped %" PRIu64 " packets, %" PRIu64
+         " bytes (ingressPortDropCount)\n",
+         table, (uint32_t)hdl, v.packets, v.bytes);
+  must(p4_pd_orbisk_switch_ingressPortDropCheck_table_delete(SESS, DEVICE, hdl),
+       "ingressPortDropCheck delete");
+}
+
 int main(void) {
   p4_pd_orbisk_switch_init();
   printf("registered with the driver as client %" PRIu32 "\n", bf_drv_hdl);
@@ -486,6 +566,7 @@ int main(void) {
   show_vlan_member(vlan);
   show_mac(mac);
   show_route(route);
+  show_schemas();
 
   must(p4_pd_orbisk_switch_ingressPortMapping_table_delete(SESS, DEVICE, port),
        "ingressPortMapping delete");
@@ -502,6 +583,7 @@ int main(void) {
   printf("deleted 4 entries; all four tables are empty\n");
 
   age_out_route();
+  count_drops();
   ecmp_hash();
   learn_mac();
 

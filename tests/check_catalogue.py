@@ -40,6 +40,8 @@ def main(root):
         "profile actions": (sum(len(p["actions"]) for p in program["profiles"]), 15),
         "counters": (len(program["counters"]), 17),
         "meters": (len(program["meters"]), 4),
+        "registers": (len(program["registers"]), 4),
+        "direct counters": (sum(1 for c in program["counters"] if c["kind"] == "direct"), 15),
         "hash calculations": (len(services["hash_calculations"]), 12),
         "hash calculations on the second algorithm": (
             sum(1 for h in services["hash_calculations"] if h["algorithm"] == "0x23000001"), 8),
@@ -72,10 +74,11 @@ def main(root):
                 print("%s/%s: enum %d names %s" % (t["name"], a["name"], a["enum"],
                                                    program["actions"][a["enum"]]))
                 failed.append(a["name"])
-    counters = [int(c["handle"], 16) for c in program["counters"]]
-    if len(set(counters)) != len(counters):
-        print("duplicate counter handles")
-        failed.append("counters")
+    for kind in ("counters", "meters", "registers"):
+        handles = [int(c["handle"], 16) for c in program[kind]]
+        if len(set(handles)) != len(handles):
+            print("duplicate %s handles" % kind)
+            failed.append(kind)
     print("catalogue: %d facts, %d failed" % (len(facts), len(failed)))
     return 1 if failed else 0
 

@@ -44,6 +44,14 @@ def main(lib, root):
                 add("unbuild_mask", "unbuild_mask_" + n)
         if direct:
             add("get_entry", "%s%s_get_entry" % (P, n))
+        # Schema text and widths.
+        add("table_schema", "%s%s_schema" % (P, n))
+        add("supports_entry_priority", "%s%s_supports_entry_priority" % (P, n))
+        if keyed:
+            add("match_spec_schema", "%s%s_match_spec_schema" % (P, n))
+        for f in t.get("fields", []):
+            field = f["name"][:-len("_valid")] if f["name"].endswith("_valid") else f["name"]
+            add("field_width", "%s%s_%s_width" % (P, n, field))
         for s in ("get_entry_count", "get_first_entry_handle", "get_next_entry_handles",
                   "table_get_default_entry", "table_get_default_entry_handle",
                   "table_reset_default_entry"):
@@ -66,9 +74,31 @@ def main(lib, root):
     for a, ps in params.items():
         if ps:
             add("unbuild_action_spec", "unbuild_action_spec_" + a)
+        add("action_schema", "%s%s_schema" % (P, a))
+    for p in program["profiles"]:
+        add("profile_schema", "%s%s_schema" % (P, p["name"]))
+    add("cli_schema", P + "cli_schema")
     for s in ("init", "cleanup", "dev_remove", "dev_log", "dev_restore", "device_state_cleanup",
               "action_enum_to_string", "action_string_to_enum"):
         add("frame", P + s)
+    for c in program["counters"]:
+        for s in ("counter_read_", "counter_write_", "counter_hw_sync_"):
+            add("counter", P + s + c["name"])
+    for m in program["meters"]:
+        for s in ("meter_set_", "meter_read_", "meter_bytecount_adjust_set_",
+                  "meter_bytecount_adjust_get_"):
+            add("meter", P + s + m["name"])
+    for s in ("packets_meter_set", "packets_meter_read", "bytes_meter_set", "bytes_meter_read",
+              "wred_set"):
+        add("meter_generic", P + s)
+    for r in program["registers"]:
+        for s in ("hw_sync_", "read_", "write_", "reset_all_", "write_all_", "range_reset_",
+                  "range_read_"):
+            add("register", P + "register_" + s + r["name"])
+    for s in ("read_direct", "read_indirect", "write_direct", "write_indirect", "hw_sync_direct",
+              "hw_sync_indirect", "reset_all_indirect", "range_reset_indirect",
+              "write_all_indirect"):
+        add("register_generic", P + "register_" + s)
     services = json.load(open(os.path.join(root, "catalogue", "services.json")))
     for h in services["hash_calculations"]:
         for s in ("input_set", "input_get", "algorithm_set", "algorithm_get", "seed_set",
@@ -100,6 +130,10 @@ def main(lib, root):
              "idle": 153, "set_property": 154, "get_property": 154, "get_mat_table_handle": 154,
              "register_mat_update_cb": 154,
              "frame": 8, "objects": 2,
+             "table_schema": 154, "match_spec_schema": 136, "action_schema": 296,
+             "profile_schema": 6, "cli_schema": 1, "field_width": 487,
+             "supports_entry_priority": 154,
+             "counter": 51, "meter": 16, "meter_generic": 5, "register": 28, "register_generic": 9,
              "hash_calc": 120, "pvs": 70, "digest": 9, "snapshot": 4}
     failed = False
     for k, v in known.items():

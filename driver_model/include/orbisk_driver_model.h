@@ -17,6 +17,10 @@
  *     enable state and the timeout callback; per entry its TTL and hit state.
  *   Properties: per device and table, each property's two values, and the
  *     table's update callback.
+ *   Counters, meters and registers: see "Counters, meters and registers".
+ *   Homes, empty for now, for what later driver services keep: action data
+ *     and selector tables per profile and device; digests; snapshots by
+ *     device and pipe; placement data.
  *   Hash calculations, parser value sets, learning digests and snapshots:
  *     see their sections below.
  *   Homes, empty for now, for what later driver services keep: action data
@@ -146,6 +150,48 @@
  *   PD_MAT_UPDATE_ADD, _MODIFY or _DELETE, and the cookie, outside the lock.
  *   Default entries are not entries here.
  *
+ * Counters, meters and registers
+ *   A direct counter or meter is reached by its match table's handle and an
+ *   entry of it; an indexed one by its own handle and an index below its
+ *   size (the catalogue's). Pipes: a device has ORBISK_MODEL_PIPES pipes;
+ *   counters and meters belong to the whole device (the pipe of a target is
+ *   logged only), registers keep a cell per pipe and index.
+ *   - Counters: each cell holds what the driver's memory holds and what the
+ *     chip has counted. orbisk_model_count_traffic adds packets and bytes to
+ *     the chip's count, as traffic would. A query answers the driver's
+ *     memory; an entry sync (pipe_mgr_direct_stat_ent_database_sync,
+ *     pipe_mgr_stat_ent_database_sync) brings one cell from the chip, a
+ *     database sync every cell of the counter on the device, then calls its
+ *     callback (device, cookie) outside the lock. A set writes both. A cell
+ *     never written reads 0; a direct cell goes with its entry's delete.
+ *     pipe_mgr_stat_ent_query checks every index before it fills any.
+ *   - Meters: an indexed meter's record is kept as set and read back as set
+ *     (all 0 before any set). A direct meter's record is the one in its
+ *     entry's resource slot, set by the entry's add or by
+ *     pipe_mgr_mat_ent_set_resource (which replaces the slot of the same
+ *     resource handle); read with the match table's handle, it answers that
+ *     slot's record, all 0 when the slot is detached. The byte-count
+ *     adjustment is kept per device and meter, by the meter's own handle,
+ *     0 before any set. The program has no WRED table: pipe_mgr_wred_ent_set
+ *     is ORBISK_MODEL_NO_SUCH_RESOURCE for every handle.
+ *   - Registers: pipe_stful_query_get_sizes answers the pipes of the target
+ *     (ORBISK_MODEL_PIPES for PD_DEV_PIPE_ALL, else 1). A query fills one
+ *     element per pipe, in pipe order, and needs room for them (count at
+ *     least that, else ORBISK_MODEL_BAD_RECORD); the chip and the driver's
+ *     shadow agree in the model, so bit 0 of the flags changes nothing. A
+ *     range query reads the indices from first that stand below the size,
+ *     fewer than asked when the range runs past it. Set writes the element
+ *     as given to every pipe of the target; a table reset sets every cell to
+ *     the element, or to 0 for a null one; a range reset sets the range to 0.
+ *     The program has no direct register: the direct calls are
+ *     ORBISK_MODEL_NO_SUCH_RESOURCE. Syncs call their callback (device,
+ *     cookie) outside the lock.
+ *   Checks run in this order: the handle (ORBISK_MODEL_NO_SUCH_TABLE for a
+ *   direct call on no table, ORBISK_MODEL_NO_SUCH_RESOURCE for a handle that
+ *   is no resource of the kind the call wants), the pipe
+ *   (ORBISK_MODEL_NO_SUCH_PIPE), null pointers and room
+ *   (ORBISK_MODEL_BAD_RECORD), the index (ORBISK_MODEL_INDEX_PAST_SIZE) or
+ *   the entry (ORBISK_MODEL_NO_SUCH_ENTRY). A refused call changes nothing.
  * Hash calculations
  *   Per device and hash calculation of the program: the input handle, the
  *   algorithm handle, the seed and the field attributes (driver records, kept
@@ -261,27 +307,37 @@ extern "C" {
 /* A call of the other idle mode: hit state in notify mode, reset of an
  * entry's idle time outside it. */
 #define ORBISK_MODEL_WRONG_IDLE_MODE ((pd_status)0x10C)
+/* A counter, meter or register call on a handle that is none of the
+ * program's resources of that kind (or a table that carries none). */
+#define ORBISK_MODEL_NO_SUCH_RESOURCE ((pd_status)0x120)
+/* An index at or past an indexed counter's, meter's or register's size. */
+#define ORBISK_MODEL_INDEX_PAST_SIZE ((pd_status)0x121)
+/* A target's pipe that is neither below ORBISK_MODEL_PIPES nor all pipes. */
+#define ORBISK_MODEL_NO_SUCH_PIPE ((pd_status)0x122)
+
+/* Pipes of every device. */
+#define ORBISK_MODEL_PIPES 4
 
 /* Hash calculations, value sets, digests and snapshots. */
 /* The hash handle is no hash calculation of the program. */
-#define ORBISK_MODEL_NO_SUCH_HASH ((pd_status)0x120)
+#define ORBISK_MODEL_NO_SUCH_HASH ((pd_status)0x130)
 /* An input or algorithm handle the calculation does not have (handle 0
  * among them). */
-#define ORBISK_MODEL_NOT_OF_HASH ((pd_status)0x121)
+#define ORBISK_MODEL_NOT_OF_HASH ((pd_status)0x131)
 /* The value set handle is no parser value set of the program. */
-#define ORBISK_MODEL_NO_SUCH_VALUE_SET ((pd_status)0x122)
+#define ORBISK_MODEL_NO_SUCH_VALUE_SET ((pd_status)0x132)
 /* The digest handle is no learning digest of the program. */
-#define ORBISK_MODEL_NO_SUCH_DIGEST ((pd_status)0x123)
+#define ORBISK_MODEL_NO_SUCH_DIGEST ((pd_status)0x133)
 /* No client subscribes to the digest on the device: a deregistration, or
  * entries learned, with nobody to deliver them to. */
-#define ORBISK_MODEL_NOT_SUBSCRIBED ((pd_status)0x124)
+#define ORBISK_MODEL_NOT_SUBSCRIBED ((pd_status)0x134)
 /* An acknowledgement of a message the model never delivered for that digest,
  * or one already acknowledged. */
-#define ORBISK_MODEL_NOT_DELIVERED ((pd_status)0x125)
+#define ORBISK_MODEL_NOT_DELIVERED ((pd_status)0x135)
 /* No snapshot has that handle (a deleted one included). */
-#define ORBISK_MODEL_NO_SUCH_SNAPSHOT ((pd_status)0x126)
+#define ORBISK_MODEL_NO_SUCH_SNAPSHOT ((pd_status)0x136)
 /* orbisk_model_snapshot_trigger on a snapshot whose trigger is not set. */
-#define ORBISK_MODEL_SNAPSHOT_NOT_ARMED ((pd_status)0x127)
+#define ORBISK_MODEL_SNAPSHOT_NOT_ARMED ((pd_status)0x137)
 
 /* Handle of the default entry of every table. */
 #define ORBISK_MODEL_DEFAULT_ENTRY_HDL ((pd_entry_hdl)0x80000000u)
@@ -359,6 +415,13 @@ void orbisk_model_advance_time(uint64_t ms);
  * finds it active. ORBISK_MODEL_NO_SUCH_TABLE, ORBISK_MODEL_NO_IDLE_TIME for
  * a table whose entries do not age, ORBISK_MODEL_NO_SUCH_ENTRY. */
 pd_status orbisk_model_mark_hit(uint32_t device_id, pd_tbl_hdl tbl, pd_entry_hdl entry_hdl);
+
+/* Counts traffic into a counter cell as the chip would: packets and bytes
+ * are added to the chip's count, which reads see after a sync. tbl is a
+ * direct counter's match table (cell an entry handle) or an indexed
+ * counter's own handle (cell an index). The statuses of the counter calls. */
+pd_status orbisk_model_count_traffic(uint32_t device_id, pd_tbl_hdl tbl, uint32_t cell,
+                                     uint64_t packets, uint64_t bytes);
 
 /* ------------------------------------------------------------ call log --- */
 
@@ -440,8 +503,8 @@ void orbisk_model_clear_log(void);
 size_t orbisk_model_live_allocations(void);
 /* Calls of bf_sys_calloc since the last reset. */
 size_t orbisk_model_allocation_count(void);
-/* The nth next bf_sys_calloc (1 = the next) answers null, as memory running
- * out would; 0 disarms. A reset disarms too. */
+/* Makes the nth next bf_sys_calloc answer null, as memory that ran out
+ * would; 0 disarms it. A reset disarms it too. */
 void orbisk_model_fail_allocation(uint32_t nth);
 
 /* -------------------------------------------------------- registration --- */

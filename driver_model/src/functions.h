@@ -37,6 +37,30 @@
   X(pipe_mgr_tbl_set_property)                 \
   X(pipe_mgr_tbl_get_property)                 \
   X(pipe_register_mat_update_cb)               \
+  X(pipe_mgr_direct_stat_ent_database_sync)    \
+  X(pipe_mgr_mat_ent_direct_stat_query)        \
+  X(pipe_mgr_mat_ent_direct_stat_set)          \
+  X(pipe_mgr_direct_stat_database_sync)        \
+  X(pipe_mgr_stat_ent_database_sync)           \
+  X(pipe_mgr_stat_ent_query)                   \
+  X(pipe_mgr_stat_ent_set)                     \
+  X(pipe_mgr_stat_database_sync)               \
+  X(pipe_mgr_mat_ent_set_resource)             \
+  X(pipe_mgr_meter_read_entry)                 \
+  X(pipe_mgr_meter_ent_set)                    \
+  X(pipe_mgr_meter_read_entry_idx)             \
+  X(pipe_mgr_meter_set_bytecount_adjust)       \
+  X(pipe_mgr_meter_get_bytecount_adjust)       \
+  X(pipe_mgr_wred_ent_set)                     \
+  X(pipe_stful_query_get_sizes)                \
+  X(pipe_stful_ent_query)                      \
+  X(pipe_stful_ent_query_range)                \
+  X(pipe_stful_ent_set)                        \
+  X(pipe_stful_table_reset)                    \
+  X(pipe_stful_table_reset_range)              \
+  X(pipe_stful_database_sync)                  \
+  X(pipe_stful_direct_ent_query)               \
+  X(pipe_stful_direct_database_sync)           \
   X(pipe_mgr_hash_calc_input_set)              \
   X(pipe_mgr_hash_calc_input_get)              \
   X(pipe_mgr_hash_calc_algorithm_set)          \

@@ -325,6 +325,15 @@ void MatchTable::set_action(Entry e, pd_act_fn_hdl fn, const pd_action_record &a
   write_action(e, fn, act);
 }
 
+pd_resource_record *MatchTable::slot(Entry e, uint32_t resource_hdl) {
+  auto it = slots_.find(e.place);
+  if (it == slots_.end()) return nullptr;
+  for (pd_resource_record &r : it->second) {
+    if (r.resource_hdl == resource_hdl) return &r;
+  }
+  return nullptr;
+}
+
 void MatchTable::erase(pd_entry_hdl hdl) {
   const uint32_t place = handles_.find(hdl);
   const Entry e = entry_at(place);

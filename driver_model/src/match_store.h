@@ -201,6 +201,8 @@ class MatchTable {
   void set_action(Entry e, pd_act_fn_hdl fn, const pd_action_record &act);
   void erase(pd_entry_hdl hdl);
   ActionView action(Entry e) const;
+  // An entry's resource slot for this resource handle; null for none.
+  pd_resource_record *slot(Entry e, uint32_t resource_hdl);
   pd_entry_hdl next(pd_entry_hdl after) const { return handles_.next(after); }
 
  private:

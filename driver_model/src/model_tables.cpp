@@ -73,6 +73,7 @@ void modified(Model &m, uint32_t device_id, const TableDesc &d, pd_entry_hdl hdl
 
 void deleted(Model &m, uint32_t device_id, const TableDesc &d, pd_entry_hdl hdl) {
   if (IdleStore::Table *t = m.idle.find(device_id, d.handle)) t->entries.erase(hdl);
+  m.resources.entry_deleted(device_id, d.handle, hdl);
   m.properties.updated(device_id, d.handle, hdl, PD_MAT_UPDATE_DELETE, m.notifications);
 }
 
@@ -396,6 +397,7 @@ size_t orbisk_model_device_count(void) {
     std::set<uint32_t> devices = m.tables.devices();
     // Idle time and properties are device state too, even on tables without entries.
     m.idle.add_devices(devices);
+    m.resources.add_devices(devices);
     m.properties.add_devices(devices);
     return devices.size();
   });

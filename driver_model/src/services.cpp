@@ -68,12 +68,9 @@ void orbisk_model_clear_log(void) {
   in_frame([](Model &m) { std::deque<std::string>().swap(m.log_lines.lines); });
 }
 
-void orbisk_model_fail_allocation(uint32_t nth) {
-  in_frame([&](Model &m) { m.allocations.fail_in = nth; });
-}
-
 void *bf_sys_calloc(size_t count, size_t size) {
-  const bool fail = in_frame([](Model &m) {
+  // An armed failure answers null, as memory that ran out would.
+  const bool fail = in_frame([&](Model &m) {
     return m.allocations.fail_in != 0 && --m.allocations.fail_in == 0;
   });
   if (fail) return nullptr;
@@ -100,6 +97,10 @@ void bf_sys_free(void *ptr) {
 
 size_t orbisk_model_live_allocations(void) {
   return in_frame([](Model &m) { return m.allocations.live.size(); });
+}
+
+void orbisk_model_fail_allocation(uint32_t nth) {
+  in_frame([&](Model &m) { m.allocations.fail_in = nth; });
 }
 
 size_t orbisk_model_allocation_count(void) {

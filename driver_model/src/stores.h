@@ -100,7 +100,7 @@ class AllocationStore final : public Store {
   // a block a client keeps on purpose is not taken for a leak.
   std::unordered_set<void *> retired;
   size_t count = 0;  // bf_sys_calloc calls since the last reset
-  uint32_t fail_in = 0;  // the fail_in-th next bf_sys_calloc answers null; 0 none
+  uint32_t fail_in = 0;  // the bf_sys_calloc call, counting from 1, that answers null; 0 none
 };
 
 // ------------------------------------- member selection (model_ms.cpp) ---
@@ -154,19 +154,46 @@ class ProfileStore final : public Store {
   std::map<std::pair<uint32_t, uint32_t>, Profile> profiles;  // by device, profile handle
 };
 
-// Counters, meters and registers addressed by index. The program keeps them
-// per pipe, so a cell is found by device, resource handle and pipe.
+// Counters, meters and registers (resource_store.cpp), per device. A counter
+// cell is named by its table handle (a direct counter's match table, an
+// indexed counter's own) and its entry handle or index; it holds what the
+// driver's memory holds (sw) and what the chip has counted (hw), which a
+// sync copies over. A direct meter's spec lives in its entry's resource slot
+// in the match store; indexed meters keep theirs here. A register cell is
+// kept per pipe; cells never written hold the pipe's fill value.
 class ResourceStore final : public Store {
  public:
-  struct Key {
+  struct Cell {
     uint32_t device_id;
-    uint32_t resource_hdl;
+    uint32_t tbl;
+    uint32_t cell;
+    auto operator<=>(const Cell &) const = default;
+  };
+  struct Counter {
+    pd_counter_record sw{};
+    pd_counter_record hw{};
+  };
+  struct RegisterPipe {
+    pd_register_element fill{};  // the value of every cell not in cells
+    std::map<uint32_t, pd_register_element> cells;
+  };
+  struct RegisterKey {
+    uint32_t device_id;
+    uint32_t handle;
     uint16_t pipe;
-    auto operator<=>(const Key &) const = default;
+    auto operator<=>(const RegisterKey &) const = default;
   };
   void clear() override;
   void drop_device(uint32_t device_id) override;
-  std::map<Key, std::vector<pd_resource_record>> cells;  // one record per index
+  // What an entry's delete takes with it.
+  void entry_deleted(uint32_t device_id, uint32_t tbl, pd_entry_hdl hdl);
+  // Adds the devices it keeps state for.
+  void add_devices(std::set<uint32_t> &devices) const;
+
+  std::map<Cell, Counter> counters;
+  std::map<Cell, pd_meter_record> meters;
+  std::map<std::pair<uint32_t, uint32_t>, int32_t> bytecount_adjust;  // device, meter handle
+  std::map<RegisterKey, RegisterPipe> registers;
 };
 
 // Idle time of the tables whose entries age, per device and table, and the

@@ -210,13 +210,40 @@ class Profile:
 
 
 class Resource:
-    def __init__(self, d, is_meter):
+    """A counter, meter or register. `cls` is "counter", "meter" or
+    "register"; a direct one has a cell per entry of its match table, an
+    indexed one `size` cells."""
+
+    # The top byte of a handle of each class, in the first and second space.
+    SPACES = {"counter": (0x04, 0x14), "meter": (0x05, 0x15), "register": (0x06,)}
+
+    def __init__(self, d, cls):
         self.name = d["name"]
-        self.kind = d["kind"]
+        self.cls = cls
+        self.kind = d.get("kind", "indirect")
         self.handle = int(d["handle"], 16)
         self.match_table = d.get("match_table")
-        self.is_meter = is_meter
+        self.is_meter = cls == "meter"
         self.unit = d.get("unit")
+        self.size = d.get("size", 0)
+        self.bits = d.get("bits", 0)
+        self.table = None  # the Table of a direct one
+        assert self.kind in ("direct", "indirect"), self.name
+        assert (self.handle >> 24) in self.SPACES[cls], self.name
+        assert (self.kind == "direct") == bool(self.match_table), self.name
+        assert (self.kind == "direct") == (self.size == 0), "an indexed resource has a size: " + self.name
+        assert not self.is_meter or self.unit in ("bytes", "packets"), self.name
+        assert (cls == "register") == (self.bits > 0), self.name
+
+    @property
+    def direct(self):
+        return self.kind == "direct"
+
+    @property
+    def driver_handle(self):
+        """The table handle its cells are reached by: the match table's for a
+        direct one, its own otherwise."""
+        return self.table.handle if self.direct else self.handle
 
 
 class Program:
@@ -234,13 +261,19 @@ class Program:
             for t in doc["tables"]:
                 self.tables.append(Table(t, doc["area"], area, self))
         self.profiles = [Profile(p, self) for p in prog["profiles"]]
+        for i, p in enumerate(self.profiles):
+            p.index = i  # place in the descriptors
         self.resources = {}
-        for c in prog["counters"]:
-            self.resources[c["name"]] = Resource(c, False)
-        for m in prog["meters"]:
-            self.resources[m["name"]] = Resource(m, True)
+        for cls in ("counter", "meter", "register"):
+            for d in prog[cls + "s"]:
+                assert d["name"] not in self.resources, d["name"]
+                self.resources[d["name"]] = Resource(d, cls)
         by_table = {t.name: t for t in self.tables}
         self.table = by_table
+        for r in self.resources.values():
+            if r.direct:
+                r.table = by_table[r.match_table]
+                assert r.table.resource == r.name, r.name
         for p in self.profiles:
             by_table[p.match_table].profile = p
             assert by_table[p.match_table].profile_name == p.name
@@ -273,6 +306,10 @@ class Program:
     def actions(self):
         """All actions in enum order."""
         return [self._actions[n] for n in self.enum_names]
+
+    def resources_of(self, cls):
+        """The counters, meters or registers in catalogue order."""
+        return [r for r in self.resources.values() if r.cls == cls]
 
     def direct_tables(self):
         return [t for t in self.tables if not t.indirect]

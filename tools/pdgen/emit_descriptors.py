@@ -46,6 +46,34 @@ def emit_limits(prog):
         "}  // namespace orbisk::pd", ""])
 
 
+def dense_index(desc, fn, array, rows):
+    """`fn`: the descriptor of `array` with a handle, or null, by a range test
+    and one load. Each pipeline's handles of one kind are a short run of low
+    numbers above a fixed base, so each base gets a dense table of indexes."""
+    assert len(rows) < 0xFF
+    tag = array[1:]
+    bases = sorted({h & 0xFFFF0000 for h, _ in rows})
+    o = ["namespace {", "constexpr uint8_t kNo%s = 0xFF;" % tag]
+    for b in bases:
+        hs = [(h & 0xFFFF, i) for h, i in rows if h & 0xFFFF0000 == b]
+        slots = ["kNo%s" % tag] * (max(h for h, _ in hs) + 1)
+        for h, i in hs:
+            slots[h] = str(i)
+        o.append("const uint8_t k%sByHandle_%08x[%d] = {%s};" % (tag, b, len(slots), ", ".join(slots)))
+    o += ["}  // namespace", "",
+          "const %s *%s(uint32_t handle) {" % (desc, fn),
+          "  uint8_t i = kNo%s;" % tag,
+          "  switch (handle & 0xFFFF0000u) {"]
+    for b in bases:
+        arr = "k%sByHandle_%08x" % (tag, b)
+        o += ["    case %s:" % hx(b),
+              "      if ((handle & 0xFFFFu) < sizeof %s) i = %s[handle & 0xFFFFu];" % (arr, arr),
+              "      break;"]
+    o += ["    default:", "      break;", "  }",
+          "  return i == kNo%s ? nullptr : &%s[i];" % (tag, array), "}", ""]
+    return o
+
+
 def emit(prog):
     o = ["// Generated from the catalogue. Do not edit.",
          '#include "descriptors.h"', "", '#include "orbisk_switch/pd.h"', "",
@@ -108,11 +136,21 @@ def emit(prog):
     o.append("const ResourceDesc kResources[] = {")
     for n in res_names:
         r = prog.resources[n]
-        o.append('    {"%s", %s, ResourceKind::%s, %s, %s},' % (
-            r.name, hx(r.handle), "Meter" if r.is_meter else "Counter",
-            "true" if r.kind == "direct" else "false", "true" if r.unit == "packets" else "false"))
+        o.append('    {"%s", %s, ResourceKind::%s, %s, %s, %s, %d, %d},' % (
+            r.name, hx(r.handle), r.cls.capitalize(),
+            "true" if r.direct else "false", "true" if r.unit == "packets" else "false",
+            hx(r.driver_handle), r.size, r.bits))
     o.append("};")
     o.append("const std::size_t kNumResources = %d;" % len(res_names))
+    o.append("")
+    # Not on a hot path: the model and the tests look resources up.
+    o.append("const ResourceDesc *find_resource(uint32_t handle, ResourceKind kind) {")
+    o.append("  for (std::size_t i = 0; i < kNumResources; ++i) {")
+    o.append("    const ResourceDesc &r = kResources[i];")
+    o.append("    if (r.kind == kind && (r.handle == handle || r.table_hdl == handle)) return &r;")
+    o.append("  }")
+    o.append("  return nullptr;")
+    o.append("}")
     o.append("")
 
     table_index = {t.name: i for i, t in enumerate(prog.tables)}
@@ -151,33 +189,9 @@ def emit(prog):
     o.append("const std::size_t kNumTables = %d;" % len(prog.tables))
     o.append("")
 
-    # Dense index by handle: each pipeline's handles are a short run of low
-    # numbers above a fixed base.
-    bases = sorted({t.handle & 0xFFFF0000 for t in prog.tables})
-    o.append("namespace {")
-    o.append("constexpr uint8_t kNone = 0xFF;")
-    for b in bases:
-        ts = [(t.handle & 0xFFFF, table_index[t.name]) for t in prog.tables if t.handle & 0xFFFF0000 == b]
-        top = max(h for h, _ in ts) + 1
-        slots = ["kNone"] * top
-        for h, i in ts:
-            slots[h] = str(i)
-        o.append("const uint8_t kByHandle_%08x[%d] = {%s};" % (b, top, ", ".join(slots)))
-    o.append("}  // namespace")
-    o.append("")
-    o.append("const TableDesc *find_table(pd_tbl_hdl handle) {")
-    o.append("  uint8_t i = kNone;")
-    o.append("  switch (handle & 0xFFFF0000u) {")
-    for b in bases:
-        o.append("    case %s:" % hx(b))
-        o.append("      if ((handle & 0xFFFFu) < sizeof kByHandle_%08x) i = kByHandle_%08x[handle & 0xFFFFu];" % (b, b))
-        o.append("      break;")
-    o.append("    default:")
-    o.append("      break;")
-    o.append("  }")
-    o.append("  return i == kNone ? nullptr : &kTables[i];")
-    o.append("}")
-    o.append("")
+    o += dense_index("TableDesc", "find_table", "kTables", [(t.handle, i) for i, t in enumerate(prog.tables)])
+    o += dense_index("ProfileDesc", "find_profile", "kProfiles",
+                     [(p.adt, i) for i, p in enumerate(prog.profiles)])
     assert len(prog.tables) < 0xFF
     o += services(prog.services)
     o.append("}  // namespace orbisk::pd")

@@ -28,7 +28,9 @@ INTRO = """\
  *  - Every record and string lives on the caller's stack for one call; the
  *    driver copies what it keeps. Nothing is allocated on a write.
  *
- * Families, for <t> a table and <a> an action of it:"""
+ * Families, for <t> a table, <a> an action of it, <f> a key field of it,
+ * <r> an action profile or, in the resources' families, a counter, meter or
+ * register:"""
 
 
 def family_list():
@@ -38,7 +40,7 @@ def family_list():
     for fam in families.documented_families():
         o += textwrap.wrap(fam.doc_line(), 78, initial_indent=" *  ", subsequent_indent=" *      ",
                            break_on_hyphens=False)
-    services = families.service_families()
+    services = families.item_families()
     if services:
         o += [" *", " * Services of the program, for <h> a hash calculation, <v> a parser value",
               " * set and <d> a learning digest:"]
@@ -70,6 +72,34 @@ def describe(t):
     return ", ".join(bits)
 
 
+def resource_sections(prog):
+    """Each group's functions of counters, meters and registers, by
+    resource, then the group's functions that stand once, documented."""
+    o = []
+    for g in families.GROUPS:
+        fams = [f for f in g.FAMILIES if f.each in ("resource", "service")]
+        if not fams:
+            continue
+        o.append("/* %s */" % ("-" * 66))
+        o.append("/* %s */" % g.TITLE)
+        o.append("/* %s */" % ("-" * 66))
+        o.append("")
+        for r in prog.resources.values():
+            fns = [f for f in families.resource_functions(prog, r) if f.kind in fams]
+            if not fns:
+                continue
+            o.append("/* %s: %s */" % (r.name, g.describe(r)))
+            for f in fns:
+                o.append(f.proto() + ";")
+            o.append("")
+        for f in families.service_functions(g):
+            o += textwrap.wrap(f.kind.doc, 74, initial_indent="/* ", subsequent_indent=" * ")
+            o[-1] += " */"
+            o.append(f.proto() + ";")
+        o.append("")
+    return o
+
+
 def emit(prog):
     o = [INTRO] + family_list() + ["#ifndef ORBISK_SWITCH_PD_H", "#define ORBISK_SWITCH_PD_H", "",
          "#include <stdbool.h>", "", '#include "orbisk_switch/pd_records.h"',
@@ -90,6 +120,8 @@ def emit(prog):
     o.append("/* Room for any full action name and its final zero. */")
     o.append("#define P4_PD_ORBISK_SWITCH_ACTION_NAME_MAX %d" % longest)
     o.append("")
+    for group in families.GROUPS:
+        o += group.header_lines(prog) if hasattr(group, "header_lines") else []
     o.append("/* Full action names, with the prefix, in enum order. */")
     o.append("extern const char *const %saction_name_strings[%d];" % (PREFIX, len(prog.enum_names)))
     o.append("")
@@ -120,7 +152,7 @@ def emit(prog):
     o.append("PD_STATIC_ASSERT(offsetof(p4_pd_orbisk_switch_action_specs_t, u) == 4,")
     o.append("                 \"parameters from the fourth byte on\");")
     o.append("")
-    o.append("/* ---------------------------------------------------- lifecycle --- */")
+    o.append("/* ---------------------------------------- lifecycle and dispatch --- */")
     o.append("")
     for f in families.frame_functions():
         o.append("/* %s */" % f.kind.doc)
@@ -143,15 +175,21 @@ def emit(prog):
         for f in families.table_functions(t):
             o.append(f.proto() + ";")
         o.append("")
+    o.append("/* --------------------------------------------- action profiles --- */")
+    o.append("")
+    for r in prog.profiles:
+        o.append("/* %s: action data table 0x%08x, selector table 0x%08x, for %s */" % (
+            r.name, r.adt, r.sel, r.match_table))
+        for f in families.profile_functions(r):
+            o.append(f.proto() + ";")
+    o.append("")
+    o += resource_sections(prog)
     o.append("/* ------------------------------------ action data read back --- */")
     o.append("")
     for a in prog.actions:
         for f in families.action_functions(a):
             o.append(f.proto() + ";")
-    head = families.service_header_lines(prog)
-    if head:
-        o += [""] + head
-    for section, fns in families.service_sections(prog):
+    for section, fns in families.item_sections(prog):
         o.append("")
         o.append("/* %s */" % (" " + section + " ---").rjust(66, "-"))
         item = None

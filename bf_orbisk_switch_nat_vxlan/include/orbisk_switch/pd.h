@@ -18,7 +18,9 @@
  *  - Every record and string lives on the caller's stack for one call; the
  *    driver copies what it keeps. Nothing is allocated on a write.
  *
- * Families, for <t> a table and <a> an action of it:
+ * Families, for <t> a table, <a> an action of it, <f> a key field of it,
+ * <r> an action profile or, in the resources' families, a counter, meter or
+ * register:
  *  <t>_table_add_with_<a>(sess, target, match spec, [priority], [action
  *      spec], [meter spec], [ttl], out entry handle): adds an entry. A NULL
  *      meter spec ends the process; the index of a counter or meter cell goes
@@ -82,8 +84,84 @@
  *      match spec.
  *  unbuild_mask_<t>(key record, out match spec): its masks or prefix length
  *      into the same match spec.
+ *  <t>_match_spec_schema(): the key tuple: a constant NUL-terminated text.
+ *  <t>_schema(out text): writes the table's schema text and a NUL
+ *      (P4_PD_ORBISK_SWITCH_SCHEMA_MAX bytes suffice); its length.
+ *  <t>_<f>_width(): the key field's width in bits.
+ *  <t>_supports_entry_priority(): 1 when the table's key has a mask field,
+ *      else 0.
+ *  <a>_schema(): the action tuple: a constant NUL-terminated text.
  *  unbuild_action_spec_<a>(action record, [resources], [count], out action
  *      spec): an action record's data into an action spec.
+ *  <r>_schema(out text): writes the profile's action tuples as schema text
+ *      and a NUL; its length.
+ *  counter_read_<r>(sess, [device id], [target], [entry handle], [index],
+ *      flags, out value): reads a counter cell, from the chip first when bit
+ *      0 of the flags is set; untouched on failure.
+ *  counter_write_<r>(sess, [device id], [target], [entry handle], [index],
+ *      value): writes a counter cell.
+ *  counter_hw_sync_<r>(sess, target, callback, cookie): brings every cell of
+ *      a counter from the chip; the driver calls the callback when done.
+ *  meter_set_<r>(sess, [device id], [target], [entry handle], [index], spec):
+ *      sets a meter cell's rates and bursts in the meter's unit; a type above
+ *      1 is logged and taken as colour-aware.
+ *  meter_read_<r>(sess, [device id], [target], [entry handle], [index], out
+ *      spec): reads a meter cell back: values cut to 32 bits, the driver's
+ *      type as it is; untouched on failure.
+ *  meter_bytecount_adjust_set_<r>(sess, target, adjustment): sets the bytes a
+ *      meter adds to each packet's length.
+ *  meter_bytecount_adjust_get_<r>(sess, target, out adjustment): reads that
+ *      adjustment back.
+ *  register_hw_sync_<r>(sess, target, callback, cookie): brings every cell of
+ *      a register from the chip; the driver calls the callback when done.
+ *  register_read_<r>(sess, target, index, flags, out values, out count):
+ *      reads one index, a byte per pipe (room for one per pipe), from the
+ *      chip with bit 0 of the flags; 2 when memory runs out.
+ *  register_write_<r>(sess, target, index, value): writes one index: any
+ *      nonzero byte is 1.
+ *  register_reset_all_<r>(sess, target): every cell back to the register's
+ *      initial value.
+ *  register_write_all_<r>(sess, target, value): every cell to one value: any
+ *      nonzero byte is 1.
+ *  register_range_reset_<r>(sess, target, first index, count): count cells
+ *      from the first back to the initial value.
+ *  register_range_read_<r>(sess, target, first index, count, flags, out
+ *      indices read, out values, out count): reads count indices: the values
+ *      grouped by index, by pipe inside one, for the indices the driver read;
+ *      2 when memory runs out.
+ *  packets_meter_set(sess, target, table handle, index, spec, has
+ *      pre-colour): Sets a cell of any packet meter table; a type above 1, or
+ *      colour-aware without a pre-colour, ends the process.
+ *  packets_meter_read(sess, target, table handle, index, out spec): Reads a
+ *      cell of any meter table back; untouched on failure.
+ *  bytes_meter_set(sess, target, table handle, index, spec, has pre-colour):
+ *      Sets a cell of any byte meter table, with the same checks.
+ *  bytes_meter_read(sess, target, table handle, index, out spec): Reads a
+ *      cell of any meter table back, as packets_meter_read.
+ *  wred_set(sess, target, table handle, index, spec): Sets a cell of any WRED
+ *      table; the record goes as it is.
+ *  register_read_direct(sess, device id, table handle, entry handle, flags,
+ *      query record): Reads an entry's cell of any direct register into the
+ *      caller's query record.
+ *  register_read_indirect(sess, target, table handle, index, flags, query
+ *      record): Reads an index of any register into the caller's query
+ *      record.
+ *  register_write_direct(sess, device id, table handle, entry handle,
+ *      element): Writes an entry's cell of any direct register; the one
+ *      handle names the table and the register, and the device goes as one
+ *      byte.
+ *  register_write_indirect(sess, target, table handle, index, element):
+ *      Writes an index of any register with the caller's element.
+ *  register_hw_sync_direct(sess, device id, table handle, callback, cookie):
+ *      Brings any direct register from the chip.
+ *  register_hw_sync_indirect(sess, target, table handle, callback, cookie):
+ *      Brings any register from the chip.
+ *  register_reset_all_indirect(sess, target, table handle): Every cell of any
+ *      register back to its initial value.
+ *  register_range_reset_indirect(sess, target, table handle, first index,
+ *      count): A range of any register back to its initial value.
+ *  register_write_all_indirect(sess, target, table handle, element): Every
+ *      cell of any register to the caller's element.
  *
  * Services of the program, for <h> a hash calculation, <v> a parser value
  * set and <d> a learning digest:
@@ -474,6 +552,20 @@ typedef enum p4_pd_orbisk_switch_action_names {
 
 /* Room for any full action name and its final zero. */
 #define P4_PD_ORBISK_SWITCH_ACTION_NAME_MAX 61
+
+/* Room for any text a <t>_schema, <r>_schema or cli_schema writes, its
+ * final zero included. */
+#define P4_PD_ORBISK_SWITCH_SCHEMA_MAX 3020
+
+/* The snapshot record: the program's header vector fields, packed with no
+ * alignment, as a trigger value or mask and as one captured record. */
+#define P4_PD_ORBISK_SWITCH_SNAPSHOT_RECORD_BYTES 794
+/* The most captured records one read gives: the caller's array holds as many. */
+#define P4_PD_ORBISK_SWITCH_SNAPSHOT_CAPTURES 20
+typedef struct p4_pd_orbisk_switch_snapshot_record {
+  uint8_t bytes[P4_PD_ORBISK_SWITCH_SNAPSHOT_RECORD_BYTES];
+} p4_pd_orbisk_switch_snapshot_record_t;
+PD_STATIC_ASSERT(sizeof(p4_pd_orbisk_switch_snapshot_record_t) == 794, "the snapshot record is 794 bytes");
 
 /* Full action names, with the prefix, in enum order. */
 extern const char *const p4_pd_orbisk_switch_action_name_strings[296];
@@ -1432,7 +1524,7 @@ PD_STATIC_ASSERT(sizeof(p4_pd_orbisk_switch_action_names_t) == 4, "32-bit action
 PD_STATIC_ASSERT(offsetof(p4_pd_orbisk_switch_action_specs_t, u) == 4,
                  "parameters from the fourth byte on");
 
-/* ---------------------------------------------------- lifecycle --- */
+/* ---------------------------------------- lifecycle and dispatch --- */
 
 /* Registers with the driver; call before anything else. */
 void p4_pd_orbisk_switch_init(void);
@@ -1452,6 +1544,9 @@ void p4_pd_orbisk_switch_device_state_cleanup(void);
 const char *p4_pd_orbisk_switch_action_enum_to_string(uint32_t action);
 /* Action of a full name; P4_PD_ORBISK_SWITCH_ACTION_COUNT for none. */
 p4_pd_orbisk_switch_action_names_t p4_pd_orbisk_switch_action_string_to_enum(const char *name);
+/* Schema text of the table or profile with this handle; "()" and 2 for any other. */
+int p4_pd_orbisk_switch_cli_schema(pd_tbl_hdl tbl_hdl,
+    char *out);
 
 /* ================================================================== */
 /* Port, VLAN and interface tables */
@@ -1530,6 +1625,10 @@ pd_status p4_pd_orbisk_switch_ingressPortMapping_register_mat_update_cb(pd_sess_
     void *cookie);
 void unbuild_key_ingressPortMapping(const pd_match_record *key,
     p4_pd_orbisk_switch_ingressPortMapping_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_ingressPortMapping_match_spec_schema(void);
+int p4_pd_orbisk_switch_ingressPortMapping_schema(char *out);
+int p4_pd_orbisk_switch_ingressPortMapping_ig_intr_md_ingress_port_width(void);
+int p4_pd_orbisk_switch_ingressPortMapping_supports_entry_priority(void);
 
 /* l2DomainLookup: table 0x01000004, pipeline A, ternary match, 6 key bytes (28 bits) */
 typedef struct p4_pd_orbisk_switch_l2DomainLookup_match_spec {
@@ -1660,6 +1759,13 @@ void unbuild_key_l2DomainLookup(const pd_match_record *key,
     p4_pd_orbisk_switch_l2DomainLookup_match_spec_t *match_spec);
 void unbuild_mask_l2DomainLookup(const pd_match_record *key,
     p4_pd_orbisk_switch_l2DomainLookup_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_l2DomainLookup_match_spec_schema(void);
+int p4_pd_orbisk_switch_l2DomainLookup_schema(char *out);
+int p4_pd_orbisk_switch_l2DomainLookup_phase0_switchPort_width(void);
+int p4_pd_orbisk_switch_l2DomainLookup_phase0_ingVPort_width(void);
+int p4_pd_orbisk_switch_l2DomainLookup_vlanHdr_0__width(void);
+int p4_pd_orbisk_switch_l2DomainLookup_vlanHdr_0__vlanId_width(void);
+int p4_pd_orbisk_switch_l2DomainLookup_supports_entry_priority(void);
 
 /* taggedXlatePktToL3: table 0x01000005, pipeline A, exact match, 4 key bytes (26 bits) */
 typedef struct p4_pd_orbisk_switch_taggedXlatePktToL3_match_spec {
@@ -1748,6 +1854,11 @@ pd_status p4_pd_orbisk_switch_taggedXlatePktToL3_register_mat_update_cb(pd_sess_
     void *cookie);
 void unbuild_key_taggedXlatePktToL3(const pd_match_record *key,
     p4_pd_orbisk_switch_taggedXlatePktToL3_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_taggedXlatePktToL3_match_spec_schema(void);
+int p4_pd_orbisk_switch_taggedXlatePktToL3_schema(char *out);
+int p4_pd_orbisk_switch_taggedXlatePktToL3_phase0_ingVPort_width(void);
+int p4_pd_orbisk_switch_taggedXlatePktToL3_vlanHdr_0__vlanId_width(void);
+int p4_pd_orbisk_switch_taggedXlatePktToL3_supports_entry_priority(void);
 
 /* taggedPktToL3: table 0x01000007, pipeline A, exact match, 2 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_taggedPktToL3_match_spec {
@@ -1835,6 +1946,10 @@ pd_status p4_pd_orbisk_switch_taggedPktToL3_register_mat_update_cb(pd_sess_hdl s
     void *cookie);
 void unbuild_key_taggedPktToL3(const pd_match_record *key,
     p4_pd_orbisk_switch_taggedPktToL3_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_taggedPktToL3_match_spec_schema(void);
+int p4_pd_orbisk_switch_taggedPktToL3_schema(char *out);
+int p4_pd_orbisk_switch_taggedPktToL3_vlanHdr_0__vlanId_width(void);
+int p4_pd_orbisk_switch_taggedPktToL3_supports_entry_priority(void);
 
 /* untaggedPktToL3: table 0x01000006, pipeline A, exact match, 2 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_untaggedPktToL3_match_spec {
@@ -1922,6 +2037,10 @@ pd_status p4_pd_orbisk_switch_untaggedPktToL3_register_mat_update_cb(pd_sess_hdl
     void *cookie);
 void unbuild_key_untaggedPktToL3(const pd_match_record *key,
     p4_pd_orbisk_switch_untaggedPktToL3_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_untaggedPktToL3_match_spec_schema(void);
+int p4_pd_orbisk_switch_untaggedPktToL3_schema(char *out);
+int p4_pd_orbisk_switch_untaggedPktToL3_phase0_nativeAintf_width(void);
+int p4_pd_orbisk_switch_untaggedPktToL3_supports_entry_priority(void);
 
 /* ingStpCheck: table 0x0100000b, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_ingStpCheck_get_entry(pd_sess_hdl sess_hdl,
@@ -1969,6 +2088,8 @@ pd_status p4_pd_orbisk_switch_ingStpCheck_register_mat_update_cb(pd_sess_hdl ses
     uint32_t dev_id,
     pd_mat_update_cb callback,
     void *cookie);
+int p4_pd_orbisk_switch_ingStpCheck_schema(char *out);
+int p4_pd_orbisk_switch_ingStpCheck_supports_entry_priority(void);
 
 /* ingVlanCheck: table 0x0100000c, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_ingVlanCheck_get_entry(pd_sess_hdl sess_hdl,
@@ -2016,6 +2137,8 @@ pd_status p4_pd_orbisk_switch_ingVlanCheck_register_mat_update_cb(pd_sess_hdl se
     uint32_t dev_id,
     pd_mat_update_cb callback,
     void *cookie);
+int p4_pd_orbisk_switch_ingVlanCheck_schema(char *out);
+int p4_pd_orbisk_switch_ingVlanCheck_supports_entry_priority(void);
 
 /* vlanProperties: table 0x01000018, pipeline A, exact match, 2 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_vlanProperties_match_spec {
@@ -2094,6 +2217,10 @@ pd_status p4_pd_orbisk_switch_vlanProperties_register_mat_update_cb(pd_sess_hdl 
     void *cookie);
 void unbuild_key_vlanProperties(const pd_match_record *key,
     p4_pd_orbisk_switch_vlanProperties_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_vlanProperties_match_spec_schema(void);
+int p4_pd_orbisk_switch_vlanProperties_schema(char *out);
+int p4_pd_orbisk_switch_vlanProperties_ingMd_ingL2Domain_width(void);
+int p4_pd_orbisk_switch_vlanProperties_supports_entry_priority(void);
 
 /* ingressPortDropCheck: table 0x01000010, pipeline A, ternary match, 7 key bytes (17 bits), entries carry ingressPortDropCount */
 typedef struct p4_pd_orbisk_switch_ingressPortDropCheck_match_spec {
@@ -2197,6 +2324,15 @@ void unbuild_key_ingressPortDropCheck(const pd_match_record *key,
     p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_t *match_spec);
 void unbuild_mask_ingressPortDropCheck(const pd_match_record *key,
     p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_schema(void);
+int p4_pd_orbisk_switch_ingressPortDropCheck_schema(char *out);
+int p4_pd_orbisk_switch_ingressPortDropCheck_ig_intr_md_ingress_port_width(void);
+int p4_pd_orbisk_switch_ingressPortDropCheck_ingMd_invalidTunnel_width(void);
+int p4_pd_orbisk_switch_ingressPortDropCheck_ingMd_illegalSmac_width(void);
+int p4_pd_orbisk_switch_ingressPortDropCheck_ingMd_illegalDmac_width(void);
+int p4_pd_orbisk_switch_ingressPortDropCheck_parserMd_outerHdrFlags_width(void);
+int p4_pd_orbisk_switch_ingressPortDropCheck_parserMd_checksumErr_width(void);
+int p4_pd_orbisk_switch_ingressPortDropCheck_supports_entry_priority(void);
 
 /* ingL2DomainCount: table 0x01000062, pipeline A, exact match, 3 key bytes (15 bits), entries carry ingL2DomainCounters */
 typedef struct p4_pd_orbisk_switch_ingL2DomainCount_match_spec {
@@ -2272,6 +2408,11 @@ pd_status p4_pd_orbisk_switch_ingL2DomainCount_register_mat_update_cb(pd_sess_hd
     void *cookie);
 void unbuild_key_ingL2DomainCount(const pd_match_record *key,
     p4_pd_orbisk_switch_ingL2DomainCount_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_ingL2DomainCount_match_spec_schema(void);
+int p4_pd_orbisk_switch_ingL2DomainCount_schema(char *out);
+int p4_pd_orbisk_switch_ingL2DomainCount_egrMd_decapType_width(void);
+int p4_pd_orbisk_switch_ingL2DomainCount_ingMd_ingL3Aintf_width(void);
+int p4_pd_orbisk_switch_ingL2DomainCount_supports_entry_priority(void);
 
 /* egrL2DomainCount: table 0x01000065, pipeline A, exact match, 3 key bytes (15 bits), entries carry egrL2DomainCounters */
 typedef struct p4_pd_orbisk_switch_egrL2DomainCount_match_spec {
@@ -2347,6 +2488,11 @@ pd_status p4_pd_orbisk_switch_egrL2DomainCount_register_mat_update_cb(pd_sess_hd
     void *cookie);
 void unbuild_key_egrL2DomainCount(const pd_match_record *key,
     p4_pd_orbisk_switch_egrL2DomainCount_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_egrL2DomainCount_match_spec_schema(void);
+int p4_pd_orbisk_switch_egrL2DomainCount_schema(char *out);
+int p4_pd_orbisk_switch_egrL2DomainCount_egrMd_decapType_width(void);
+int p4_pd_orbisk_switch_egrL2DomainCount_egrMd_egrL2Domain_width(void);
+int p4_pd_orbisk_switch_egrL2DomainCount_supports_entry_priority(void);
 
 /* egressVlanXlate: table 0x0100006c, pipeline A, exact match, 4 key bytes (21 bits) */
 typedef struct p4_pd_orbisk_switch_egressVlanXlate_match_spec {
@@ -2448,6 +2594,11 @@ pd_status p4_pd_orbisk_switch_egressVlanXlate_register_mat_update_cb(pd_sess_hdl
     void *cookie);
 void unbuild_key_egressVlanXlate(const pd_match_record *key,
     p4_pd_orbisk_switch_egressVlanXlate_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_egressVlanXlate_match_spec_schema(void);
+int p4_pd_orbisk_switch_egressVlanXlate_schema(char *out);
+int p4_pd_orbisk_switch_egressVlanXlate_eg_intr_md_egress_port_width(void);
+int p4_pd_orbisk_switch_egressVlanXlate_egrMd_egrL2Domain_width(void);
+int p4_pd_orbisk_switch_egressVlanXlate_supports_entry_priority(void);
 
 /* egrStpCheck: table 0x01000071, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_egrStpCheck_get_entry(pd_sess_hdl sess_hdl,
@@ -2495,6 +2646,8 @@ pd_status p4_pd_orbisk_switch_egrStpCheck_register_mat_update_cb(pd_sess_hdl ses
     uint32_t dev_id,
     pd_mat_update_cb callback,
     void *cookie);
+int p4_pd_orbisk_switch_egrStpCheck_schema(char *out);
+int p4_pd_orbisk_switch_egrStpCheck_supports_entry_priority(void);
 
 /* egrVlanCheck: table 0x01000072, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_egrVlanCheck_get_entry(pd_sess_hdl sess_hdl,
@@ -2542,6 +2695,8 @@ pd_status p4_pd_orbisk_switch_egrVlanCheck_register_mat_update_cb(pd_sess_hdl se
     uint32_t dev_id,
     pd_mat_update_cb callback,
     void *cookie);
+int p4_pd_orbisk_switch_egrVlanCheck_schema(char *out);
+int p4_pd_orbisk_switch_egrVlanCheck_supports_entry_priority(void);
 
 /* vlanEncap: table 0x01000073, pipeline A, exact match, 5 key bytes (22 bits) */
 typedef struct p4_pd_orbisk_switch_vlanEncap_match_spec {
@@ -2628,6 +2783,12 @@ pd_status p4_pd_orbisk_switch_vlanEncap_register_mat_update_cb(pd_sess_hdl sess_
     void *cookie);
 void unbuild_key_vlanEncap(const pd_match_record *key,
     p4_pd_orbisk_switch_vlanEncap_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_vlanEncap_match_spec_schema(void);
+int p4_pd_orbisk_switch_vlanEncap_schema(char *out);
+int p4_pd_orbisk_switch_vlanEncap_egrMd_vlanId_width(void);
+int p4_pd_orbisk_switch_vlanEncap_eg_intr_md_egress_port_width(void);
+int p4_pd_orbisk_switch_vlanEncap_egrMd_subIntf_width(void);
+int p4_pd_orbisk_switch_vlanEncap_supports_entry_priority(void);
 
 /* vlanDecap: table 0x11010026, pipeline B, no key */
 pd_status p4_pd_orbisk_switch_vlanDecap_get_entry(pd_sess_hdl sess_hdl,
@@ -2675,6 +2836,8 @@ pd_status p4_pd_orbisk_switch_vlanDecap_register_mat_update_cb(pd_sess_hdl sess_
     uint32_t dev_id,
     pd_mat_update_cb callback,
     void *cookie);
+int p4_pd_orbisk_switch_vlanDecap_schema(char *out);
+int p4_pd_orbisk_switch_vlanDecap_supports_entry_priority(void);
 
 /* copyOverlayL2Domain: table 0x0100006b, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_copyOverlayL2Domain_get_entry(pd_sess_hdl sess_hdl,
@@ -2722,6 +2885,8 @@ pd_status p4_pd_orbisk_switch_copyOverlayL2Domain_register_mat_update_cb(pd_sess
     uint32_t dev_id,
     pd_mat_update_cb callback,
     void *cookie);
+int p4_pd_orbisk_switch_copyOverlayL2Domain_schema(char *out);
+int p4_pd_orbisk_switch_copyOverlayL2Domain_supports_entry_priority(void);
 
 /* srcIntfToOvoIntf: table 0x0100006a, pipeline A, exact match, 2 key bytes (9 bits) */
 typedef struct p4_pd_orbisk_switch_srcIntfToOvoIntf_match_spec {
@@ -2813,6 +2978,10 @@ pd_status p4_pd_orbisk_switch_srcIntfToOvoIntf_register_mat_update_cb(pd_sess_hd
     void *cookie);
 void unbuild_key_srcIntfToOvoIntf(const pd_match_record *key,
     p4_pd_orbisk_switch_srcIntfToOvoIntf_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_srcIntfToOvoIntf_match_spec_schema(void);
+int p4_pd_orbisk_switch_srcIntfToOvoIntf_schema(char *out);
+int p4_pd_orbisk_switch_srcIntfToOvoIntf_egrMd_ingressPort_width(void);
+int p4_pd_orbisk_switch_srcIntfToOvoIntf_supports_entry_priority(void);
 
 /* egrIntfToOvoIntf: table 0x0100006f, pipeline A, exact match, 3 key bytes (20 bits) */
 typedef struct p4_pd_orbisk_switch_egrIntfToOvoIntf_match_spec {
@@ -2940,6 +3109,11 @@ pd_status p4_pd_orbisk_switch_egrIntfToOvoIntf_register_mat_update_cb(pd_sess_hd
     void *cookie);
 void unbuild_key_egrIntfToOvoIntf(const pd_match_record *key,
     p4_pd_orbisk_switch_egrIntfToOvoIntf_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_egrIntfToOvoIntf_match_spec_schema(void);
+int p4_pd_orbisk_switch_egrIntfToOvoIntf_schema(char *out);
+int p4_pd_orbisk_switch_egrIntfToOvoIntf_egrMd_egrAintfType_width(void);
+int p4_pd_orbisk_switch_egrIntfToOvoIntf_egrMd_egrAintfPort_width(void);
+int p4_pd_orbisk_switch_egrIntfToOvoIntf_supports_entry_priority(void);
 
 /* ovoIntfToPhysical: table 0x0100002a, pipeline A, ternary match, 6 key bytes (29 bits) */
 typedef struct p4_pd_orbisk_switch_ovoIntfToPhysical_match_spec {
@@ -3064,6 +3238,13 @@ void unbuild_key_ovoIntfToPhysical(const pd_match_record *key,
     p4_pd_orbisk_switch_ovoIntfToPhysical_match_spec_t *match_spec);
 void unbuild_mask_ovoIntfToPhysical(const pd_match_record *key,
     p4_pd_orbisk_switch_ovoIntfToPhysical_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_ovoIntfToPhysical_match_spec_schema(void);
+int p4_pd_orbisk_switch_ovoIntfToPhysical_schema(char *out);
+int p4_pd_orbisk_switch_ovoIntfToPhysical_orbiskCpuHdr_port_width(void);
+int p4_pd_orbisk_switch_ovoIntfToPhysical_orbiskCpuHdr_lane_width(void);
+int p4_pd_orbisk_switch_ovoIntfToPhysical_orbiskCpuHdr_portChannel_width(void);
+int p4_pd_orbisk_switch_ovoIntfToPhysical_egrMd_decapType_width(void);
+int p4_pd_orbisk_switch_ovoIntfToPhysical_supports_entry_priority(void);
 
 /* egressPortDropCheck: table 0x01000074, pipeline A, ternary match, 9 key bytes (23 bits), entries carry egressPortDropCount */
 typedef struct p4_pd_orbisk_switch_egressPortDropCheck_match_spec {
@@ -3174,6 +3355,17 @@ void unbuild_key_egressPortDropCheck(const pd_match_record *key,
     p4_pd_orbisk_switch_egressPortDropCheck_match_spec_t *match_spec);
 void unbuild_mask_egressPortDropCheck(const pd_match_record *key,
     p4_pd_orbisk_switch_egressPortDropCheck_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_egressPortDropCheck_match_spec_schema(void);
+int p4_pd_orbisk_switch_egressPortDropCheck_schema(char *out);
+int p4_pd_orbisk_switch_egressPortDropCheck_eg_intr_md_egress_port_width(void);
+int p4_pd_orbisk_switch_egressPortDropCheck_egrVlanStpCheck_stpBlocked_width(void);
+int p4_pd_orbisk_switch_egressPortDropCheck_egrVlanStpCheck_invalidVlan_width(void);
+int p4_pd_orbisk_switch_egressPortDropCheck_egrMd_invalidVni_width(void);
+int p4_pd_orbisk_switch_egressPortDropCheck_outerIpv4Hdr_ttl_width(void);
+int p4_pd_orbisk_switch_egressPortDropCheck_outerIpv4Hdr_width(void);
+int p4_pd_orbisk_switch_egressPortDropCheck_egrMd_routed_width(void);
+int p4_pd_orbisk_switch_egressPortDropCheck_pktGen_width(void);
+int p4_pd_orbisk_switch_egressPortDropCheck_supports_entry_priority(void);
 
 /* egressSamePortBridgingTest: table 0x0100006d, pipeline A, exact match, 3 key bytes (11 bits) */
 typedef struct p4_pd_orbisk_switch_egressSamePortBridgingTest_match_spec {
@@ -3259,6 +3451,11 @@ pd_status p4_pd_orbisk_switch_egressSamePortBridgingTest_register_mat_update_cb(
     void *cookie);
 void unbuild_key_egressSamePortBridgingTest(const pd_match_record *key,
     p4_pd_orbisk_switch_egressSamePortBridgingTest_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_egressSamePortBridgingTest_match_spec_schema(void);
+int p4_pd_orbisk_switch_egressSamePortBridgingTest_schema(char *out);
+int p4_pd_orbisk_switch_egressSamePortBridgingTest_egrMd_ingressPortType_width(void);
+int p4_pd_orbisk_switch_egressSamePortBridgingTest_eg_intr_md_egress_port_width(void);
+int p4_pd_orbisk_switch_egressSamePortBridgingTest_supports_entry_priority(void);
 
 /* samePortBridgingTest: table 0x0100004f, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_samePortBridgingTest_get_entry(pd_sess_hdl sess_hdl,
@@ -3306,6 +3503,8 @@ pd_status p4_pd_orbisk_switch_samePortBridgingTest_register_mat_update_cb(pd_ses
     uint32_t dev_id,
     pd_mat_update_cb callback,
     void *cookie);
+int p4_pd_orbisk_switch_samePortBridgingTest_schema(char *out);
+int p4_pd_orbisk_switch_samePortBridgingTest_supports_entry_priority(void);
 
 /* mlagUcastPrune: table 0x01000050, pipeline A, exact match, 3 key bytes (20 bits) */
 typedef struct p4_pd_orbisk_switch_mlagUcastPrune_match_spec {
@@ -3390,6 +3589,10 @@ pd_status p4_pd_orbisk_switch_mlagUcastPrune_register_mat_update_cb(pd_sess_hdl 
     void *cookie);
 void unbuild_key_mlagUcastPrune(const pd_match_record *key,
     p4_pd_orbisk_switch_mlagUcastPrune_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_mlagUcastPrune_match_spec_schema(void);
+int p4_pd_orbisk_switch_mlagUcastPrune_schema(char *out);
+int p4_pd_orbisk_switch_mlagUcastPrune_egrMd_egrL2AintfUnresolved_width(void);
+int p4_pd_orbisk_switch_mlagUcastPrune_supports_entry_priority(void);
 
 /* ================================================================== */
 /* L2 forwarding and learning */
@@ -3569,6 +3772,12 @@ void unbuild_key_l2DmacClassify(const pd_match_record *key,
     p4_pd_orbisk_switch_l2DmacClassify_match_spec_t *match_spec);
 void unbuild_mask_l2DmacClassify(const pd_match_record *key,
     p4_pd_orbisk_switch_l2DmacClassify_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_l2DmacClassify_match_spec_schema(void);
+int p4_pd_orbisk_switch_l2DmacClassify_schema(char *out);
+int p4_pd_orbisk_switch_l2DmacClassify_ig_intr_md_ingress_port_width(void);
+int p4_pd_orbisk_switch_l2DmacClassify_outerEthHdr_dmacOui_width(void);
+int p4_pd_orbisk_switch_l2DmacClassify_outerEthHdr_dmacStation_width(void);
+int p4_pd_orbisk_switch_l2DmacClassify_supports_entry_priority(void);
 
 /* l2SmacCheck: table 0x0100000d, pipeline A, ternary match, 6 key bytes (48 bits) */
 typedef struct p4_pd_orbisk_switch_l2SmacCheck_match_spec {
@@ -3665,6 +3874,11 @@ void unbuild_key_l2SmacCheck(const pd_match_record *key,
     p4_pd_orbisk_switch_l2SmacCheck_match_spec_t *match_spec);
 void unbuild_mask_l2SmacCheck(const pd_match_record *key,
     p4_pd_orbisk_switch_l2SmacCheck_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_l2SmacCheck_match_spec_schema(void);
+int p4_pd_orbisk_switch_l2SmacCheck_schema(char *out);
+int p4_pd_orbisk_switch_l2SmacCheck_outerEthHdr_smacOui_width(void);
+int p4_pd_orbisk_switch_l2SmacCheck_outerEthHdr_smacStation_width(void);
+int p4_pd_orbisk_switch_l2SmacCheck_supports_entry_priority(void);
 
 /* l2StaticMacSrcAddrDrop: table 0x01000013, pipeline A, exact match, 8 key bytes (60 bits) */
 typedef struct p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_match_spec {
@@ -3751,6 +3965,12 @@ pd_status p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_register_mat_update_cb(pd_s
     void *cookie);
 void unbuild_key_l2StaticMacSrcAddrDrop(const pd_match_record *key,
     p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_match_spec_schema(void);
+int p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_schema(char *out);
+int p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_ingMd_smacOui_width(void);
+int p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_ingMd_smacStation_width(void);
+int p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_ingMd_ingL2Domain_width(void);
+int p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_supports_entry_priority(void);
 
 /* l2LearningLookup: table 0x01000014, pipeline A, exact match, 11 key bytes (80 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_l2LearningLookup_match_spec {
@@ -3871,6 +4091,13 @@ pd_status p4_pd_orbisk_switch_l2LearningLookup_register_mat_update_cb(pd_sess_hd
     void *cookie);
 void unbuild_key_l2LearningLookup(const pd_match_record *key,
     p4_pd_orbisk_switch_l2LearningLookup_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_l2LearningLookup_match_spec_schema(void);
+int p4_pd_orbisk_switch_l2LearningLookup_schema(char *out);
+int p4_pd_orbisk_switch_l2LearningLookup_ingMd_smacOui_width(void);
+int p4_pd_orbisk_switch_l2LearningLookup_ingMd_smacStation_width(void);
+int p4_pd_orbisk_switch_l2LearningLookup_ingMd_ingL2Domain_width(void);
+int p4_pd_orbisk_switch_l2LearningLookup_ingMd_ingL2Aintf_width(void);
+int p4_pd_orbisk_switch_l2LearningLookup_supports_entry_priority(void);
 
 /* l2Lookup: table 0x0100002f, pipeline A, exact match, 8 key bytes (60 bits) */
 typedef struct p4_pd_orbisk_switch_l2Lookup_match_spec {
@@ -3996,6 +4223,12 @@ pd_status p4_pd_orbisk_switch_l2Lookup_register_mat_update_cb(pd_sess_hdl sess_h
     void *cookie);
 void unbuild_key_l2Lookup(const pd_match_record *key,
     p4_pd_orbisk_switch_l2Lookup_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_l2Lookup_match_spec_schema(void);
+int p4_pd_orbisk_switch_l2Lookup_schema(char *out);
+int p4_pd_orbisk_switch_l2Lookup_egrMd_dmacOui_width(void);
+int p4_pd_orbisk_switch_l2Lookup_egrMd_dmacStation_width(void);
+int p4_pd_orbisk_switch_l2Lookup_egrMd_egrL2Domain_width(void);
+int p4_pd_orbisk_switch_l2Lookup_supports_entry_priority(void);
 
 /* l2LookupMiss: table 0x01000030, pipeline A, ternary match, 8 key bytes (57 bits), entries carry stormControlMeter */
 typedef struct p4_pd_orbisk_switch_l2LookupMiss_match_spec {
@@ -4131,6 +4364,12 @@ void unbuild_key_l2LookupMiss(const pd_match_record *key,
     p4_pd_orbisk_switch_l2LookupMiss_match_spec_t *match_spec);
 void unbuild_mask_l2LookupMiss(const pd_match_record *key,
     p4_pd_orbisk_switch_l2LookupMiss_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_l2LookupMiss_match_spec_schema(void);
+int p4_pd_orbisk_switch_l2LookupMiss_schema(char *out);
+int p4_pd_orbisk_switch_l2LookupMiss_ig_intr_md_ingress_port_width(void);
+int p4_pd_orbisk_switch_l2LookupMiss_egrMd_dmacOui_width(void);
+int p4_pd_orbisk_switch_l2LookupMiss_egrMd_dmacStation_width(void);
+int p4_pd_orbisk_switch_l2LookupMiss_supports_entry_priority(void);
 
 /* l2ForwardParams: table 0x01000017, pipeline A, exact match, 1 key bytes (1 bits) */
 typedef struct p4_pd_orbisk_switch_l2ForwardParams_match_spec {
@@ -4209,6 +4448,10 @@ pd_status p4_pd_orbisk_switch_l2ForwardParams_register_mat_update_cb(pd_sess_hdl
     void *cookie);
 void unbuild_key_l2ForwardParams(const pd_match_record *key,
     p4_pd_orbisk_switch_l2ForwardParams_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_l2ForwardParams_match_spec_schema(void);
+int p4_pd_orbisk_switch_l2ForwardParams_schema(char *out);
+int p4_pd_orbisk_switch_l2ForwardParams_outerEthHdr_width(void);
+int p4_pd_orbisk_switch_l2ForwardParams_supports_entry_priority(void);
 
 /* l2XRemap: table 0x11010007, pipeline B, exact match, 2 key bytes (9 bits) */
 typedef struct p4_pd_orbisk_switch_l2XRemap_match_spec {
@@ -4287,6 +4530,10 @@ pd_status p4_pd_orbisk_switch_l2XRemap_register_mat_update_cb(pd_sess_hdl sess_h
     void *cookie);
 void unbuild_key_l2XRemap(const pd_match_record *key,
     p4_pd_orbisk_switch_l2XRemap_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_l2XRemap_match_spec_schema(void);
+int p4_pd_orbisk_switch_l2XRemap_schema(char *out);
+int p4_pd_orbisk_switch_l2XRemap_ig_intr_md_ingress_port_width(void);
+int p4_pd_orbisk_switch_l2XRemap_supports_entry_priority(void);
 
 /* learningDigestGeneration: table 0x0100003b, pipeline A, ternary match, 10 key bytes (35 bits) */
 typedef struct p4_pd_orbisk_switch_learningDigestGeneration_match_spec {
@@ -4428,6 +4675,16 @@ void unbuild_key_learningDigestGeneration(const pd_match_record *key,
     p4_pd_orbisk_switch_learningDigestGeneration_match_spec_t *match_spec);
 void unbuild_mask_learningDigestGeneration(const pd_match_record *key,
     p4_pd_orbisk_switch_learningDigestGeneration_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_learningDigestGeneration_match_spec_schema(void);
+int p4_pd_orbisk_switch_learningDigestGeneration_schema(char *out);
+int p4_pd_orbisk_switch_learningDigestGeneration_learningDigestMd_applicationId_width(void);
+int p4_pd_orbisk_switch_learningDigestGeneration_ingMd_invalidTunnel_width(void);
+int p4_pd_orbisk_switch_learningDigestGeneration_ig_intr_md_ingress_port_width(void);
+int p4_pd_orbisk_switch_learningDigestGeneration_ingMd_ingL2Aintf_width(void);
+int p4_pd_orbisk_switch_learningDigestGeneration_ingVlanStpCheck_stpBlocked_width(void);
+int p4_pd_orbisk_switch_learningDigestGeneration_ingVlanStpCheck_invalidVlan_width(void);
+int p4_pd_orbisk_switch_learningDigestGeneration_ingMd_l2Control_width(void);
+int p4_pd_orbisk_switch_learningDigestGeneration_supports_entry_priority(void);
 
 /* bridgeToEA: table 0x11010024, pipeline B, no key */
 pd_status p4_pd_orbisk_switch_bridgeToEA_get_entry(pd_sess_hdl sess_hdl,
@@ -4475,6 +4732,8 @@ pd_status p4_pd_orbisk_switch_bridgeToEA_register_mat_update_cb(pd_sess_hdl sess
     uint32_t dev_id,
     pd_mat_update_cb callback,
     void *cookie);
+int p4_pd_orbisk_switch_bridgeToEA_schema(char *out);
+int p4_pd_orbisk_switch_bridgeToEA_supports_entry_priority(void);
 
 /* ================================================================== */
 /* IP routing tables */
@@ -4593,6 +4852,14 @@ void unbuild_key_l3DmacCheck(const pd_match_record *key,
     p4_pd_orbisk_switch_l3DmacCheck_match_spec_t *match_spec);
 void unbuild_mask_l3DmacCheck(const pd_match_record *key,
     p4_pd_orbisk_switch_l3DmacCheck_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_l3DmacCheck_match_spec_schema(void);
+int p4_pd_orbisk_switch_l3DmacCheck_schema(char *out);
+int p4_pd_orbisk_switch_l3DmacCheck_ingMd_ingL3Aintf_width(void);
+int p4_pd_orbisk_switch_l3DmacCheck_ingMd_dmacOui_width(void);
+int p4_pd_orbisk_switch_l3DmacCheck_ingMd_dmacStation_width(void);
+int p4_pd_orbisk_switch_l3DmacCheck_ingMd_v4V6Valid_width(void);
+int p4_pd_orbisk_switch_l3DmacCheck_phase0_portType_width(void);
+int p4_pd_orbisk_switch_l3DmacCheck_supports_entry_priority(void);
 
 /* vrrpMacCheck: table 0x01000012, pipeline A, exact match, 8 key bytes (60 bits) */
 typedef struct p4_pd_orbisk_switch_vrrpMacCheck_match_spec {
@@ -4679,6 +4946,12 @@ pd_status p4_pd_orbisk_switch_vrrpMacCheck_register_mat_update_cb(pd_sess_hdl se
     void *cookie);
 void unbuild_key_vrrpMacCheck(const pd_match_record *key,
     p4_pd_orbisk_switch_vrrpMacCheck_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_vrrpMacCheck_match_spec_schema(void);
+int p4_pd_orbisk_switch_vrrpMacCheck_schema(char *out);
+int p4_pd_orbisk_switch_vrrpMacCheck_ingMd_ingL3Aintf_width(void);
+int p4_pd_orbisk_switch_vrrpMacCheck_ingMd_dmacOui_width(void);
+int p4_pd_orbisk_switch_vrrpMacCheck_ingMd_dmacStation_width(void);
+int p4_pd_orbisk_switch_vrrpMacCheck_supports_entry_priority(void);
 
 /* ipv4Host: table 0x11010008, pipeline B, exact match, 5 key bytes (40 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv4Host_match_spec {
@@ -4837,6 +5110,11 @@ pd_status p4_pd_orbisk_switch_ipv4Host_register_mat_update_cb(pd_sess_hdl sess_h
     void *cookie);
 void unbuild_key_ipv4Host(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv4Host_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_ipv4Host_match_spec_schema(void);
+int p4_pd_orbisk_switch_ipv4Host_schema(char *out);
+int p4_pd_orbisk_switch_ipv4Host_l3Info_vrfId_width(void);
+int p4_pd_orbisk_switch_ipv4Host_ingIpv4_dip_width(void);
+int p4_pd_orbisk_switch_ipv4Host_supports_entry_priority(void);
 
 /* ipv4ShortMaskLpm: table 0x1101000c, pipeline B, longest prefix match, 5 key bytes (40 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec {
@@ -4998,6 +5276,11 @@ void unbuild_key_ipv4ShortMaskLpm(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec_t *match_spec);
 void unbuild_mask_ipv4ShortMaskLpm(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec_schema(void);
+int p4_pd_orbisk_switch_ipv4ShortMaskLpm_schema(char *out);
+int p4_pd_orbisk_switch_ipv4ShortMaskLpm_l3Info_vrfId_width(void);
+int p4_pd_orbisk_switch_ipv4ShortMaskLpm_ingIpv4_dip_width(void);
+int p4_pd_orbisk_switch_ipv4ShortMaskLpm_supports_entry_priority(void);
 
 /* ipv4Partition0: table 0x1101000a, pipeline B, longest prefix match, 5 key bytes (40 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv4Partition0_match_spec {
@@ -5120,6 +5403,11 @@ void unbuild_key_ipv4Partition0(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv4Partition0_match_spec_t *match_spec);
 void unbuild_mask_ipv4Partition0(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv4Partition0_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_ipv4Partition0_match_spec_schema(void);
+int p4_pd_orbisk_switch_ipv4Partition0_schema(char *out);
+int p4_pd_orbisk_switch_ipv4Partition0_l3Info_vrfId_width(void);
+int p4_pd_orbisk_switch_ipv4Partition0_ingIpv4_dipAndVrf_width(void);
+int p4_pd_orbisk_switch_ipv4Partition0_supports_entry_priority(void);
 
 /* ipv4FinalResolve0: table 0x1101000b, pipeline B, partitioned longest prefix match, 6 key bytes (48 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv4FinalResolve0_match_spec {
@@ -5281,6 +5569,11 @@ void unbuild_key_ipv4FinalResolve0(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv4FinalResolve0_match_spec_t *match_spec);
 void unbuild_mask_ipv4FinalResolve0(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv4FinalResolve0_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_ipv4FinalResolve0_match_spec_schema(void);
+int p4_pd_orbisk_switch_ipv4FinalResolve0_schema(char *out);
+int p4_pd_orbisk_switch_ipv4FinalResolve0_fibV4ResultX_partIdx_width(void);
+int p4_pd_orbisk_switch_ipv4FinalResolve0_ingIpv4_dip_width(void);
+int p4_pd_orbisk_switch_ipv4FinalResolve0_supports_entry_priority(void);
 
 /* ipv6Host: table 0x01000022, pipeline A, exact match, 17 key bytes (136 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv6Host_match_spec {
@@ -5439,6 +5732,11 @@ pd_status p4_pd_orbisk_switch_ipv6Host_register_mat_update_cb(pd_sess_hdl sess_h
     void *cookie);
 void unbuild_key_ipv6Host(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv6Host_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_ipv6Host_match_spec_schema(void);
+int p4_pd_orbisk_switch_ipv6Host_schema(char *out);
+int p4_pd_orbisk_switch_ipv6Host_l3Info_vrfId_width(void);
+int p4_pd_orbisk_switch_ipv6Host_ingIpv6_dip_width(void);
+int p4_pd_orbisk_switch_ipv6Host_supports_entry_priority(void);
 
 /* ipv6ShortMaskLpm: table 0x0100002e, pipeline A, longest prefix match, 17 key bytes (136 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv6ShortMaskLpm_match_spec {
@@ -5600,6 +5898,11 @@ void unbuild_key_ipv6ShortMaskLpm(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv6ShortMaskLpm_match_spec_t *match_spec);
 void unbuild_mask_ipv6ShortMaskLpm(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv6ShortMaskLpm_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_ipv6ShortMaskLpm_match_spec_schema(void);
+int p4_pd_orbisk_switch_ipv6ShortMaskLpm_schema(char *out);
+int p4_pd_orbisk_switch_ipv6ShortMaskLpm_l3Info_vrfId_width(void);
+int p4_pd_orbisk_switch_ipv6ShortMaskLpm_ingIpv6_dip_width(void);
+int p4_pd_orbisk_switch_ipv6ShortMaskLpm_supports_entry_priority(void);
 
 /* ipv6Partition: table 0x0100002d, pipeline A, longest prefix match, 17 key bytes (136 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv6Partition_match_spec {
@@ -5761,6 +6064,11 @@ void unbuild_key_ipv6Partition(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv6Partition_match_spec_t *match_spec);
 void unbuild_mask_ipv6Partition(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv6Partition_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_ipv6Partition_match_spec_schema(void);
+int p4_pd_orbisk_switch_ipv6Partition_schema(char *out);
+int p4_pd_orbisk_switch_ipv6Partition_l3Info_vrfId_width(void);
+int p4_pd_orbisk_switch_ipv6Partition_ingIpv6_dip_width(void);
+int p4_pd_orbisk_switch_ipv6Partition_supports_entry_priority(void);
 
 /* ipv6FinalResolve: table 0x01000031, pipeline A, partitioned longest prefix match, 18 key bytes (144 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv6FinalResolve_match_spec {
@@ -5922,6 +6230,11 @@ void unbuild_key_ipv6FinalResolve(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv6FinalResolve_match_spec_t *match_spec);
 void unbuild_mask_ipv6FinalResolve(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv6FinalResolve_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_ipv6FinalResolve_match_spec_schema(void);
+int p4_pd_orbisk_switch_ipv6FinalResolve_schema(char *out);
+int p4_pd_orbisk_switch_ipv6FinalResolve_ingIpv6_fibPartitionIndex_width(void);
+int p4_pd_orbisk_switch_ipv6FinalResolve_ingIpv6_dip_width(void);
+int p4_pd_orbisk_switch_ipv6FinalResolve_supports_entry_priority(void);
 
 /* ipv6LgMaskPartition0: table 0x01000023, pipeline A, longest prefix match, 17 key bytes (136 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv6LgMaskPartition0_match_spec {
@@ -6044,6 +6357,11 @@ void unbuild_key_ipv6LgMaskPartition0(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv6LgMaskPartition0_match_spec_t *match_spec);
 void unbuild_mask_ipv6LgMaskPartition0(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv6LgMaskPartition0_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_ipv6LgMaskPartition0_match_spec_schema(void);
+int p4_pd_orbisk_switch_ipv6LgMaskPartition0_schema(char *out);
+int p4_pd_orbisk_switch_ipv6LgMaskPartition0_l3Info_vrfId_width(void);
+int p4_pd_orbisk_switch_ipv6LgMaskPartition0_ingIpv6_dip_width(void);
+int p4_pd_orbisk_switch_ipv6LgMaskPartition0_supports_entry_priority(void);
 
 /* ipv6LgMaskFinalResolve0: table 0x0100002c, pipeline A, partitioned longest prefix match, 18 key bytes (144 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_match_spec {
@@ -6205,6 +6523,11 @@ void unbuild_key_ipv6LgMaskFinalResolve0(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_match_spec_t *match_spec);
 void unbuild_mask_ipv6LgMaskFinalResolve0(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_match_spec_schema(void);
+int p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_schema(char *out);
+int p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_fibV6ResultX_partIdx_width(void);
+int p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_ingIpv6_dip_width(void);
+int p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_supports_entry_priority(void);
 
 /* ================================================================== */
 /* Next hops and load balancing */
@@ -6261,6 +6584,10 @@ pd_status p4_pd_orbisk_switch_ecmpGroup_register_mat_update_cb(pd_sess_hdl sess_
     void *cookie);
 void unbuild_key_ecmpGroup(const pd_match_record *key,
     p4_pd_orbisk_switch_ecmpGroup_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_ecmpGroup_match_spec_schema(void);
+int p4_pd_orbisk_switch_ecmpGroup_schema(char *out);
+int p4_pd_orbisk_switch_ecmpGroup_l3_nextHop_width(void);
+int p4_pd_orbisk_switch_ecmpGroup_supports_entry_priority(void);
 
 /* reservedNextHop: table 0x1101000e, pipeline B, exact match, 2 key bytes (15 bits) */
 typedef struct p4_pd_orbisk_switch_reservedNextHop_match_spec {
@@ -6348,6 +6675,10 @@ pd_status p4_pd_orbisk_switch_reservedNextHop_register_mat_update_cb(pd_sess_hdl
     void *cookie);
 void unbuild_key_reservedNextHop(const pd_match_record *key,
     p4_pd_orbisk_switch_reservedNextHop_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_reservedNextHop_match_spec_schema(void);
+int p4_pd_orbisk_switch_reservedNextHop_schema(char *out);
+int p4_pd_orbisk_switch_reservedNextHop_l3_nextHop_width(void);
+int p4_pd_orbisk_switch_reservedNextHop_supports_entry_priority(void);
 
 /* nextHop0: table 0x1101000f, pipeline B, exact match, 2 key bytes (15 bits) */
 typedef struct p4_pd_orbisk_switch_nextHop0_match_spec {
@@ -6426,6 +6757,10 @@ pd_status p4_pd_orbisk_switch_nextHop0_register_mat_update_cb(pd_sess_hdl sess_h
     void *cookie);
 void unbuild_key_nextHop0(const pd_match_record *key,
     p4_pd_orbisk_switch_nextHop0_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_nextHop0_match_spec_schema(void);
+int p4_pd_orbisk_switch_nextHop0_schema(char *out);
+int p4_pd_orbisk_switch_nextHop0_l3_nextHop_width(void);
+int p4_pd_orbisk_switch_nextHop0_supports_entry_priority(void);
 
 /* routerNextHop0: table 0x11010010, pipeline B, exact match, 2 key bytes (15 bits) */
 typedef struct p4_pd_orbisk_switch_routerNextHop0_match_spec {
@@ -6504,6 +6839,10 @@ pd_status p4_pd_orbisk_switch_routerNextHop0_register_mat_update_cb(pd_sess_hdl 
     void *cookie);
 void unbuild_key_routerNextHop0(const pd_match_record *key,
     p4_pd_orbisk_switch_routerNextHop0_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_routerNextHop0_match_spec_schema(void);
+int p4_pd_orbisk_switch_routerNextHop0_schema(char *out);
+int p4_pd_orbisk_switch_routerNextHop0_l3_nextHop_width(void);
+int p4_pd_orbisk_switch_routerNextHop0_supports_entry_priority(void);
 
 /* lagGroup: table 0x11010023, pipeline B, ternary match, 3 key bytes (20 bits), entries name a member or group of lagPortActionProfile */
 typedef struct p4_pd_orbisk_switch_lagGroup_match_spec {
@@ -6561,6 +6900,10 @@ void unbuild_key_lagGroup(const pd_match_record *key,
     p4_pd_orbisk_switch_lagGroup_match_spec_t *match_spec);
 void unbuild_mask_lagGroup(const pd_match_record *key,
     p4_pd_orbisk_switch_lagGroup_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_lagGroup_match_spec_schema(void);
+int p4_pd_orbisk_switch_lagGroup_schema(char *out);
+int p4_pd_orbisk_switch_lagGroup_egrMd_egrL2AintfUnresolved_width(void);
+int p4_pd_orbisk_switch_lagGroup_supports_entry_priority(void);
 
 /* ecmpHashSelection: table 0x01000043, pipeline A, ternary match, 9 key bytes (9 bits) */
 typedef struct p4_pd_orbisk_switch_ecmpHashSelection_match_spec {
@@ -6719,6 +7062,18 @@ void unbuild_key_ecmpHashSelection(const pd_match_record *key,
     p4_pd_orbisk_switch_ecmpHashSelection_match_spec_t *match_spec);
 void unbuild_mask_ecmpHashSelection(const pd_match_record *key,
     p4_pd_orbisk_switch_ecmpHashSelection_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_ecmpHashSelection_match_spec_schema(void);
+int p4_pd_orbisk_switch_ecmpHashSelection_schema(char *out);
+int p4_pd_orbisk_switch_ecmpHashSelection_innerL4PortHdr_width(void);
+int p4_pd_orbisk_switch_ecmpHashSelection_innerIpv4Hdr_width(void);
+int p4_pd_orbisk_switch_ecmpHashSelection_innerIpv4Hdr_flagsMf_width(void);
+int p4_pd_orbisk_switch_ecmpHashSelection_innerIpv6Hdr_width(void);
+int p4_pd_orbisk_switch_ecmpHashSelection_innerEthHdr_width(void);
+int p4_pd_orbisk_switch_ecmpHashSelection_l4PortHdr_width(void);
+int p4_pd_orbisk_switch_ecmpHashSelection_outerIpv6Hdr_width(void);
+int p4_pd_orbisk_switch_ecmpHashSelection_outerIpv4Hdr_width(void);
+int p4_pd_orbisk_switch_ecmpHashSelection_outerIpv4Hdr_flagsMf_width(void);
+int p4_pd_orbisk_switch_ecmpHashSelection_supports_entry_priority(void);
 
 /* lagHashSelection: table 0x01000042, pipeline A, ternary match, 10 key bytes (10 bits) */
 typedef struct p4_pd_orbisk_switch_lagHashSelection_match_spec {
@@ -6891,6 +7246,19 @@ void unbuild_key_lagHashSelection(const pd_match_record *key,
     p4_pd_orbisk_switch_lagHashSelection_match_spec_t *match_spec);
 void unbuild_mask_lagHashSelection(const pd_match_record *key,
     p4_pd_orbisk_switch_lagHashSelection_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_lagHashSelection_match_spec_schema(void);
+int p4_pd_orbisk_switch_lagHashSelection_schema(char *out);
+int p4_pd_orbisk_switch_lagHashSelection_innerL4PortHdr_width(void);
+int p4_pd_orbisk_switch_lagHashSelection_innerIpv4Hdr_width(void);
+int p4_pd_orbisk_switch_lagHashSelection_innerIpv4Hdr_flagsMf_width(void);
+int p4_pd_orbisk_switch_lagHashSelection_innerIpv6Hdr_width(void);
+int p4_pd_orbisk_switch_lagHashSelection_innerEthHdr_width(void);
+int p4_pd_orbisk_switch_lagHashSelection_l4PortHdr_width(void);
+int p4_pd_orbisk_switch_lagHashSelection_outerIpv6Hdr_width(void);
+int p4_pd_orbisk_switch_lagHashSelection_outerIpv4Hdr_width(void);
+int p4_pd_orbisk_switch_lagHashSelection_outerIpv4Hdr_flagsMf_width(void);
+int p4_pd_orbisk_switch_lagHashSelection_outerEthHdr_width(void);
+int p4_pd_orbisk_switch_lagHashSelection_supports_entry_priority(void);
 
 /* hashComputeInnerIpHdr: table 0x01000002, pipeline A, exact match, 2 key bytes (2 bits) */
 typedef struct p4_pd_orbisk_switch_hashComputeInnerIpHdr_match_spec {
@@ -6986,6 +7354,11 @@ pd_status p4_pd_orbisk_switch_hashComputeInnerIpHdr_register_mat_update_cb(pd_se
     void *cookie);
 void unbuild_key_hashComputeInnerIpHdr(const pd_match_record *key,
     p4_pd_orbisk_switch_hashComputeInnerIpHdr_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_hashComputeInnerIpHdr_match_spec_schema(void);
+int p4_pd_orbisk_switch_hashComputeInnerIpHdr_schema(char *out);
+int p4_pd_orbisk_switch_hashComputeInnerIpHdr_innerIpv4Hdr_width(void);
+int p4_pd_orbisk_switch_hashComputeInnerIpHdr_innerIpv6Hdr_width(void);
+int p4_pd_orbisk_switch_hashComputeInnerIpHdr_supports_entry_priority(void);
 
 /* hashComputeOuterIpv4Hdr: table 0x01000037, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_get_entry(pd_sess_hdl sess_hdl,
@@ -7033,6 +7406,8 @@ pd_status p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_register_mat_update_cb(pd_
     uint32_t dev_id,
     pd_mat_update_cb callback,
     void *cookie);
+int p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_schema(char *out);
+int p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_supports_entry_priority(void);
 
 /* hashComputeOuterIpv6Hdr: table 0x01000038, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_get_entry(pd_sess_hdl sess_hdl,
@@ -7080,6 +7455,8 @@ pd_status p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_register_mat_update_cb(pd_
     uint32_t dev_id,
     pd_mat_update_cb callback,
     void *cookie);
+int p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_schema(char *out);
+int p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_supports_entry_priority(void);
 
 /* hashComputeInnerEthHdr: table 0x01000039, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_hashComputeInnerEthHdr_get_entry(pd_sess_hdl sess_hdl,
@@ -7127,6 +7504,8 @@ pd_status p4_pd_orbisk_switch_hashComputeInnerEthHdr_register_mat_update_cb(pd_s
     uint32_t dev_id,
     pd_mat_update_cb callback,
     void *cookie);
+int p4_pd_orbisk_switch_hashComputeInnerEthHdr_schema(char *out);
+int p4_pd_orbisk_switch_hashComputeInnerEthHdr_supports_entry_priority(void);
 
 /* hashComputeIpAndL4Hdr: table 0x0100003e, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_get_entry(pd_sess_hdl sess_hdl,
@@ -7174,6 +7553,8 @@ pd_status p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_register_mat_update_cb(pd_se
     uint32_t dev_id,
     pd_mat_update_cb callback,
     void *cookie);
+int p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_schema(char *out);
+int p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_supports_entry_priority(void);
 
 /* hashFromCpuHdr: table 0x01000041, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_hashFromCpuHdr_get_entry(pd_sess_hdl sess_hdl,
@@ -7221,6 +7602,8 @@ pd_status p4_pd_orbisk_switch_hashFromCpuHdr_register_mat_update_cb(pd_sess_hdl 
     uint32_t dev_id,
     pd_mat_update_cb callback,
     void *cookie);
+int p4_pd_orbisk_switch_hashFromCpuHdr_schema(char *out);
+int p4_pd_orbisk_switch_hashFromCpuHdr_supports_entry_priority(void);
 
 /* ================================================================== */
 /* Multicast */
@@ -7344,6 +7727,11 @@ pd_status p4_pd_orbisk_switch_ipv4McGroupVlan_register_mat_update_cb(pd_sess_hdl
     void *cookie);
 void unbuild_key_ipv4McGroupVlan(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv4McGroupVlan_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_ipv4McGroupVlan_match_spec_schema(void);
+int p4_pd_orbisk_switch_ipv4McGroupVlan_schema(char *out);
+int p4_pd_orbisk_switch_ipv4McGroupVlan_ingIpv4_dip_width(void);
+int p4_pd_orbisk_switch_ipv4McGroupVlan_ingMd_ingL3Aintf_width(void);
+int p4_pd_orbisk_switch_ipv4McGroupVlan_supports_entry_priority(void);
 
 /* ipv4McSourceGroupVlan: table 0x0100004e, pipeline A, exact match, 6 key bytes (48 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv4McSourceGroupVlan_match_spec {
@@ -7463,6 +7851,11 @@ pd_status p4_pd_orbisk_switch_ipv4McSourceGroupVlan_register_mat_update_cb(pd_se
     void *cookie);
 void unbuild_key_ipv4McSourceGroupVlan(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv4McSourceGroupVlan_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_ipv4McSourceGroupVlan_match_spec_schema(void);
+int p4_pd_orbisk_switch_ipv4McSourceGroupVlan_schema(char *out);
+int p4_pd_orbisk_switch_ipv4McSourceGroupVlan_ingIpv4_sip_width(void);
+int p4_pd_orbisk_switch_ipv4McSourceGroupVlan_ingIpmcSGVLookup_index_width(void);
+int p4_pd_orbisk_switch_ipv4McSourceGroupVlan_supports_entry_priority(void);
 
 /* l2Multicast: table 0x01000040, pipeline A, exact match, 8 key bytes (60 bits) */
 typedef struct p4_pd_orbisk_switch_l2Multicast_match_spec {
@@ -7552,6 +7945,12 @@ pd_status p4_pd_orbisk_switch_l2Multicast_register_mat_update_cb(pd_sess_hdl ses
     void *cookie);
 void unbuild_key_l2Multicast(const pd_match_record *key,
     p4_pd_orbisk_switch_l2Multicast_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_l2Multicast_match_spec_schema(void);
+int p4_pd_orbisk_switch_l2Multicast_schema(char *out);
+int p4_pd_orbisk_switch_l2Multicast_egrMd_dmacOui_width(void);
+int p4_pd_orbisk_switch_l2Multicast_egrMd_dmacStation_width(void);
+int p4_pd_orbisk_switch_l2Multicast_egrMd_egrL2Domain_width(void);
+int p4_pd_orbisk_switch_l2Multicast_supports_entry_priority(void);
 
 /* finalizeMcResult: table 0x01000053, pipeline A, ternary match, 9 key bytes (26 bits) */
 typedef struct p4_pd_orbisk_switch_finalizeMcResult_match_spec {
@@ -7737,6 +8136,18 @@ void unbuild_key_finalizeMcResult(const pd_match_record *key,
     p4_pd_orbisk_switch_finalizeMcResult_match_spec_t *match_spec);
 void unbuild_mask_finalizeMcResult(const pd_match_record *key,
     p4_pd_orbisk_switch_finalizeMcResult_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_finalizeMcResult_match_spec_schema(void);
+int p4_pd_orbisk_switch_finalizeMcResult_schema(char *out);
+int p4_pd_orbisk_switch_finalizeMcResult_ingIpmc_eValid_width(void);
+int p4_pd_orbisk_switch_finalizeMcResult_ingL2Mc_eValid_width(void);
+int p4_pd_orbisk_switch_finalizeMcResult_ingMd_protocol_width(void);
+int p4_pd_orbisk_switch_finalizeMcResult_ingMd_ipMcast_width(void);
+int p4_pd_orbisk_switch_finalizeMcResult_ingMd_igmpSnoopingEnabled_width(void);
+int p4_pd_orbisk_switch_finalizeMcResult_ingMd_llm_width(void);
+int p4_pd_orbisk_switch_finalizeMcResult_egrMd_trapToCpu_width(void);
+int p4_pd_orbisk_switch_finalizeMcResult_ingMd_ttl_width(void);
+int p4_pd_orbisk_switch_finalizeMcResult_l3Info_ipRouting_width(void);
+int p4_pd_orbisk_switch_finalizeMcResult_supports_entry_priority(void);
 
 /* egressMcRemap: table 0x01000060, pipeline A, exact match, 2 key bytes (16 bits) */
 typedef struct p4_pd_orbisk_switch_egressMcRemap_match_spec {
@@ -7824,6 +8235,10 @@ pd_status p4_pd_orbisk_switch_egressMcRemap_register_mat_update_cb(pd_sess_hdl s
     void *cookie);
 void unbuild_key_egressMcRemap(const pd_match_record *key,
     p4_pd_orbisk_switch_egressMcRemap_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_egressMcRemap_match_spec_schema(void);
+int p4_pd_orbisk_switch_egressMcRemap_schema(char *out);
+int p4_pd_orbisk_switch_egressMcRemap_eg_intr_md_egress_rid_width(void);
+int p4_pd_orbisk_switch_egressMcRemap_supports_entry_priority(void);
 
 /* mcastPrune: table 0x11010028, pipeline B, ternary match, 8 key bytes (42 bits) */
 typedef struct p4_pd_orbisk_switch_mcastPrune_match_spec {
@@ -7972,6 +8387,14 @@ void unbuild_key_mcastPrune(const pd_match_record *key,
     p4_pd_orbisk_switch_mcastPrune_match_spec_t *match_spec);
 void unbuild_mask_mcastPrune(const pd_match_record *key,
     p4_pd_orbisk_switch_mcastPrune_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_mcastPrune_match_spec_schema(void);
+int p4_pd_orbisk_switch_mcastPrune_schema(char *out);
+int p4_pd_orbisk_switch_mcastPrune_egrMd_decapType_width(void);
+int p4_pd_orbisk_switch_mcastPrune_egrMd_routed_width(void);
+int p4_pd_orbisk_switch_mcastPrune_phase0_portType_width(void);
+int p4_pd_orbisk_switch_mcastPrune_egrMd_egrL2AintfUnresolved_width(void);
+int p4_pd_orbisk_switch_mcastPrune_ig_intr_md_for_tm_mcast_grp_a_width(void);
+int p4_pd_orbisk_switch_mcastPrune_supports_entry_priority(void);
 
 /* ================================================================== */
 /* VXLAN and tunnels */
@@ -8092,6 +8515,14 @@ void unbuild_key_tunnelTermination(const pd_match_record *key,
     p4_pd_orbisk_switch_tunnelTermination_match_spec_t *match_spec);
 void unbuild_mask_tunnelTermination(const pd_match_record *key,
     p4_pd_orbisk_switch_tunnelTermination_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_tunnelTermination_match_spec_schema(void);
+int p4_pd_orbisk_switch_tunnelTermination_schema(char *out);
+int p4_pd_orbisk_switch_tunnelTermination_outerEthHdr_dmacOui_width(void);
+int p4_pd_orbisk_switch_tunnelTermination_outerEthHdr_dmacStation_width(void);
+int p4_pd_orbisk_switch_tunnelTermination_outerIpv4Hdr_dip_width(void);
+int p4_pd_orbisk_switch_tunnelTermination_ingMd_tunnelType_width(void);
+int p4_pd_orbisk_switch_tunnelTermination_outerIpv6Hdr_width(void);
+int p4_pd_orbisk_switch_tunnelTermination_supports_entry_priority(void);
 
 /* vxlanL2AintfLookup: table 0x01000008, pipeline A, exact match, 4 key bytes (32 bits) */
 typedef struct p4_pd_orbisk_switch_vxlanL2AintfLookup_match_spec {
@@ -8209,6 +8640,10 @@ pd_status p4_pd_orbisk_switch_vxlanL2AintfLookup_register_mat_update_cb(pd_sess_
     void *cookie);
 void unbuild_key_vxlanL2AintfLookup(const pd_match_record *key,
     p4_pd_orbisk_switch_vxlanL2AintfLookup_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_vxlanL2AintfLookup_match_spec_schema(void);
+int p4_pd_orbisk_switch_vxlanL2AintfLookup_schema(char *out);
+int p4_pd_orbisk_switch_vxlanL2AintfLookup_outerIpv4Hdr_sip_width(void);
+int p4_pd_orbisk_switch_vxlanL2AintfLookup_supports_entry_priority(void);
 
 /* vxlanVniResolution: table 0x01000009, pipeline A, exact match, 4 key bytes (27 bits) */
 typedef struct p4_pd_orbisk_switch_vxlanVniResolution_match_spec {
@@ -8315,6 +8750,12 @@ pd_status p4_pd_orbisk_switch_vxlanVniResolution_register_mat_update_cb(pd_sess_
     void *cookie);
 void unbuild_key_vxlanVniResolution(const pd_match_record *key,
     p4_pd_orbisk_switch_vxlanVniResolution_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_vxlanVniResolution_match_spec_schema(void);
+int p4_pd_orbisk_switch_vxlanVniResolution_schema(char *out);
+int p4_pd_orbisk_switch_vxlanVniResolution_ingMd_ingressVniLow_width(void);
+int p4_pd_orbisk_switch_vxlanVniResolution_ingMd_ingressVniHigh_width(void);
+int p4_pd_orbisk_switch_vxlanVniResolution_ingMd_tunnelType_width(void);
+int p4_pd_orbisk_switch_vxlanVniResolution_supports_entry_priority(void);
 
 /* vxlanVarp: table 0x01000034, pipeline A, ternary match, 8 key bytes (50 bits) */
 typedef struct p4_pd_orbisk_switch_vxlanVarp_match_spec {
@@ -8413,6 +8854,13 @@ void unbuild_key_vxlanVarp(const pd_match_record *key,
     p4_pd_orbisk_switch_vxlanVarp_match_spec_t *match_spec);
 void unbuild_mask_vxlanVarp(const pd_match_record *key,
     p4_pd_orbisk_switch_vxlanVarp_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_vxlanVarp_match_spec_schema(void);
+int p4_pd_orbisk_switch_vxlanVarp_schema(char *out);
+int p4_pd_orbisk_switch_vxlanVarp_innerEthHdr_dmacOui_width(void);
+int p4_pd_orbisk_switch_vxlanVarp_innerEthHdr_dmacStation_width(void);
+int p4_pd_orbisk_switch_vxlanVarp_outerIpv4Hdr_width(void);
+int p4_pd_orbisk_switch_vxlanVarp_ingMd_vxlanVarpIp_width(void);
+int p4_pd_orbisk_switch_vxlanVarp_supports_entry_priority(void);
 
 /* vxlanArp: table 0x01000035, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_vxlanArp_get_entry(pd_sess_hdl sess_hdl,
@@ -8460,6 +8908,8 @@ pd_status p4_pd_orbisk_switch_vxlanArp_register_mat_update_cb(pd_sess_hdl sess_h
     uint32_t dev_id,
     pd_mat_update_cb callback,
     void *cookie);
+int p4_pd_orbisk_switch_vxlanArp_schema(char *out);
+int p4_pd_orbisk_switch_vxlanArp_supports_entry_priority(void);
 
 /* tunnelDip0: table 0x0100005c, pipeline A, exact match, 4 key bytes (32 bits) */
 typedef struct p4_pd_orbisk_switch_tunnelDip0_match_spec {
@@ -8538,6 +8988,10 @@ pd_status p4_pd_orbisk_switch_tunnelDip0_register_mat_update_cb(pd_sess_hdl sess
     void *cookie);
 void unbuild_key_tunnelDip0(const pd_match_record *key,
     p4_pd_orbisk_switch_tunnelDip0_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_tunnelDip0_match_spec_schema(void);
+int p4_pd_orbisk_switch_tunnelDip0_schema(char *out);
+int p4_pd_orbisk_switch_tunnelDip0_egrMd_tunnelInfo_width(void);
+int p4_pd_orbisk_switch_tunnelDip0_supports_entry_priority(void);
 
 /* tunnelVniAndVti: table 0x0100005f, pipeline A, exact match, 2 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_tunnelVniAndVti_match_spec {
@@ -8625,6 +9079,10 @@ pd_status p4_pd_orbisk_switch_tunnelVniAndVti_register_mat_update_cb(pd_sess_hdl
     void *cookie);
 void unbuild_key_tunnelVniAndVti(const pd_match_record *key,
     p4_pd_orbisk_switch_tunnelVniAndVti_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_tunnelVniAndVti_match_spec_schema(void);
+int p4_pd_orbisk_switch_tunnelVniAndVti_schema(char *out);
+int p4_pd_orbisk_switch_tunnelVniAndVti_egrMd_egrL2Domain_width(void);
+int p4_pd_orbisk_switch_tunnelVniAndVti_supports_entry_priority(void);
 
 /* tunnelL2Info: table 0x01000066, pipeline A, exact match, 4 key bytes (32 bits) */
 typedef struct p4_pd_orbisk_switch_tunnelL2Info_match_spec {
@@ -8712,6 +9170,10 @@ pd_status p4_pd_orbisk_switch_tunnelL2Info_register_mat_update_cb(pd_sess_hdl se
     void *cookie);
 void unbuild_key_tunnelL2Info(const pd_match_record *key,
     p4_pd_orbisk_switch_tunnelL2Info_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_tunnelL2Info_match_spec_schema(void);
+int p4_pd_orbisk_switch_tunnelL2Info_schema(char *out);
+int p4_pd_orbisk_switch_tunnelL2Info_egrMd_tunnelInfo_width(void);
+int p4_pd_orbisk_switch_tunnelL2Info_supports_entry_priority(void);
 
 /* tunnelResolve: table 0x1101001f, pipeline B, exact match, 2 key bytes (10 bits), entries name a member or group of tunnelMemberActionProfile */
 typedef struct p4_pd_orbisk_switch_tunnelResolve_match_spec {
@@ -8764,6 +9226,10 @@ pd_status p4_pd_orbisk_switch_tunnelResolve_register_mat_update_cb(pd_sess_hdl s
     void *cookie);
 void unbuild_key_tunnelResolve(const pd_match_record *key,
     p4_pd_orbisk_switch_tunnelResolve_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_tunnelResolve_match_spec_schema(void);
+int p4_pd_orbisk_switch_tunnelResolve_schema(char *out);
+int p4_pd_orbisk_switch_tunnelResolve_egrMd_tunnelNextHop_width(void);
+int p4_pd_orbisk_switch_tunnelResolve_supports_entry_priority(void);
 
 /* encapDecap: table 0x01000067, pipeline A, ternary match, 9 key bytes (41 bits) */
 typedef struct p4_pd_orbisk_switch_encapDecap_match_spec {
@@ -8953,6 +9419,15 @@ void unbuild_key_encapDecap(const pd_match_record *key,
     p4_pd_orbisk_switch_encapDecap_match_spec_t *match_spec);
 void unbuild_mask_encapDecap(const pd_match_record *key,
     p4_pd_orbisk_switch_encapDecap_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_encapDecap_match_spec_schema(void);
+int p4_pd_orbisk_switch_encapDecap_schema(char *out);
+int p4_pd_orbisk_switch_encapDecap_egrMd_decapType_width(void);
+int p4_pd_orbisk_switch_encapDecap_egrMd_encapType_width(void);
+int p4_pd_orbisk_switch_encapDecap_egrMd_routed_width(void);
+int p4_pd_orbisk_switch_encapDecap_outerIpv4Hdr_width(void);
+int p4_pd_orbisk_switch_encapDecap_outerIpv6Hdr_width(void);
+int p4_pd_orbisk_switch_encapDecap_egrMd_tunnelInfo_width(void);
+int p4_pd_orbisk_switch_encapDecap_supports_entry_priority(void);
 
 /* decapIngress: table 0x01000049, pipeline A, exact match, 3 key bytes (5 bits) */
 typedef struct p4_pd_orbisk_switch_decapIngress_match_spec {
@@ -9079,6 +9554,12 @@ pd_status p4_pd_orbisk_switch_decapIngress_register_mat_update_cb(pd_sess_hdl se
     void *cookie);
 void unbuild_key_decapIngress(const pd_match_record *key,
     p4_pd_orbisk_switch_decapIngress_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_decapIngress_match_spec_schema(void);
+int p4_pd_orbisk_switch_decapIngress_schema(char *out);
+int p4_pd_orbisk_switch_decapIngress_egrMd_decapType_width(void);
+int p4_pd_orbisk_switch_decapIngress_outerIpv4Hdr_width(void);
+int p4_pd_orbisk_switch_decapIngress_outerIpv6Hdr_width(void);
+int p4_pd_orbisk_switch_decapIngress_supports_entry_priority(void);
 
 /* globalFields: table 0x01000064, pipeline A, ternary match, 8 key bytes (40 bits) */
 typedef struct p4_pd_orbisk_switch_globalFields_match_spec {
@@ -9213,6 +9694,14 @@ void unbuild_key_globalFields(const pd_match_record *key,
     p4_pd_orbisk_switch_globalFields_match_spec_t *match_spec);
 void unbuild_mask_globalFields(const pd_match_record *key,
     p4_pd_orbisk_switch_globalFields_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_globalFields_match_spec_schema(void);
+int p4_pd_orbisk_switch_globalFields_schema(char *out);
+int p4_pd_orbisk_switch_globalFields_dot1qExists_width(void);
+int p4_pd_orbisk_switch_globalFields_egrMd_decapType_width(void);
+int p4_pd_orbisk_switch_globalFields_egrMd_encapType_width(void);
+int p4_pd_orbisk_switch_globalFields_egrMd_ingressTagged_width(void);
+int p4_pd_orbisk_switch_globalFields_egrMd_tunnelInfo_width(void);
+int p4_pd_orbisk_switch_globalFields_supports_entry_priority(void);
 
 /* ================================================================== */
 /* NAT */
@@ -9295,6 +9784,10 @@ pd_status p4_pd_orbisk_switch_ingressNatProfile_register_mat_update_cb(pd_sess_h
     void *cookie);
 void unbuild_key_ingressNatProfile(const pd_match_record *key,
     p4_pd_orbisk_switch_ingressNatProfile_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_ingressNatProfile_match_spec_schema(void);
+int p4_pd_orbisk_switch_ingressNatProfile_schema(char *out);
+int p4_pd_orbisk_switch_ingressNatProfile_ingMd_ingL3Aintf_width(void);
+int p4_pd_orbisk_switch_ingressNatProfile_supports_entry_priority(void);
 
 /* staticDnatAcl: table 0x01000025, pipeline A, ternary match, 6 key bytes (41 bits) */
 typedef struct p4_pd_orbisk_switch_staticDnatAcl_match_spec {
@@ -9396,6 +9889,12 @@ void unbuild_key_staticDnatAcl(const pd_match_record *key,
     p4_pd_orbisk_switch_staticDnatAcl_match_spec_t *match_spec);
 void unbuild_mask_staticDnatAcl(const pd_match_record *key,
     p4_pd_orbisk_switch_staticDnatAcl_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_staticDnatAcl_match_spec_schema(void);
+int p4_pd_orbisk_switch_staticDnatAcl_schema(char *out);
+int p4_pd_orbisk_switch_staticDnatAcl_ingIpv4_sip_width(void);
+int p4_pd_orbisk_switch_staticDnatAcl_ingMd_protocol_width(void);
+int p4_pd_orbisk_switch_staticDnatAcl_haloKeyOrig_isFrag_width(void);
+int p4_pd_orbisk_switch_staticDnatAcl_supports_entry_priority(void);
 
 /* addrPortDnat: table 0x01000026, pipeline A, exact match, 9 key bytes (68 bits), entries carry staticDnatCounters */
 typedef struct p4_pd_orbisk_switch_addrPortDnat_match_spec {
@@ -9525,6 +10024,13 @@ pd_status p4_pd_orbisk_switch_addrPortDnat_register_mat_update_cb(pd_sess_hdl se
     void *cookie);
 void unbuild_key_addrPortDnat(const pd_match_record *key,
     p4_pd_orbisk_switch_addrPortDnat_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_addrPortDnat_match_spec_schema(void);
+int p4_pd_orbisk_switch_addrPortDnat_schema(char *out);
+int p4_pd_orbisk_switch_addrPortDnat_ingMd_dnatAclId_width(void);
+int p4_pd_orbisk_switch_addrPortDnat_ingIpv4_dip_width(void);
+int p4_pd_orbisk_switch_addrPortDnat_ingMd_dstPort_width(void);
+int p4_pd_orbisk_switch_addrPortDnat_ingMd_ingNatProfile_width(void);
+int p4_pd_orbisk_switch_addrPortDnat_supports_entry_priority(void);
 
 /* addrOnlyDnat: table 0x01000027, pipeline A, exact match, 7 key bytes (52 bits) */
 typedef struct p4_pd_orbisk_switch_addrOnlyDnat_match_spec {
@@ -9627,6 +10133,12 @@ pd_status p4_pd_orbisk_switch_addrOnlyDnat_register_mat_update_cb(pd_sess_hdl se
     void *cookie);
 void unbuild_key_addrOnlyDnat(const pd_match_record *key,
     p4_pd_orbisk_switch_addrOnlyDnat_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_addrOnlyDnat_match_spec_schema(void);
+int p4_pd_orbisk_switch_addrOnlyDnat_schema(char *out);
+int p4_pd_orbisk_switch_addrOnlyDnat_ingMd_dnatAclId_width(void);
+int p4_pd_orbisk_switch_addrOnlyDnat_ingIpv4_dip_width(void);
+int p4_pd_orbisk_switch_addrOnlyDnat_ingMd_ingNatProfile_width(void);
+int p4_pd_orbisk_switch_addrOnlyDnat_supports_entry_priority(void);
 
 /* dynamicDnat1: table 0x01000021, pipeline A, exact match, 14 key bytes (112 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_dynamicDnat1_match_spec {
@@ -9763,6 +10275,15 @@ pd_status p4_pd_orbisk_switch_dynamicDnat1_register_mat_update_cb(pd_sess_hdl se
     void *cookie);
 void unbuild_key_dynamicDnat1(const pd_match_record *key,
     p4_pd_orbisk_switch_dynamicDnat1_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_dynamicDnat1_match_spec_schema(void);
+int p4_pd_orbisk_switch_dynamicDnat1_schema(char *out);
+int p4_pd_orbisk_switch_dynamicDnat1_ingMd_protocol_width(void);
+int p4_pd_orbisk_switch_dynamicDnat1_ingIpv4_sip_width(void);
+int p4_pd_orbisk_switch_dynamicDnat1_ingMd_srcPort_width(void);
+int p4_pd_orbisk_switch_dynamicDnat1_ingIpv4_dip_width(void);
+int p4_pd_orbisk_switch_dynamicDnat1_ingMd_dstPort_width(void);
+int p4_pd_orbisk_switch_dynamicDnat1_l3Info_vrfId_width(void);
+int p4_pd_orbisk_switch_dynamicDnat1_supports_entry_priority(void);
 
 /* dynamicFullConeCompressDip: table 0x0100001f, pipeline A, exact match, 4 key bytes (32 bits) */
 typedef struct p4_pd_orbisk_switch_dynamicFullConeCompressDip_match_spec {
@@ -9841,6 +10362,10 @@ pd_status p4_pd_orbisk_switch_dynamicFullConeCompressDip_register_mat_update_cb(
     void *cookie);
 void unbuild_key_dynamicFullConeCompressDip(const pd_match_record *key,
     p4_pd_orbisk_switch_dynamicFullConeCompressDip_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_dynamicFullConeCompressDip_match_spec_schema(void);
+int p4_pd_orbisk_switch_dynamicFullConeCompressDip_schema(char *out);
+int p4_pd_orbisk_switch_dynamicFullConeCompressDip_ingIpv4_dip_width(void);
+int p4_pd_orbisk_switch_dynamicFullConeCompressDip_supports_entry_priority(void);
 
 /* dynamicFullConeDnat: table 0x01000024, pipeline A, exact match, 6 key bytes (41 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_dynamicFullConeDnat_match_spec {
@@ -9962,6 +10487,13 @@ pd_status p4_pd_orbisk_switch_dynamicFullConeDnat_register_mat_update_cb(pd_sess
     void *cookie);
 void unbuild_key_dynamicFullConeDnat(const pd_match_record *key,
     p4_pd_orbisk_switch_dynamicFullConeDnat_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_dynamicFullConeDnat_match_spec_schema(void);
+int p4_pd_orbisk_switch_dynamicFullConeDnat_schema(char *out);
+int p4_pd_orbisk_switch_dynamicFullConeDnat_ingMd_ingNatProfile_width(void);
+int p4_pd_orbisk_switch_dynamicFullConeDnat_ingMd_fullConeDipRangeId_width(void);
+int p4_pd_orbisk_switch_dynamicFullConeDnat_ingMd_protocol_width(void);
+int p4_pd_orbisk_switch_dynamicFullConeDnat_ingMd_dstPort_width(void);
+int p4_pd_orbisk_switch_dynamicFullConeDnat_supports_entry_priority(void);
 
 /* egressNatProfile: table 0x11010012, pipeline B, exact match, 2 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_egressNatProfile_match_spec {
@@ -10040,6 +10572,10 @@ pd_status p4_pd_orbisk_switch_egressNatProfile_register_mat_update_cb(pd_sess_hd
     void *cookie);
 void unbuild_key_egressNatProfile(const pd_match_record *key,
     p4_pd_orbisk_switch_egressNatProfile_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_egressNatProfile_match_spec_schema(void);
+int p4_pd_orbisk_switch_egressNatProfile_schema(char *out);
+int p4_pd_orbisk_switch_egressNatProfile_egrMd_egrL2Domain_width(void);
+int p4_pd_orbisk_switch_egressNatProfile_supports_entry_priority(void);
 
 /* staticSnatAcl: table 0x11010004, pipeline B, ternary match, 6 key bytes (41 bits) */
 typedef struct p4_pd_orbisk_switch_staticSnatAcl_match_spec {
@@ -10141,6 +10677,12 @@ void unbuild_key_staticSnatAcl(const pd_match_record *key,
     p4_pd_orbisk_switch_staticSnatAcl_match_spec_t *match_spec);
 void unbuild_mask_staticSnatAcl(const pd_match_record *key,
     p4_pd_orbisk_switch_staticSnatAcl_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_staticSnatAcl_match_spec_schema(void);
+int p4_pd_orbisk_switch_staticSnatAcl_schema(char *out);
+int p4_pd_orbisk_switch_staticSnatAcl_outerIpv4Hdr_dip_width(void);
+int p4_pd_orbisk_switch_staticSnatAcl_ingMd_protocol_width(void);
+int p4_pd_orbisk_switch_staticSnatAcl_haloKeyOrig_isFrag_width(void);
+int p4_pd_orbisk_switch_staticSnatAcl_supports_entry_priority(void);
 
 /* addrPortSnat: table 0x11010016, pipeline B, exact match, 9 key bytes (68 bits), entries carry staticSnatCounters */
 typedef struct p4_pd_orbisk_switch_addrPortSnat_match_spec {
@@ -10244,6 +10786,13 @@ pd_status p4_pd_orbisk_switch_addrPortSnat_register_mat_update_cb(pd_sess_hdl se
     void *cookie);
 void unbuild_key_addrPortSnat(const pd_match_record *key,
     p4_pd_orbisk_switch_addrPortSnat_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_addrPortSnat_match_spec_schema(void);
+int p4_pd_orbisk_switch_addrPortSnat_schema(char *out);
+int p4_pd_orbisk_switch_addrPortSnat_ingMd_snatAclId_width(void);
+int p4_pd_orbisk_switch_addrPortSnat_outerIpv4Hdr_sip_width(void);
+int p4_pd_orbisk_switch_addrPortSnat_l4PortHdr_srcPort_width(void);
+int p4_pd_orbisk_switch_addrPortSnat_ingMd_egrNatProfile_width(void);
+int p4_pd_orbisk_switch_addrPortSnat_supports_entry_priority(void);
 
 /* addrOnlySnat: table 0x11010017, pipeline B, exact match, 7 key bytes (52 bits) */
 typedef struct p4_pd_orbisk_switch_addrOnlySnat_match_spec {
@@ -10333,6 +10882,12 @@ pd_status p4_pd_orbisk_switch_addrOnlySnat_register_mat_update_cb(pd_sess_hdl se
     void *cookie);
 void unbuild_key_addrOnlySnat(const pd_match_record *key,
     p4_pd_orbisk_switch_addrOnlySnat_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_addrOnlySnat_match_spec_schema(void);
+int p4_pd_orbisk_switch_addrOnlySnat_schema(char *out);
+int p4_pd_orbisk_switch_addrOnlySnat_ingMd_snatAclId_width(void);
+int p4_pd_orbisk_switch_addrOnlySnat_outerIpv4Hdr_sip_width(void);
+int p4_pd_orbisk_switch_addrOnlySnat_ingMd_egrNatProfile_width(void);
+int p4_pd_orbisk_switch_addrOnlySnat_supports_entry_priority(void);
 
 /* dynamicSnatAcl: table 0x11010013, pipeline B, ternary match, 14 key bytes (112 bits) */
 typedef struct p4_pd_orbisk_switch_dynamicSnatAcl_match_spec {
@@ -10437,6 +10992,15 @@ void unbuild_key_dynamicSnatAcl(const pd_match_record *key,
     p4_pd_orbisk_switch_dynamicSnatAcl_match_spec_t *match_spec);
 void unbuild_mask_dynamicSnatAcl(const pd_match_record *key,
     p4_pd_orbisk_switch_dynamicSnatAcl_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_dynamicSnatAcl_match_spec_schema(void);
+int p4_pd_orbisk_switch_dynamicSnatAcl_schema(char *out);
+int p4_pd_orbisk_switch_dynamicSnatAcl_ingMd_egrNatProfile_width(void);
+int p4_pd_orbisk_switch_dynamicSnatAcl_outerIpv4Hdr_sip_width(void);
+int p4_pd_orbisk_switch_dynamicSnatAcl_outerIpv4Hdr_dip_width(void);
+int p4_pd_orbisk_switch_dynamicSnatAcl_l4PortHdr_srcPort_width(void);
+int p4_pd_orbisk_switch_dynamicSnatAcl_l4PortHdr_dstPort_width(void);
+int p4_pd_orbisk_switch_dynamicSnatAcl_ingMd_protocol_width(void);
+int p4_pd_orbisk_switch_dynamicSnatAcl_supports_entry_priority(void);
 
 /* dynamicSnat1: table 0x11010015, pipeline B, exact match, 14 key bytes (112 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_dynamicSnat1_match_spec {
@@ -10573,6 +11137,15 @@ pd_status p4_pd_orbisk_switch_dynamicSnat1_register_mat_update_cb(pd_sess_hdl se
     void *cookie);
 void unbuild_key_dynamicSnat1(const pd_match_record *key,
     p4_pd_orbisk_switch_dynamicSnat1_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_dynamicSnat1_match_spec_schema(void);
+int p4_pd_orbisk_switch_dynamicSnat1_schema(char *out);
+int p4_pd_orbisk_switch_dynamicSnat1_ingMd_protocol_width(void);
+int p4_pd_orbisk_switch_dynamicSnat1_outerIpv4Hdr_sip_width(void);
+int p4_pd_orbisk_switch_dynamicSnat1_l4PortHdr_srcPort_width(void);
+int p4_pd_orbisk_switch_dynamicSnat1_ingMd_dynNatDip_width(void);
+int p4_pd_orbisk_switch_dynamicSnat1_ingMd_dynNatDport_width(void);
+int p4_pd_orbisk_switch_dynamicSnat1_l3Info_vrfId_width(void);
+int p4_pd_orbisk_switch_dynamicSnat1_supports_entry_priority(void);
 
 /* dynamicNatCount: table 0x1101001e, pipeline B, ternary match, 5 key bytes (26 bits), entries carry dynNatCounters */
 typedef struct p4_pd_orbisk_switch_dynamicNatCount_match_spec {
@@ -10673,6 +11246,14 @@ void unbuild_key_dynamicNatCount(const pd_match_record *key,
     p4_pd_orbisk_switch_dynamicNatCount_match_spec_t *match_spec);
 void unbuild_mask_dynamicNatCount(const pd_match_record *key,
     p4_pd_orbisk_switch_dynamicNatCount_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_dynamicNatCount_match_spec_schema(void);
+int p4_pd_orbisk_switch_dynamicNatCount_schema(char *out);
+int p4_pd_orbisk_switch_dynamicNatCount_ingMd_snatHit_width(void);
+int p4_pd_orbisk_switch_dynamicNatCount_ingMd_dnatHit_width(void);
+int p4_pd_orbisk_switch_dynamicNatCount_ingMd_protocol_width(void);
+int p4_pd_orbisk_switch_dynamicNatCount_ingMd_ingNatProfile_width(void);
+int p4_pd_orbisk_switch_dynamicNatCount_ingMd_egrNatProfile_width(void);
+int p4_pd_orbisk_switch_dynamicNatCount_supports_entry_priority(void);
 
 /* natTcpFlags: table 0x11010006, pipeline B, exact match, 1 key bytes (8 bits) */
 typedef struct p4_pd_orbisk_switch_natTcpFlags_match_spec {
@@ -10757,6 +11338,10 @@ pd_status p4_pd_orbisk_switch_natTcpFlags_register_mat_update_cb(pd_sess_hdl ses
     void *cookie);
 void unbuild_key_natTcpFlags(const pd_match_record *key,
     p4_pd_orbisk_switch_natTcpFlags_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_natTcpFlags_match_spec_schema(void);
+int p4_pd_orbisk_switch_natTcpFlags_schema(char *out);
+int p4_pd_orbisk_switch_natTcpFlags_outerTcpHdr_flags_width(void);
+int p4_pd_orbisk_switch_natTcpFlags_supports_entry_priority(void);
 
 /* natCpuTrapAcl: table 0x11010018, pipeline B, ternary match, 16 key bytes (121 bits) */
 typedef struct p4_pd_orbisk_switch_natCpuTrapAcl_match_spec {
@@ -10898,6 +11483,17 @@ void unbuild_key_natCpuTrapAcl(const pd_match_record *key,
     p4_pd_orbisk_switch_natCpuTrapAcl_match_spec_t *match_spec);
 void unbuild_mask_natCpuTrapAcl(const pd_match_record *key,
     p4_pd_orbisk_switch_natCpuTrapAcl_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_natCpuTrapAcl_match_spec_schema(void);
+int p4_pd_orbisk_switch_natCpuTrapAcl_schema(char *out);
+int p4_pd_orbisk_switch_natCpuTrapAcl_ingMd_natTcpFlags_width(void);
+int p4_pd_orbisk_switch_natCpuTrapAcl_ingMd_ingNatProfile_width(void);
+int p4_pd_orbisk_switch_natCpuTrapAcl_ingMd_dynEgrNatProfile_width(void);
+int p4_pd_orbisk_switch_natCpuTrapAcl_outerIpv4Hdr_sip_width(void);
+int p4_pd_orbisk_switch_natCpuTrapAcl_outerIpv4Hdr_dip_width(void);
+int p4_pd_orbisk_switch_natCpuTrapAcl_l4PortHdr_srcPort_width(void);
+int p4_pd_orbisk_switch_natCpuTrapAcl_l4PortHdr_dstPort_width(void);
+int p4_pd_orbisk_switch_natCpuTrapAcl_outerIpv4Hdr_protocol_width(void);
+int p4_pd_orbisk_switch_natCpuTrapAcl_supports_entry_priority(void);
 
 /* natCpuReasonCode: table 0x11010005, pipeline B, ternary match, 2 key bytes (9 bits) */
 typedef struct p4_pd_orbisk_switch_natCpuReasonCode_match_spec {
@@ -10994,6 +11590,11 @@ void unbuild_key_natCpuReasonCode(const pd_match_record *key,
     p4_pd_orbisk_switch_natCpuReasonCode_match_spec_t *match_spec);
 void unbuild_mask_natCpuReasonCode(const pd_match_record *key,
     p4_pd_orbisk_switch_natCpuReasonCode_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_natCpuReasonCode_match_spec_schema(void);
+int p4_pd_orbisk_switch_natCpuReasonCode_schema(char *out);
+int p4_pd_orbisk_switch_natCpuReasonCode_outerTcpHdr_width(void);
+int p4_pd_orbisk_switch_natCpuReasonCode_outerTcpHdr_flags_width(void);
+int p4_pd_orbisk_switch_natCpuReasonCode_supports_entry_priority(void);
 
 /* natChecksumUpdate: table 0x11010021, pipeline B, ternary match, 9 key bytes (32 bits) */
 typedef struct p4_pd_orbisk_switch_natChecksumUpdate_match_spec {
@@ -11150,6 +11751,17 @@ void unbuild_key_natChecksumUpdate(const pd_match_record *key,
     p4_pd_orbisk_switch_natChecksumUpdate_match_spec_t *match_spec);
 void unbuild_mask_natChecksumUpdate(const pd_match_record *key,
     p4_pd_orbisk_switch_natChecksumUpdate_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_natChecksumUpdate_match_spec_schema(void);
+int p4_pd_orbisk_switch_natChecksumUpdate_schema(char *out);
+int p4_pd_orbisk_switch_natChecksumUpdate_egrMd_cpuReasonCode_width(void);
+int p4_pd_orbisk_switch_natChecksumUpdate_ingMd_dnatHit_width(void);
+int p4_pd_orbisk_switch_natChecksumUpdate_ingMd_snatHit_width(void);
+int p4_pd_orbisk_switch_natChecksumUpdate_outerIpv4Hdr_width(void);
+int p4_pd_orbisk_switch_natChecksumUpdate_outerL4Checksum_width(void);
+int p4_pd_orbisk_switch_natChecksumUpdate_outerUdpHdr_width(void);
+int p4_pd_orbisk_switch_natChecksumUpdate_outerL4Checksum_checksum_width(void);
+int p4_pd_orbisk_switch_natChecksumUpdate_egrMd_decapType_width(void);
+int p4_pd_orbisk_switch_natChecksumUpdate_supports_entry_priority(void);
 
 /* egressNatCpuTrapHeader: table 0x01000070, pipeline A, exact match, 2 key bytes (2 bits) */
 typedef struct p4_pd_orbisk_switch_egressNatCpuTrapHeader_match_spec {
@@ -11255,6 +11867,11 @@ pd_status p4_pd_orbisk_switch_egressNatCpuTrapHeader_register_mat_update_cb(pd_s
     void *cookie);
 void unbuild_key_egressNatCpuTrapHeader(const pd_match_record *key,
     p4_pd_orbisk_switch_egressNatCpuTrapHeader_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_egressNatCpuTrapHeader_match_spec_schema(void);
+int p4_pd_orbisk_switch_egressNatCpuTrapHeader_schema(char *out);
+int p4_pd_orbisk_switch_egressNatCpuTrapHeader_egrMd_natAclIdHi_width(void);
+int p4_pd_orbisk_switch_egressNatCpuTrapHeader_egrMd_natAclIdLo_width(void);
+int p4_pd_orbisk_switch_egressNatCpuTrapHeader_supports_entry_priority(void);
 
 /* ================================================================== */
 /* Halo classification */
@@ -11347,6 +11964,11 @@ pd_status p4_pd_orbisk_switch_haloPaclCrlId_register_mat_update_cb(pd_sess_hdl s
     void *cookie);
 void unbuild_key_haloPaclCrlId(const pd_match_record *key,
     p4_pd_orbisk_switch_haloPaclCrlId_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_haloPaclCrlId_match_spec_schema(void);
+int p4_pd_orbisk_switch_haloPaclCrlId_schema(char *out);
+int p4_pd_orbisk_switch_haloPaclCrlId_ingMd_v4V6Valid_width(void);
+int p4_pd_orbisk_switch_haloPaclCrlId_ig_intr_md_ingress_port_width(void);
+int p4_pd_orbisk_switch_haloPaclCrlId_supports_entry_priority(void);
 
 /* haloRaclCrlId: table 0x01000016, pipeline A, exact match, 3 key bytes (15 bits) */
 typedef struct p4_pd_orbisk_switch_haloRaclCrlId_match_spec {
@@ -11435,6 +12057,11 @@ pd_status p4_pd_orbisk_switch_haloRaclCrlId_register_mat_update_cb(pd_sess_hdl s
     void *cookie);
 void unbuild_key_haloRaclCrlId(const pd_match_record *key,
     p4_pd_orbisk_switch_haloRaclCrlId_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_haloRaclCrlId_match_spec_schema(void);
+int p4_pd_orbisk_switch_haloRaclCrlId_schema(char *out);
+int p4_pd_orbisk_switch_haloRaclCrlId_ingMd_v4V6Valid_width(void);
+int p4_pd_orbisk_switch_haloRaclCrlId_ingMd_ingL3Aintf_width(void);
+int p4_pd_orbisk_switch_haloRaclCrlId_supports_entry_priority(void);
 
 /* haloXformIpv4Sip: table 0x0100001c, pipeline A, ternary match, 4 key bytes (32 bits) */
 typedef struct p4_pd_orbisk_switch_haloXformIpv4Sip_match_spec {
@@ -11544,6 +12171,10 @@ void unbuild_key_haloXformIpv4Sip(const pd_match_record *key,
     p4_pd_orbisk_switch_haloXformIpv4Sip_match_spec_t *match_spec);
 void unbuild_mask_haloXformIpv4Sip(const pd_match_record *key,
     p4_pd_orbisk_switch_haloXformIpv4Sip_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_haloXformIpv4Sip_match_spec_schema(void);
+int p4_pd_orbisk_switch_haloXformIpv4Sip_schema(char *out);
+int p4_pd_orbisk_switch_haloXformIpv4Sip_ingIpv4_sip_width(void);
+int p4_pd_orbisk_switch_haloXformIpv4Sip_supports_entry_priority(void);
 
 /* haloXformIpv4Dip: table 0x01000019, pipeline A, ternary match, 4 key bytes (32 bits) */
 typedef struct p4_pd_orbisk_switch_haloXformIpv4Dip_match_spec {
@@ -11653,6 +12284,10 @@ void unbuild_key_haloXformIpv4Dip(const pd_match_record *key,
     p4_pd_orbisk_switch_haloXformIpv4Dip_match_spec_t *match_spec);
 void unbuild_mask_haloXformIpv4Dip(const pd_match_record *key,
     p4_pd_orbisk_switch_haloXformIpv4Dip_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_haloXformIpv4Dip_match_spec_schema(void);
+int p4_pd_orbisk_switch_haloXformIpv4Dip_schema(char *out);
+int p4_pd_orbisk_switch_haloXformIpv4Dip_ingIpv4_dip_width(void);
+int p4_pd_orbisk_switch_haloXformIpv4Dip_supports_entry_priority(void);
 
 /* haloXformIpv6Sip: table 0x0100001b, pipeline A, ternary match, 16 key bytes (128 bits) */
 typedef struct p4_pd_orbisk_switch_haloXformIpv6Sip_match_spec {
@@ -11762,6 +12397,10 @@ void unbuild_key_haloXformIpv6Sip(const pd_match_record *key,
     p4_pd_orbisk_switch_haloXformIpv6Sip_match_spec_t *match_spec);
 void unbuild_mask_haloXformIpv6Sip(const pd_match_record *key,
     p4_pd_orbisk_switch_haloXformIpv6Sip_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_haloXformIpv6Sip_match_spec_schema(void);
+int p4_pd_orbisk_switch_haloXformIpv6Sip_schema(char *out);
+int p4_pd_orbisk_switch_haloXformIpv6Sip_ingIpv6_sip_width(void);
+int p4_pd_orbisk_switch_haloXformIpv6Sip_supports_entry_priority(void);
 
 /* haloXformIpv6Dip: table 0x0100001a, pipeline A, ternary match, 16 key bytes (128 bits) */
 typedef struct p4_pd_orbisk_switch_haloXformIpv6Dip_match_spec {
@@ -11871,6 +12510,10 @@ void unbuild_key_haloXformIpv6Dip(const pd_match_record *key,
     p4_pd_orbisk_switch_haloXformIpv6Dip_match_spec_t *match_spec);
 void unbuild_mask_haloXformIpv6Dip(const pd_match_record *key,
     p4_pd_orbisk_switch_haloXformIpv6Dip_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_haloXformIpv6Dip_match_spec_schema(void);
+int p4_pd_orbisk_switch_haloXformIpv6Dip_schema(char *out);
+int p4_pd_orbisk_switch_haloXformIpv6Dip_ingIpv6_dip_width(void);
+int p4_pd_orbisk_switch_haloXformIpv6Dip_supports_entry_priority(void);
 
 /* haloXformSrcPort: table 0x0100001e, pipeline A, ternary match, 2 key bytes (16 bits) */
 typedef struct p4_pd_orbisk_switch_haloXformSrcPort_match_spec {
@@ -11968,6 +12611,10 @@ void unbuild_key_haloXformSrcPort(const pd_match_record *key,
     p4_pd_orbisk_switch_haloXformSrcPort_match_spec_t *match_spec);
 void unbuild_mask_haloXformSrcPort(const pd_match_record *key,
     p4_pd_orbisk_switch_haloXformSrcPort_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_haloXformSrcPort_match_spec_schema(void);
+int p4_pd_orbisk_switch_haloXformSrcPort_schema(char *out);
+int p4_pd_orbisk_switch_haloXformSrcPort_ingMd_srcPort_width(void);
+int p4_pd_orbisk_switch_haloXformSrcPort_supports_entry_priority(void);
 
 /* haloXformDstPort: table 0x0100001d, pipeline A, ternary match, 2 key bytes (16 bits) */
 typedef struct p4_pd_orbisk_switch_haloXformDstPort_match_spec {
@@ -12065,6 +12712,10 @@ void unbuild_key_haloXformDstPort(const pd_match_record *key,
     p4_pd_orbisk_switch_haloXformDstPort_match_spec_t *match_spec);
 void unbuild_mask_haloXformDstPort(const pd_match_record *key,
     p4_pd_orbisk_switch_haloXformDstPort_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_haloXformDstPort_match_spec_schema(void);
+int p4_pd_orbisk_switch_haloXformDstPort_schema(char *out);
+int p4_pd_orbisk_switch_haloXformDstPort_ingMd_dstPort_width(void);
+int p4_pd_orbisk_switch_haloXformDstPort_supports_entry_priority(void);
 
 /* haloKeyMaskForRow1Stage2: table 0x01000028, pipeline A, exact match, 1 key bytes (8 bits) */
 typedef struct p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_match_spec {
@@ -12143,6 +12794,10 @@ pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_register_mat_update_cb(pd
     void *cookie);
 void unbuild_key_haloKeyMaskForRow1Stage2(const pd_match_record *key,
     p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_match_spec_schema(void);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_schema(char *out);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_haloKeyOrig_crlId_width(void);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_supports_entry_priority(void);
 
 /* haloRow1Stage2: table 0x01000032, pipeline A, exact match, 14 key bytes (103 bits) */
 typedef struct p4_pd_orbisk_switch_haloRow1Stage2_match_spec {
@@ -12239,6 +12894,19 @@ pd_status p4_pd_orbisk_switch_haloRow1Stage2_register_mat_update_cb(pd_sess_hdl 
     void *cookie);
 void unbuild_key_haloRow1Stage2(const pd_match_record *key,
     p4_pd_orbisk_switch_haloRow1Stage2_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_haloRow1Stage2_match_spec_schema(void);
+int p4_pd_orbisk_switch_haloRow1Stage2_schema(char *out);
+int p4_pd_orbisk_switch_haloRow1Stage2_haloKeyOrig_crlId_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage2_haloKeyMaskedRow1_sip_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage2_haloKeyMaskedRow1_dip_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage2_haloKeyMaskedRow1_srcPort_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage2_haloKeyMaskedRow1_dstPort_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage2_haloKeyMaskedRow1_proto_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage2_haloKeyMaskedRow1_dscp_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage2_haloKeyMaskedRow1_ttl_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage2_haloKeyMaskedRow1_flags_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage2_haloKeyMaskedRow1_isFrag_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage2_supports_entry_priority(void);
 
 /* haloKeyMaskForRow1Stage3: table 0x01000033, pipeline A, exact match, 1 key bytes (8 bits) */
 typedef struct p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_match_spec {
@@ -12317,6 +12985,10 @@ pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_register_mat_update_cb(pd
     void *cookie);
 void unbuild_key_haloKeyMaskForRow1Stage3(const pd_match_record *key,
     p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_match_spec_schema(void);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_schema(char *out);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_haloKeyOrig_crlId_width(void);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_supports_entry_priority(void);
 
 /* haloRow1Stage3: table 0x0100003c, pipeline A, exact match, 14 key bytes (103 bits) */
 typedef struct p4_pd_orbisk_switch_haloRow1Stage3_match_spec {
@@ -12413,6 +13085,19 @@ pd_status p4_pd_orbisk_switch_haloRow1Stage3_register_mat_update_cb(pd_sess_hdl 
     void *cookie);
 void unbuild_key_haloRow1Stage3(const pd_match_record *key,
     p4_pd_orbisk_switch_haloRow1Stage3_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_haloRow1Stage3_match_spec_schema(void);
+int p4_pd_orbisk_switch_haloRow1Stage3_schema(char *out);
+int p4_pd_orbisk_switch_haloRow1Stage3_haloKeyOrig_crlId_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage3_haloKeyMaskedRow1_sip_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage3_haloKeyMaskedRow1_dip_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage3_haloKeyMaskedRow1_srcPort_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage3_haloKeyMaskedRow1_dstPort_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage3_haloKeyMaskedRow1_proto_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage3_haloKeyMaskedRow1_dscp_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage3_haloKeyMaskedRow1_ttl_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage3_haloKeyMaskedRow1_flags_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage3_haloKeyMaskedRow1_isFrag_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage3_supports_entry_priority(void);
 
 /* haloKeyMaskForRow1Stage4: table 0x0100003d, pipeline A, exact match, 1 key bytes (8 bits) */
 typedef struct p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_match_spec {
@@ -12491,6 +13176,10 @@ pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_register_mat_update_cb(pd
     void *cookie);
 void unbuild_key_haloKeyMaskForRow1Stage4(const pd_match_record *key,
     p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_match_spec_schema(void);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_schema(char *out);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_haloKeyOrig_crlId_width(void);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_supports_entry_priority(void);
 
 /* haloRow1Stage4: table 0x01000044, pipeline A, exact match, 14 key bytes (103 bits) */
 typedef struct p4_pd_orbisk_switch_haloRow1Stage4_match_spec {
@@ -12587,6 +13276,19 @@ pd_status p4_pd_orbisk_switch_haloRow1Stage4_register_mat_update_cb(pd_sess_hdl 
     void *cookie);
 void unbuild_key_haloRow1Stage4(const pd_match_record *key,
     p4_pd_orbisk_switch_haloRow1Stage4_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_haloRow1Stage4_match_spec_schema(void);
+int p4_pd_orbisk_switch_haloRow1Stage4_schema(char *out);
+int p4_pd_orbisk_switch_haloRow1Stage4_haloKeyOrig_crlId_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage4_haloKeyMaskedRow1_sip_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage4_haloKeyMaskedRow1_dip_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage4_haloKeyMaskedRow1_srcPort_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage4_haloKeyMaskedRow1_dstPort_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage4_haloKeyMaskedRow1_proto_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage4_haloKeyMaskedRow1_dscp_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage4_haloKeyMaskedRow1_ttl_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage4_haloKeyMaskedRow1_flags_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage4_haloKeyMaskedRow1_isFrag_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage4_supports_entry_priority(void);
 
 /* haloKeyMaskForRow1Stage5: table 0x01000045, pipeline A, exact match, 1 key bytes (8 bits) */
 typedef struct p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_match_spec {
@@ -12665,6 +13367,10 @@ pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_register_mat_update_cb(pd
     void *cookie);
 void unbuild_key_haloKeyMaskForRow1Stage5(const pd_match_record *key,
     p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_match_spec_schema(void);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_schema(char *out);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_haloKeyOrig_crlId_width(void);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_supports_entry_priority(void);
 
 /* haloRow1Stage5: table 0x0100004c, pipeline A, exact match, 14 key bytes (103 bits) */
 typedef struct p4_pd_orbisk_switch_haloRow1Stage5_match_spec {
@@ -12761,6 +13467,19 @@ pd_status p4_pd_orbisk_switch_haloRow1Stage5_register_mat_update_cb(pd_sess_hdl 
     void *cookie);
 void unbuild_key_haloRow1Stage5(const pd_match_record *key,
     p4_pd_orbisk_switch_haloRow1Stage5_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_haloRow1Stage5_match_spec_schema(void);
+int p4_pd_orbisk_switch_haloRow1Stage5_schema(char *out);
+int p4_pd_orbisk_switch_haloRow1Stage5_haloKeyOrig_crlId_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage5_haloKeyMaskedRow1_sip_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage5_haloKeyMaskedRow1_dip_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage5_haloKeyMaskedRow1_srcPort_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage5_haloKeyMaskedRow1_dstPort_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage5_haloKeyMaskedRow1_proto_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage5_haloKeyMaskedRow1_dscp_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage5_haloKeyMaskedRow1_ttl_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage5_haloKeyMaskedRow1_flags_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage5_haloKeyMaskedRow1_isFrag_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage5_supports_entry_priority(void);
 
 /* haloKeyMaskForRow1Stage6: table 0x0100004d, pipeline A, exact match, 1 key bytes (8 bits) */
 typedef struct p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_match_spec {
@@ -12839,6 +13558,10 @@ pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_register_mat_update_cb(pd
     void *cookie);
 void unbuild_key_haloKeyMaskForRow1Stage6(const pd_match_record *key,
     p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_match_spec_schema(void);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_schema(char *out);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_haloKeyOrig_crlId_width(void);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_supports_entry_priority(void);
 
 /* haloRow1Stage6: table 0x01000052, pipeline A, exact match, 14 key bytes (103 bits) */
 typedef struct p4_pd_orbisk_switch_haloRow1Stage6_match_spec {
@@ -12935,6 +13658,19 @@ pd_status p4_pd_orbisk_switch_haloRow1Stage6_register_mat_update_cb(pd_sess_hdl 
     void *cookie);
 void unbuild_key_haloRow1Stage6(const pd_match_record *key,
     p4_pd_orbisk_switch_haloRow1Stage6_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_haloRow1Stage6_match_spec_schema(void);
+int p4_pd_orbisk_switch_haloRow1Stage6_schema(char *out);
+int p4_pd_orbisk_switch_haloRow1Stage6_haloKeyOrig_crlId_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage6_haloKeyMaskedRow1_sip_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage6_haloKeyMaskedRow1_dip_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage6_haloKeyMaskedRow1_srcPort_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage6_haloKeyMaskedRow1_dstPort_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage6_haloKeyMaskedRow1_proto_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage6_haloKeyMaskedRow1_dscp_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage6_haloKeyMaskedRow1_ttl_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage6_haloKeyMaskedRow1_flags_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage6_haloKeyMaskedRow1_isFrag_width(void);
+int p4_pd_orbisk_switch_haloRow1Stage6_supports_entry_priority(void);
 
 /* haloBypass: table 0x01000051, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_haloBypass_get_entry(pd_sess_hdl sess_hdl,
@@ -12982,6 +13718,8 @@ pd_status p4_pd_orbisk_switch_haloBypass_register_mat_update_cb(pd_sess_hdl sess
     uint32_t dev_id,
     pd_mat_update_cb callback,
     void *cookie);
+int p4_pd_orbisk_switch_haloBypass_schema(char *out);
+int p4_pd_orbisk_switch_haloBypass_supports_entry_priority(void);
 
 /* haloCounters: table 0x01000059, pipeline A, exact match, 4 key bytes (32 bits), entries carry haloCount */
 typedef struct p4_pd_orbisk_switch_haloCounters_match_spec {
@@ -13056,6 +13794,10 @@ pd_status p4_pd_orbisk_switch_haloCounters_register_mat_update_cb(pd_sess_hdl se
     void *cookie);
 void unbuild_key_haloCounters(const pd_match_record *key,
     p4_pd_orbisk_switch_haloCounters_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_haloCounters_match_spec_schema(void);
+int p4_pd_orbisk_switch_haloCounters_schema(char *out);
+int p4_pd_orbisk_switch_haloCounters_haloResultRow1_bestResult_width(void);
+int p4_pd_orbisk_switch_haloCounters_supports_entry_priority(void);
 
 /* ================================================================== */
 /* Mirroring */
@@ -13191,6 +13933,21 @@ void unbuild_key_ingressMirrorSession(const pd_match_record *key,
     p4_pd_orbisk_switch_ingressMirrorSession_match_spec_t *match_spec);
 void unbuild_mask_ingressMirrorSession(const pd_match_record *key,
     p4_pd_orbisk_switch_ingressMirrorSession_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_ingressMirrorSession_match_spec_schema(void);
+int p4_pd_orbisk_switch_ingressMirrorSession_schema(char *out);
+int p4_pd_orbisk_switch_ingressMirrorSession_phase0_ingVPort_width(void);
+int p4_pd_orbisk_switch_ingressMirrorSession_ig_intr_md_ingress_port_width(void);
+int p4_pd_orbisk_switch_ingressMirrorSession_qosMd_dscp_width(void);
+int p4_pd_orbisk_switch_ingressMirrorSession_haloKeyOrig_sipMirror_width(void);
+int p4_pd_orbisk_switch_ingressMirrorSession_haloKeyOrig_dipMirror_width(void);
+int p4_pd_orbisk_switch_ingressMirrorSession_ingMd_protocol_width(void);
+int p4_pd_orbisk_switch_ingressMirrorSession_ingMd_ttl_width(void);
+int p4_pd_orbisk_switch_ingressMirrorSession_ingMd_srcPort_width(void);
+int p4_pd_orbisk_switch_ingressMirrorSession_ingMd_dstPort_width(void);
+int p4_pd_orbisk_switch_ingressMirrorSession_haloKeyOrig_isFrag_width(void);
+int p4_pd_orbisk_switch_ingressMirrorSession_haloKeyOrig_flags_width(void);
+int p4_pd_orbisk_switch_ingressMirrorSession_ingMd_v4V6Valid_width(void);
+int p4_pd_orbisk_switch_ingressMirrorSession_supports_entry_priority(void);
 
 /* ingressMirrorLagGroup: table 0x0100004b, pipeline A, exact match, 2 key bytes (10 bits), entries name a member or group of mirrorLagPortActionProfile */
 typedef struct p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec {
@@ -13243,6 +14000,10 @@ pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_register_mat_update_cb(pd_se
     void *cookie);
 void unbuild_key_ingressMirrorLagGroup(const pd_match_record *key,
     p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_schema(void);
+int p4_pd_orbisk_switch_ingressMirrorLagGroup_schema(char *out);
+int p4_pd_orbisk_switch_ingressMirrorLagGroup_ingMirrorMd_mirrorSession_width(void);
+int p4_pd_orbisk_switch_ingressMirrorLagGroup_supports_entry_priority(void);
 
 /* ingressMirrorRate: table 0x01000056, pipeline A, exact match, 2 key bytes (10 bits), entries carry ingressMirrorMeter */
 typedef struct p4_pd_orbisk_switch_ingressMirrorRate_match_spec {
@@ -13330,6 +14091,10 @@ pd_status p4_pd_orbisk_switch_ingressMirrorRate_register_mat_update_cb(pd_sess_h
     void *cookie);
 void unbuild_key_ingressMirrorRate(const pd_match_record *key,
     p4_pd_orbisk_switch_ingressMirrorRate_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_ingressMirrorRate_match_spec_schema(void);
+int p4_pd_orbisk_switch_ingressMirrorRate_schema(char *out);
+int p4_pd_orbisk_switch_ingressMirrorRate_ingMirrorMd_mirrorBufId_width(void);
+int p4_pd_orbisk_switch_ingressMirrorRate_supports_entry_priority(void);
 
 /* ingressMirrorResult: table 0x01000058, pipeline A, exact match, 3 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_ingressMirrorResult_match_spec {
@@ -13409,6 +14174,11 @@ pd_status p4_pd_orbisk_switch_ingressMirrorResult_register_mat_update_cb(pd_sess
     void *cookie);
 void unbuild_key_ingressMirrorResult(const pd_match_record *key,
     p4_pd_orbisk_switch_ingressMirrorResult_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_ingressMirrorResult_match_spec_schema(void);
+int p4_pd_orbisk_switch_ingressMirrorResult_schema(char *out);
+int p4_pd_orbisk_switch_ingressMirrorResult_ingMirrorMd_mirrorColor_width(void);
+int p4_pd_orbisk_switch_ingressMirrorResult_ingMirrorMd_mirrorSession_width(void);
+int p4_pd_orbisk_switch_ingressMirrorResult_supports_entry_priority(void);
 
 /* egressMirrorSession: table 0x0100005e, pipeline A, ternary match, 51 key bytes (380 bits) */
 typedef struct p4_pd_orbisk_switch_egressMirrorSession_match_spec {
@@ -13527,6 +14297,21 @@ void unbuild_key_egressMirrorSession(const pd_match_record *key,
     p4_pd_orbisk_switch_egressMirrorSession_match_spec_t *match_spec);
 void unbuild_mask_egressMirrorSession(const pd_match_record *key,
     p4_pd_orbisk_switch_egressMirrorSession_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_egressMirrorSession_match_spec_schema(void);
+int p4_pd_orbisk_switch_egressMirrorSession_schema(char *out);
+int p4_pd_orbisk_switch_egressMirrorSession_eg_intr_md_egress_port_width(void);
+int p4_pd_orbisk_switch_egressMirrorSession_outerIpv4Hdr_width(void);
+int p4_pd_orbisk_switch_egressMirrorSession_outerIpv6Hdr_width(void);
+int p4_pd_orbisk_switch_egressMirrorSession_outerIpv6Hdr_dip_width(void);
+int p4_pd_orbisk_switch_egressMirrorSession_outerIpv6Hdr_sip_width(void);
+int p4_pd_orbisk_switch_egressMirrorSession_outerIpv4Hdr_dip_width(void);
+int p4_pd_orbisk_switch_egressMirrorSession_outerIpv4Hdr_sip_width(void);
+int p4_pd_orbisk_switch_egressMirrorSession_l4PortHdr_dstPort_width(void);
+int p4_pd_orbisk_switch_egressMirrorSession_l4PortHdr_srcPort_width(void);
+int p4_pd_orbisk_switch_egressMirrorSession_outerIpv4Hdr_protocol_width(void);
+int p4_pd_orbisk_switch_egressMirrorSession_outerIpv6Hdr_nextHdr_width(void);
+int p4_pd_orbisk_switch_egressMirrorSession_haloKeyOrig_isFrag_width(void);
+int p4_pd_orbisk_switch_egressMirrorSession_supports_entry_priority(void);
 
 /* egressMirrorLagGroup: table 0x01000063, pipeline A, exact match, 2 key bytes (10 bits), entries name a member or group of egrMirrorLagPortActionProfile */
 typedef struct p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec {
@@ -13579,6 +14364,10 @@ pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_register_mat_update_cb(pd_ses
     void *cookie);
 void unbuild_key_egressMirrorLagGroup(const pd_match_record *key,
     p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_schema(void);
+int p4_pd_orbisk_switch_egressMirrorLagGroup_schema(char *out);
+int p4_pd_orbisk_switch_egressMirrorLagGroup_egrMirrorMd_mirrorSession_width(void);
+int p4_pd_orbisk_switch_egressMirrorLagGroup_supports_entry_priority(void);
 
 /* egressMirrorRate: table 0x01000068, pipeline A, exact match, 2 key bytes (10 bits), entries carry egressMirrorMeter */
 typedef struct p4_pd_orbisk_switch_egressMirrorRate_match_spec {
@@ -13666,6 +14455,10 @@ pd_status p4_pd_orbisk_switch_egressMirrorRate_register_mat_update_cb(pd_sess_hd
     void *cookie);
 void unbuild_key_egressMirrorRate(const pd_match_record *key,
     p4_pd_orbisk_switch_egressMirrorRate_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_egressMirrorRate_match_spec_schema(void);
+int p4_pd_orbisk_switch_egressMirrorRate_schema(char *out);
+int p4_pd_orbisk_switch_egressMirrorRate_egrMirrorMd_mirrorBufId_width(void);
+int p4_pd_orbisk_switch_egressMirrorRate_supports_entry_priority(void);
 
 /* egressMirrorResult: table 0x01000075, pipeline A, exact match, 1 key bytes (1 bits) */
 typedef struct p4_pd_orbisk_switch_egressMirrorResult_match_spec {
@@ -13750,6 +14543,10 @@ pd_status p4_pd_orbisk_switch_egressMirrorResult_register_mat_update_cb(pd_sess_
     void *cookie);
 void unbuild_key_egressMirrorResult(const pd_match_record *key,
     p4_pd_orbisk_switch_egressMirrorResult_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_egressMirrorResult_match_spec_schema(void);
+int p4_pd_orbisk_switch_egressMirrorResult_schema(char *out);
+int p4_pd_orbisk_switch_egressMirrorResult_egrMirrorMd_mirrorColor_width(void);
+int p4_pd_orbisk_switch_egressMirrorResult_supports_entry_priority(void);
 
 /* mirrorPacketEncap: table 0x0100005d, pipeline A, exact match, 4 key bytes (25 bits) */
 typedef struct p4_pd_orbisk_switch_mirrorPacketEncap_match_spec {
@@ -13861,6 +14658,11 @@ pd_status p4_pd_orbisk_switch_mirrorPacketEncap_register_mat_update_cb(pd_sess_h
     void *cookie);
 void unbuild_key_mirrorPacketEncap(const pd_match_record *key,
     p4_pd_orbisk_switch_mirrorPacketEncap_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_mirrorPacketEncap_match_spec_schema(void);
+int p4_pd_orbisk_switch_mirrorPacketEncap_schema(char *out);
+int p4_pd_orbisk_switch_mirrorPacketEncap_eg_intr_md_egress_rid_width(void);
+int p4_pd_orbisk_switch_mirrorPacketEncap_eg_intr_md_egress_port_width(void);
+int p4_pd_orbisk_switch_mirrorPacketEncap_supports_entry_priority(void);
 
 /* ================================================================== */
 /* QoS and policing classes */
@@ -13943,6 +14745,10 @@ pd_status p4_pd_orbisk_switch_qosPortProperties_register_mat_update_cb(pd_sess_h
     void *cookie);
 void unbuild_key_qosPortProperties(const pd_match_record *key,
     p4_pd_orbisk_switch_qosPortProperties_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_qosPortProperties_match_spec_schema(void);
+int p4_pd_orbisk_switch_qosPortProperties_schema(char *out);
+int p4_pd_orbisk_switch_qosPortProperties_ig_intr_md_ingress_port_width(void);
+int p4_pd_orbisk_switch_qosPortProperties_supports_entry_priority(void);
 
 /* normalizeCos: table 0x01000036, pipeline A, exact match, 4 key bytes (8 bits) */
 typedef struct p4_pd_orbisk_switch_normalizeCos_match_spec {
@@ -14059,6 +14865,13 @@ pd_status p4_pd_orbisk_switch_normalizeCos_register_mat_update_cb(pd_sess_hdl se
     void *cookie);
 void unbuild_key_normalizeCos(const pd_match_record *key,
     p4_pd_orbisk_switch_normalizeCos_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_normalizeCos_match_spec_schema(void);
+int p4_pd_orbisk_switch_normalizeCos_schema(char *out);
+int p4_pd_orbisk_switch_normalizeCos_ingMd_vlanHdrValid_width(void);
+int p4_pd_orbisk_switch_normalizeCos_qosMd_defaultCos_width(void);
+int p4_pd_orbisk_switch_normalizeCos_vlanHdr_0__priority_width(void);
+int p4_pd_orbisk_switch_normalizeCos_vlanHdr_1__width(void);
+int p4_pd_orbisk_switch_normalizeCos_supports_entry_priority(void);
 
 /* normalizeDscp: table 0x01000029, pipeline A, exact match, 2 key bytes (6 bits) */
 typedef struct p4_pd_orbisk_switch_normalizeDscp_match_spec {
@@ -14199,6 +15012,11 @@ pd_status p4_pd_orbisk_switch_normalizeDscp_register_mat_update_cb(pd_sess_hdl s
     void *cookie);
 void unbuild_key_normalizeDscp(const pd_match_record *key,
     p4_pd_orbisk_switch_normalizeDscp_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_normalizeDscp_match_spec_schema(void);
+int p4_pd_orbisk_switch_normalizeDscp_schema(char *out);
+int p4_pd_orbisk_switch_normalizeDscp_egrMd_decapType_width(void);
+int p4_pd_orbisk_switch_normalizeDscp_ingMd_v4V6Valid_width(void);
+int p4_pd_orbisk_switch_normalizeDscp_supports_entry_priority(void);
 
 /* ingressTrafficClass: table 0x0100003f, pipeline A, ternary match, 8 key bytes (23 bits) */
 typedef struct p4_pd_orbisk_switch_ingressTrafficClass_match_spec {
@@ -14299,6 +15117,17 @@ void unbuild_key_ingressTrafficClass(const pd_match_record *key,
     p4_pd_orbisk_switch_ingressTrafficClass_match_spec_t *match_spec);
 void unbuild_mask_ingressTrafficClass(const pd_match_record *key,
     p4_pd_orbisk_switch_ingressTrafficClass_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_ingressTrafficClass_match_spec_schema(void);
+int p4_pd_orbisk_switch_ingressTrafficClass_schema(char *out);
+int p4_pd_orbisk_switch_ingressTrafficClass_qosMd_trustMode_width(void);
+int p4_pd_orbisk_switch_ingressTrafficClass_qosMd_defaultCos_width(void);
+int p4_pd_orbisk_switch_ingressTrafficClass_qosMd_cos_width(void);
+int p4_pd_orbisk_switch_ingressTrafficClass_qosMd_dscp_width(void);
+int p4_pd_orbisk_switch_ingressTrafficClass_qosMd_highPriority_width(void);
+int p4_pd_orbisk_switch_ingressTrafficClass_egrMd_decapType_width(void);
+int p4_pd_orbisk_switch_ingressTrafficClass_orbiskCpuHdr_trustMode_width(void);
+int p4_pd_orbisk_switch_ingressTrafficClass_orbiskCpuHdr_tc_width(void);
+int p4_pd_orbisk_switch_ingressTrafficClass_supports_entry_priority(void);
 
 /* tcDscpMap: table 0x01000061, pipeline A, exact match, 1 key bytes (3 bits) */
 typedef struct p4_pd_orbisk_switch_tcDscpMap_match_spec {
@@ -14390,6 +15219,10 @@ pd_status p4_pd_orbisk_switch_tcDscpMap_register_mat_update_cb(pd_sess_hdl sess_
     void *cookie);
 void unbuild_key_tcDscpMap(const pd_match_record *key,
     p4_pd_orbisk_switch_tcDscpMap_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_tcDscpMap_match_spec_schema(void);
+int p4_pd_orbisk_switch_tcDscpMap_schema(char *out);
+int p4_pd_orbisk_switch_tcDscpMap_ig_intr_md_for_tm_ingress_cos_width(void);
+int p4_pd_orbisk_switch_tcDscpMap_supports_entry_priority(void);
 
 /* qosRewriteConfig: table 0x0100000f, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_qosRewriteConfig_get_entry(pd_sess_hdl sess_hdl,
@@ -14438,6 +15271,8 @@ pd_status p4_pd_orbisk_switch_qosRewriteConfig_register_mat_update_cb(pd_sess_hd
     uint32_t dev_id,
     pd_mat_update_cb callback,
     void *cookie);
+int p4_pd_orbisk_switch_qosRewriteConfig_schema(char *out);
+int p4_pd_orbisk_switch_qosRewriteConfig_supports_entry_priority(void);
 
 /* qosRewrite: table 0x01000048, pipeline A, exact match, 5 key bytes (10 bits) */
 typedef struct p4_pd_orbisk_switch_qosRewrite_match_spec {
@@ -14555,6 +15390,14 @@ pd_status p4_pd_orbisk_switch_qosRewrite_register_mat_update_cb(pd_sess_hdl sess
     void *cookie);
 void unbuild_key_qosRewrite(const pd_match_record *key,
     p4_pd_orbisk_switch_qosRewrite_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_qosRewrite_match_spec_schema(void);
+int p4_pd_orbisk_switch_qosRewrite_schema(char *out);
+int p4_pd_orbisk_switch_qosRewrite_qosMd_trustMode_width(void);
+int p4_pd_orbisk_switch_qosRewrite_qosMd_cosRewrite_width(void);
+int p4_pd_orbisk_switch_qosRewrite_qosMd_dscpRewrite_width(void);
+int p4_pd_orbisk_switch_qosRewrite_ig_intr_md_for_tm_ingress_cos_width(void);
+int p4_pd_orbisk_switch_qosRewrite_egrMd_decapType_width(void);
+int p4_pd_orbisk_switch_qosRewrite_supports_entry_priority(void);
 
 /* packetDscpRewrite: table 0x0100006e, pipeline A, ternary match, 6 key bytes (10 bits) */
 typedef struct p4_pd_orbisk_switch_packetDscpRewrite_match_spec {
@@ -14731,6 +15574,15 @@ void unbuild_key_packetDscpRewrite(const pd_match_record *key,
     p4_pd_orbisk_switch_packetDscpRewrite_match_spec_t *match_spec);
 void unbuild_mask_packetDscpRewrite(const pd_match_record *key,
     p4_pd_orbisk_switch_packetDscpRewrite_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_packetDscpRewrite_match_spec_schema(void);
+int p4_pd_orbisk_switch_packetDscpRewrite_schema(char *out);
+int p4_pd_orbisk_switch_packetDscpRewrite_egrMd_encapType_width(void);
+int p4_pd_orbisk_switch_packetDscpRewrite_egrMd_decapType_width(void);
+int p4_pd_orbisk_switch_packetDscpRewrite_egrMd_routed_width(void);
+int p4_pd_orbisk_switch_packetDscpRewrite_outerIpv4Hdr_width(void);
+int p4_pd_orbisk_switch_packetDscpRewrite_outerIpv6Hdr_width(void);
+int p4_pd_orbisk_switch_packetDscpRewrite_encapIpv4Hdr_width(void);
+int p4_pd_orbisk_switch_packetDscpRewrite_supports_entry_priority(void);
 
 /* queueCounters: table 0x0100005b, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_queueCounters_get_entry(pd_sess_hdl sess_hdl,
@@ -14778,6 +15630,8 @@ pd_status p4_pd_orbisk_switch_queueCounters_register_mat_update_cb(pd_sess_hdl s
     uint32_t dev_id,
     pd_mat_update_cb callback,
     void *cookie);
+int p4_pd_orbisk_switch_queueCounters_schema(char *out);
+int p4_pd_orbisk_switch_queueCounters_supports_entry_priority(void);
 
 /* pdpClassify: table 0x11010020, pipeline B, ternary match, 10 key bytes (52 bits), entries carry pdpMeter */
 typedef struct p4_pd_orbisk_switch_pdpClassify_match_spec {
@@ -14893,6 +15747,17 @@ void unbuild_key_pdpClassify(const pd_match_record *key,
     p4_pd_orbisk_switch_pdpClassify_match_spec_t *match_spec);
 void unbuild_mask_pdpClassify(const pd_match_record *key,
     p4_pd_orbisk_switch_pdpClassify_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_pdpClassify_match_spec_schema(void);
+int p4_pd_orbisk_switch_pdpClassify_schema(char *out);
+int p4_pd_orbisk_switch_pdpClassify_arpHdr_width(void);
+int p4_pd_orbisk_switch_pdpClassify_orbiskCpuHdr_width(void);
+int p4_pd_orbisk_switch_pdpClassify_egrMd_cpuReasonCode_width(void);
+int p4_pd_orbisk_switch_pdpClassify_egrMd_trapToCpu_width(void);
+int p4_pd_orbisk_switch_pdpClassify_ingMd_bcast_width(void);
+int p4_pd_orbisk_switch_pdpClassify_ingMd_protocol_width(void);
+int p4_pd_orbisk_switch_pdpClassify_ingMd_srcPort_width(void);
+int p4_pd_orbisk_switch_pdpClassify_ingMd_dstPort_width(void);
+int p4_pd_orbisk_switch_pdpClassify_supports_entry_priority(void);
 
 /* pdpPolicy: table 0x11010025, pipeline B, exact match, 2 key bytes (6 bits), entries carry pdpClassCount */
 typedef struct p4_pd_orbisk_switch_pdpPolicy_match_spec {
@@ -14981,6 +15846,11 @@ pd_status p4_pd_orbisk_switch_pdpPolicy_register_mat_update_cb(pd_sess_hdl sess_
     void *cookie);
 void unbuild_key_pdpPolicy(const pd_match_record *key,
     p4_pd_orbisk_switch_pdpPolicy_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_pdpPolicy_match_spec_schema(void);
+int p4_pd_orbisk_switch_pdpPolicy_schema(char *out);
+int p4_pd_orbisk_switch_pdpPolicy_qosMd_pdpDrop_width(void);
+int p4_pd_orbisk_switch_pdpPolicy_qosMd_pdpClassId_width(void);
+int p4_pd_orbisk_switch_pdpPolicy_supports_entry_priority(void);
 
 /* ================================================================== */
 /* CPU path, MTU and final drop */
@@ -15159,6 +16029,29 @@ void unbuild_key_trapToCpu(const pd_match_record *key,
     p4_pd_orbisk_switch_trapToCpu_match_spec_t *match_spec);
 void unbuild_mask_trapToCpu(const pd_match_record *key,
     p4_pd_orbisk_switch_trapToCpu_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_trapToCpu_match_spec_schema(void);
+int p4_pd_orbisk_switch_trapToCpu_schema(char *out);
+int p4_pd_orbisk_switch_trapToCpu_ingMd_etherType_width(void);
+int p4_pd_orbisk_switch_trapToCpu_ingMd_bcast_width(void);
+int p4_pd_orbisk_switch_trapToCpu_ingMd_mcast_width(void);
+int p4_pd_orbisk_switch_trapToCpu_ingMd_l4Attr_width(void);
+int p4_pd_orbisk_switch_trapToCpu_ingMd_srcPort_width(void);
+int p4_pd_orbisk_switch_trapToCpu_ingMd_dstPort_width(void);
+int p4_pd_orbisk_switch_trapToCpu_phase0_ingVPort_width(void);
+int p4_pd_orbisk_switch_trapToCpu_ingMd_ingL3Aintf_width(void);
+int p4_pd_orbisk_switch_trapToCpu_l3Info_ingL3DmacValid_width(void);
+int p4_pd_orbisk_switch_trapToCpu_ingMd_ttl_width(void);
+int p4_pd_orbisk_switch_trapToCpu_arpHdr_width(void);
+int p4_pd_orbisk_switch_trapToCpu_arpHdr_opcode_width(void);
+int p4_pd_orbisk_switch_trapToCpu_ingMd_igmpSnoopingEnabled_width(void);
+int p4_pd_orbisk_switch_trapToCpu_ingIpv4_dip_width(void);
+int p4_pd_orbisk_switch_trapToCpu_ingMd_protocol_width(void);
+int p4_pd_orbisk_switch_trapToCpu_egrMd_vxlanFlood_width(void);
+int p4_pd_orbisk_switch_trapToCpu_egrMd_decapType_width(void);
+int p4_pd_orbisk_switch_trapToCpu_ingIpv6_dip_width(void);
+int p4_pd_orbisk_switch_trapToCpu_ingMd_cpuMemberOfIngressVlan_width(void);
+int p4_pd_orbisk_switch_trapToCpu_egrMd_cpuReasonCode_width(void);
+int p4_pd_orbisk_switch_trapToCpu_supports_entry_priority(void);
 
 /* switchToCpu: table 0x11010009, pipeline B, exact match, 2 key bytes (7 bits) */
 typedef struct p4_pd_orbisk_switch_switchToCpu_match_spec {
@@ -15238,6 +16131,11 @@ pd_status p4_pd_orbisk_switch_switchToCpu_register_mat_update_cb(pd_sess_hdl ses
     void *cookie);
 void unbuild_key_switchToCpu(const pd_match_record *key,
     p4_pd_orbisk_switch_switchToCpu_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_switchToCpu_match_spec_schema(void);
+int p4_pd_orbisk_switch_switchToCpu_schema(char *out);
+int p4_pd_orbisk_switch_switchToCpu_l3Info_ipRouting_width(void);
+int p4_pd_orbisk_switch_switchToCpu_ingMd_v4V6Valid_width(void);
+int p4_pd_orbisk_switch_switchToCpu_supports_entry_priority(void);
 
 /* cpuEncap: table 0x11010022, pipeline B, ternary match, 7 key bytes (14 bits) */
 typedef struct p4_pd_orbisk_switch_cpuEncap_match_spec {
@@ -15429,6 +16327,16 @@ void unbuild_key_cpuEncap(const pd_match_record *key,
     p4_pd_orbisk_switch_cpuEncap_match_spec_t *match_spec);
 void unbuild_mask_cpuEncap(const pd_match_record *key,
     p4_pd_orbisk_switch_cpuEncap_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_cpuEncap_match_spec_schema(void);
+int p4_pd_orbisk_switch_cpuEncap_schema(char *out);
+int p4_pd_orbisk_switch_cpuEncap_egrMd_trapToCpu_width(void);
+int p4_pd_orbisk_switch_cpuEncap_ingMd_vlanHdrValid_width(void);
+int p4_pd_orbisk_switch_cpuEncap_phase0_switchPort_width(void);
+int p4_pd_orbisk_switch_cpuEncap_egrMd_cpuReasonCode_width(void);
+int p4_pd_orbisk_switch_cpuEncap_ingMd_subIntf_width(void);
+int p4_pd_orbisk_switch_cpuEncap_vlanHdr_0__width(void);
+int p4_pd_orbisk_switch_cpuEncap_l3RsvdQueue_width(void);
+int p4_pd_orbisk_switch_cpuEncap_supports_entry_priority(void);
 
 /* cpuEncapFields: table 0x01000069, pipeline A, exact match, 6 key bytes (15 bits) */
 typedef struct p4_pd_orbisk_switch_cpuEncapFields_match_spec {
@@ -15550,6 +16458,14 @@ pd_status p4_pd_orbisk_switch_cpuEncapFields_register_mat_update_cb(pd_sess_hdl 
     void *cookie);
 void unbuild_key_cpuEncapFields(const pd_match_record *key,
     p4_pd_orbisk_switch_cpuEncapFields_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_cpuEncapFields_match_spec_schema(void);
+int p4_pd_orbisk_switch_cpuEncapFields_schema(char *out);
+int p4_pd_orbisk_switch_cpuEncapFields_eg_intr_md_egress_port_width(void);
+int p4_pd_orbisk_switch_cpuEncapFields_phase0_switchPort_width(void);
+int p4_pd_orbisk_switch_cpuEncapFields_egrMd_ingressTagged_width(void);
+int p4_pd_orbisk_switch_cpuEncapFields_egrMd_decapType_width(void);
+int p4_pd_orbisk_switch_cpuEncapFields_encapEthHdr_width(void);
+int p4_pd_orbisk_switch_cpuEncapFields_supports_entry_priority(void);
 
 /* ingMtu: table 0x11010003, pipeline B, ternary match, 6 key bytes (36 bits) */
 typedef struct p4_pd_orbisk_switch_ingMtu_match_spec {
@@ -15655,6 +16571,13 @@ void unbuild_key_ingMtu(const pd_match_record *key,
     p4_pd_orbisk_switch_ingMtu_match_spec_t *match_spec);
 void unbuild_mask_ingMtu(const pd_match_record *key,
     p4_pd_orbisk_switch_ingMtu_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_ingMtu_match_spec_schema(void);
+int p4_pd_orbisk_switch_ingMtu_schema(char *out);
+int p4_pd_orbisk_switch_ingMtu_ingMd_v4V6Valid_width(void);
+int p4_pd_orbisk_switch_ingMtu_outerIpv4Hdr_width(void);
+int p4_pd_orbisk_switch_ingMtu_outerIpv4Hdr_totalLen_width(void);
+int p4_pd_orbisk_switch_ingMtu_outerIpv6Hdr_payloadLen_width(void);
+int p4_pd_orbisk_switch_ingMtu_supports_entry_priority(void);
 
 /* mtuCheck: table 0x1101001b, pipeline B, ternary match, 7 key bytes (26 bits) */
 typedef struct p4_pd_orbisk_switch_mtuCheck_match_spec {
@@ -15759,6 +16682,14 @@ void unbuild_key_mtuCheck(const pd_match_record *key,
     p4_pd_orbisk_switch_mtuCheck_match_spec_t *match_spec);
 void unbuild_mask_mtuCheck(const pd_match_record *key,
     p4_pd_orbisk_switch_mtuCheck_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_mtuCheck_match_spec_schema(void);
+int p4_pd_orbisk_switch_mtuCheck_schema(char *out);
+int p4_pd_orbisk_switch_mtuCheck_ingMd_ingMtuFail_width(void);
+int p4_pd_orbisk_switch_mtuCheck_ingMd_mtuId_width(void);
+int p4_pd_orbisk_switch_mtuCheck_ingMd_egrMtuId_width(void);
+int p4_pd_orbisk_switch_mtuCheck_egrMd_routed_width(void);
+int p4_pd_orbisk_switch_mtuCheck_egrMd_egrL2AintfUnresolved_width(void);
+int p4_pd_orbisk_switch_mtuCheck_supports_entry_priority(void);
 
 /* finalDropControl: table 0x01000057, pipeline A, ternary match, 26 key bytes (64 bits), entries carry finalDropControlCount */
 typedef struct p4_pd_orbisk_switch_finalDropControl_match_spec {
@@ -15951,6 +16882,31 @@ void unbuild_key_finalDropControl(const pd_match_record *key,
     p4_pd_orbisk_switch_finalDropControl_match_spec_t *match_spec);
 void unbuild_mask_finalDropControl(const pd_match_record *key,
     p4_pd_orbisk_switch_finalDropControl_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_finalDropControl_match_spec_schema(void);
+int p4_pd_orbisk_switch_finalDropControl_schema(char *out);
+int p4_pd_orbisk_switch_finalDropControl_ig_intr_md_ingress_port_width(void);
+int p4_pd_orbisk_switch_finalDropControl_haloResultRow1_bestResult_width(void);
+int p4_pd_orbisk_switch_finalDropControl_ingMd_drop_width(void);
+int p4_pd_orbisk_switch_finalDropControl_ingMd_dropSmac_width(void);
+int p4_pd_orbisk_switch_finalDropControl_ingMd_dropDmac_width(void);
+int p4_pd_orbisk_switch_finalDropControl_ingMd_invalidEgressPort_width(void);
+int p4_pd_orbisk_switch_finalDropControl_ingMd_samePortBridging_width(void);
+int p4_pd_orbisk_switch_finalDropControl_qosMd_pdpDrop_width(void);
+int p4_pd_orbisk_switch_finalDropControl_ingMd_routedMartian_width(void);
+int p4_pd_orbisk_switch_finalDropControl_ingMd_mlagPrune_width(void);
+int p4_pd_orbisk_switch_finalDropControl_ingMd_v4V6Valid_width(void);
+int p4_pd_orbisk_switch_finalDropControl_egrMd_trapToCpu_width(void);
+int p4_pd_orbisk_switch_finalDropControl_ingMd_dropVarpVxlan_width(void);
+int p4_pd_orbisk_switch_finalDropControl_ingMd_dropDatalink_width(void);
+int p4_pd_orbisk_switch_finalDropControl_ingMd_natMeterDrop_width(void);
+int p4_pd_orbisk_switch_finalDropControl_ingVlanStpCheck_stpBlocked_width(void);
+int p4_pd_orbisk_switch_finalDropControl_ingVlanStpCheck_invalidVlan_width(void);
+int p4_pd_orbisk_switch_finalDropControl_ingMd_dot1xDrop_width(void);
+int p4_pd_orbisk_switch_finalDropControl_ig_intr_md_for_tm_copy_to_cpu_width(void);
+int p4_pd_orbisk_switch_finalDropControl_ingMd_stormControlDrop_width(void);
+int p4_pd_orbisk_switch_finalDropControl_ingMd_bcast_width(void);
+int p4_pd_orbisk_switch_finalDropControl_ingMd_mcast_width(void);
+int p4_pd_orbisk_switch_finalDropControl_supports_entry_priority(void);
 
 /* finalDropControlIB: table 0x11010027, pipeline B, ternary match, 12 key bytes (50 bits), entries carry finalDropControlIBCount */
 typedef struct p4_pd_orbisk_switch_finalDropControlIB_match_spec {
@@ -16059,6 +17015,17 @@ void unbuild_key_finalDropControlIB(const pd_match_record *key,
     p4_pd_orbisk_switch_finalDropControlIB_match_spec_t *match_spec);
 void unbuild_mask_finalDropControlIB(const pd_match_record *key,
     p4_pd_orbisk_switch_finalDropControlIB_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_finalDropControlIB_match_spec_schema(void);
+int p4_pd_orbisk_switch_finalDropControlIB_schema(char *out);
+int p4_pd_orbisk_switch_finalDropControlIB_ig_intr_md_ingress_port_width(void);
+int p4_pd_orbisk_switch_finalDropControlIB_qosMd_pdpDrop_width(void);
+int p4_pd_orbisk_switch_finalDropControlIB_egrMd_egrL2AintfUnresolved_width(void);
+int p4_pd_orbisk_switch_finalDropControlIB_ig_intr_md_for_tm_mcast_grp_a_width(void);
+int p4_pd_orbisk_switch_finalDropControlIB_ig_intr_md_for_tm_copy_to_cpu_width(void);
+int p4_pd_orbisk_switch_finalDropControlIB_egrMd_trapToCpu_width(void);
+int p4_pd_orbisk_switch_finalDropControlIB_egrMd_routed_width(void);
+int p4_pd_orbisk_switch_finalDropControlIB_eif_eifDrop_width(void);
+int p4_pd_orbisk_switch_finalDropControlIB_supports_entry_priority(void);
 
 /* ================================================================== */
 /* Interface policy and folded pipe */
@@ -16141,6 +17108,10 @@ pd_status p4_pd_orbisk_switch_eifIngPolicy_register_mat_update_cb(pd_sess_hdl se
     void *cookie);
 void unbuild_key_eifIngPolicy(const pd_match_record *key,
     p4_pd_orbisk_switch_eifIngPolicy_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_eifIngPolicy_match_spec_schema(void);
+int p4_pd_orbisk_switch_eifIngPolicy_schema(char *out);
+int p4_pd_orbisk_switch_eifIngPolicy_ingMd_ingL3Aintf_width(void);
+int p4_pd_orbisk_switch_eifIngPolicy_supports_entry_priority(void);
 
 /* eifParamsForIngress: table 0x11010014, pipeline B, no key */
 pd_status p4_pd_orbisk_switch_eifParamsForIngress_get_entry(pd_sess_hdl sess_hdl,
@@ -16188,6 +17159,8 @@ pd_status p4_pd_orbisk_switch_eifParamsForIngress_register_mat_update_cb(pd_sess
     uint32_t dev_id,
     pd_mat_update_cb callback,
     void *cookie);
+int p4_pd_orbisk_switch_eifParamsForIngress_schema(char *out);
+int p4_pd_orbisk_switch_eifParamsForIngress_supports_entry_priority(void);
 
 /* eifParamsForEgress: table 0x11010011, pipeline B, exact match, 2 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_eifParamsForEgress_match_spec {
@@ -16266,6 +17239,10 @@ pd_status p4_pd_orbisk_switch_eifParamsForEgress_register_mat_update_cb(pd_sess_
     void *cookie);
 void unbuild_key_eifParamsForEgress(const pd_match_record *key,
     p4_pd_orbisk_switch_eifParamsForEgress_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_eifParamsForEgress_match_spec_schema(void);
+int p4_pd_orbisk_switch_eifParamsForEgress_schema(char *out);
+int p4_pd_orbisk_switch_eifParamsForEgress_egrMd_egrL2Domain_width(void);
+int p4_pd_orbisk_switch_eifParamsForEgress_supports_entry_priority(void);
 
 /* eifPinHole: table 0x11010019, pipeline B, exact match, 20 key bytes (160 bits) */
 typedef struct p4_pd_orbisk_switch_eifPinHole_match_spec {
@@ -16356,6 +17333,13 @@ pd_status p4_pd_orbisk_switch_eifPinHole_register_mat_update_cb(pd_sess_hdl sess
     void *cookie);
 void unbuild_key_eifPinHole(const pd_match_record *key,
     p4_pd_orbisk_switch_eifPinHole_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_eifPinHole_match_spec_schema(void);
+int p4_pd_orbisk_switch_eifPinHole_schema(char *out);
+int p4_pd_orbisk_switch_eifPinHole_eif_policy_width(void);
+int p4_pd_orbisk_switch_eifPinHole_ingMd_protocol_width(void);
+int p4_pd_orbisk_switch_eifPinHole_eif_matchAddr_width(void);
+int p4_pd_orbisk_switch_eifPinHole_eif_matchL4Port_width(void);
+int p4_pd_orbisk_switch_eifPinHole_supports_entry_priority(void);
 
 /* eifPinHoleHits: table 0x1101001c, pipeline B, exact match, 2 key bytes (15 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_eifPinHoleHits_match_spec {
@@ -16461,6 +17445,10 @@ pd_status p4_pd_orbisk_switch_eifPinHoleHits_register_mat_update_cb(pd_sess_hdl 
     void *cookie);
 void unbuild_key_eifPinHoleHits(const pd_match_record *key,
     p4_pd_orbisk_switch_eifPinHoleHits_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_eifPinHoleHits_match_spec_schema(void);
+int p4_pd_orbisk_switch_eifPinHoleHits_schema(char *out);
+int p4_pd_orbisk_switch_eifPinHoleHits_eif_matchedIdx_width(void);
+int p4_pd_orbisk_switch_eifPinHoleHits_supports_entry_priority(void);
 
 /* eifAcl: table 0x1101001a, pipeline B, ternary match, 39 key bytes (306 bits), entries carry eifAclCount */
 typedef struct p4_pd_orbisk_switch_eifAcl_match_spec {
@@ -16602,6 +17590,16 @@ void unbuild_key_eifAcl(const pd_match_record *key,
     p4_pd_orbisk_switch_eifAcl_match_spec_t *match_spec);
 void unbuild_mask_eifAcl(const pd_match_record *key,
     p4_pd_orbisk_switch_eifAcl_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_eifAcl_match_spec_schema(void);
+int p4_pd_orbisk_switch_eifAcl_schema(char *out);
+int p4_pd_orbisk_switch_eifAcl_phase0_portType_width(void);
+int p4_pd_orbisk_switch_eifAcl_eif_policy_width(void);
+int p4_pd_orbisk_switch_eifAcl_ingMd_protocol_width(void);
+int p4_pd_orbisk_switch_eifAcl_ingIpv6_dip_width(void);
+int p4_pd_orbisk_switch_eifAcl_ingIpv6_sip_width(void);
+int p4_pd_orbisk_switch_eifAcl_ingMd_srcPort_width(void);
+int p4_pd_orbisk_switch_eifAcl_ingMd_dstPort_width(void);
+int p4_pd_orbisk_switch_eifAcl_supports_entry_priority(void);
 
 /* eifForwardToPeerAcl: table 0x1101001d, pipeline B, ternary match, 34 key bytes (272 bits), entries carry eifForwardToPeerAclCount */
 typedef struct p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec {
@@ -16715,6 +17713,13 @@ void unbuild_key_eifForwardToPeerAcl(const pd_match_record *key,
     p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec_t *match_spec);
 void unbuild_mask_eifForwardToPeerAcl(const pd_match_record *key,
     p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec_schema(void);
+int p4_pd_orbisk_switch_eifForwardToPeerAcl_schema(char *out);
+int p4_pd_orbisk_switch_eifForwardToPeerAcl_egrMd_cpuReasonCode_width(void);
+int p4_pd_orbisk_switch_eifForwardToPeerAcl_eif_policy_width(void);
+int p4_pd_orbisk_switch_eifForwardToPeerAcl_ingIpv6_dip_width(void);
+int p4_pd_orbisk_switch_eifForwardToPeerAcl_ingIpv6_sip_width(void);
+int p4_pd_orbisk_switch_eifForwardToPeerAcl_supports_entry_priority(void);
 
 /* foldedPipeDest: table 0x01000054, pipeline A, ternary match, 4 key bytes (18 bits), entries name a member or group of foldedPipeActionProfile */
 typedef struct p4_pd_orbisk_switch_foldedPipeDest_match_spec {
@@ -16776,6 +17781,12 @@ void unbuild_key_foldedPipeDest(const pd_match_record *key,
     p4_pd_orbisk_switch_foldedPipeDest_match_spec_t *match_spec);
 void unbuild_mask_foldedPipeDest(const pd_match_record *key,
     p4_pd_orbisk_switch_foldedPipeDest_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_foldedPipeDest_match_spec_schema(void);
+int p4_pd_orbisk_switch_foldedPipeDest_schema(char *out);
+int p4_pd_orbisk_switch_foldedPipeDest_l3Info_vrfId_width(void);
+int p4_pd_orbisk_switch_foldedPipeDest_l3Info_ingL3DmacValid_width(void);
+int p4_pd_orbisk_switch_foldedPipeDest_ig_intr_md_ingress_port_width(void);
+int p4_pd_orbisk_switch_foldedPipeDest_supports_entry_priority(void);
 
 /* foldedPipeQos: table 0x0100004a, pipeline A, ternary match, 8 key bytes (41 bits) */
 typedef struct p4_pd_orbisk_switch_foldedPipeQos_match_spec {
@@ -16885,6 +17896,16 @@ void unbuild_key_foldedPipeQos(const pd_match_record *key,
     p4_pd_orbisk_switch_foldedPipeQos_match_spec_t *match_spec);
 void unbuild_mask_foldedPipeQos(const pd_match_record *key,
     p4_pd_orbisk_switch_foldedPipeQos_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_foldedPipeQos_match_spec_schema(void);
+int p4_pd_orbisk_switch_foldedPipeQos_schema(char *out);
+int p4_pd_orbisk_switch_foldedPipeQos_egrMd_trapToCpu_width(void);
+int p4_pd_orbisk_switch_foldedPipeQos_orbiskCpuHdr_width(void);
+int p4_pd_orbisk_switch_foldedPipeQos_ingMd_protocol_width(void);
+int p4_pd_orbisk_switch_foldedPipeQos_ingMd_dstPort_width(void);
+int p4_pd_orbisk_switch_foldedPipeQos_ingMd_tcpFlags_width(void);
+int p4_pd_orbisk_switch_foldedPipeQos_qosMd_dscp_width(void);
+int p4_pd_orbisk_switch_foldedPipeQos_l3Info_ingL3DmacValid_width(void);
+int p4_pd_orbisk_switch_foldedPipeQos_supports_entry_priority(void);
 
 /* foldedPipeCounters: table 0x0100005a, pipeline A, exact match, 3 key bytes (14 bits), entries carry foldedPipeCount */
 typedef struct p4_pd_orbisk_switch_foldedPipeCounters_match_spec {
@@ -16960,325 +17981,1175 @@ pd_status p4_pd_orbisk_switch_foldedPipeCounters_register_mat_update_cb(pd_sess_
     void *cookie);
 void unbuild_key_foldedPipeCounters(const pd_match_record *key,
     p4_pd_orbisk_switch_foldedPipeCounters_match_spec_t *match_spec);
+const char *p4_pd_orbisk_switch_foldedPipeCounters_match_spec_schema(void);
+int p4_pd_orbisk_switch_foldedPipeCounters_schema(char *out);
+int p4_pd_orbisk_switch_foldedPipeCounters_ig_intr_md_for_tm_ucast_egress_port_width(void);
+int p4_pd_orbisk_switch_foldedPipeCounters_ingMd_foldedPipeQid_width(void);
+int p4_pd_orbisk_switch_foldedPipeCounters_supports_entry_priority(void);
+
+/* --------------------------------------------- action profiles --- */
+
+/* egrMirrorLagPortActionProfile: action data table 0x02000026, selector table 0x03000003, for egressMirrorLagGroup */
+int p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_schema(char *out);
+/* mirrorLagPortActionProfile: action data table 0x0200001d, selector table 0x03000001, for ingressMirrorLagGroup */
+int p4_pd_orbisk_switch_mirrorLagPortActionProfile_schema(char *out);
+/* foldedPipeActionProfile: action data table 0x02000021, selector table 0x03000002, for foldedPipeDest */
+int p4_pd_orbisk_switch_foldedPipeActionProfile_schema(char *out);
+/* ecmpMemberActionProfile: action data table 0x12010003, selector table 0x13010001, for ecmpGroup */
+int p4_pd_orbisk_switch_ecmpMemberActionProfile_schema(char *out);
+/* tunnelMemberActionProfile: action data table 0x1201000c, selector table 0x13010002, for tunnelResolve */
+int p4_pd_orbisk_switch_tunnelMemberActionProfile_schema(char *out);
+/* lagPortActionProfile: action data table 0x1201000e, selector table 0x13010003, for lagGroup */
+int p4_pd_orbisk_switch_lagPortActionProfile_schema(char *out);
+
+/* ------------------------------------------------------------------ */
+/* counters, meters and registers */
+/* ------------------------------------------------------------------ */
+
+/* l2DmacClassifyCount: counter 0x04000001, direct on l2DmacClassify (0x0100000a) */
+pd_status p4_pd_orbisk_switch_counter_read_l2DmacClassifyCount(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t flags,
+    pd_counter_value *counter_value);
+pd_status p4_pd_orbisk_switch_counter_write_l2DmacClassifyCount(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_counter_value counter_value);
+pd_status p4_pd_orbisk_switch_counter_hw_sync_l2DmacClassifyCount(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_stat_sync_cb cb_fn,
+    void *cb_cookie);
+
+/* ingressPortDropCount: counter 0x04000002, direct on ingressPortDropCheck (0x01000010) */
+pd_status p4_pd_orbisk_switch_counter_read_ingressPortDropCount(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t flags,
+    pd_counter_value *counter_value);
+pd_status p4_pd_orbisk_switch_counter_write_ingressPortDropCount(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_counter_value counter_value);
+pd_status p4_pd_orbisk_switch_counter_hw_sync_ingressPortDropCount(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_stat_sync_cb cb_fn,
+    void *cb_cookie);
+
+/* egressPortQueueCount: counter 0x04000008, 2048 cells by index */
+pd_status p4_pd_orbisk_switch_counter_read_egressPortQueueCount(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    uint32_t flags,
+    pd_counter_value *counter_value);
+pd_status p4_pd_orbisk_switch_counter_write_egressPortQueueCount(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    pd_counter_value counter_value);
+pd_status p4_pd_orbisk_switch_counter_hw_sync_egressPortQueueCount(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_stat_sync_cb cb_fn,
+    void *cb_cookie);
+
+/* staticDnatCounters: counter 0x04000003, direct on addrPortDnat (0x01000026) */
+pd_status p4_pd_orbisk_switch_counter_read_staticDnatCounters(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t flags,
+    pd_counter_value *counter_value);
+pd_status p4_pd_orbisk_switch_counter_write_staticDnatCounters(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_counter_value counter_value);
+pd_status p4_pd_orbisk_switch_counter_hw_sync_staticDnatCounters(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_stat_sync_cb cb_fn,
+    void *cb_cookie);
+
+/* ingL2DomainCounters: counter 0x04000004, direct on ingL2DomainCount (0x01000062) */
+pd_status p4_pd_orbisk_switch_counter_read_ingL2DomainCounters(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t flags,
+    pd_counter_value *counter_value);
+pd_status p4_pd_orbisk_switch_counter_write_ingL2DomainCounters(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_counter_value counter_value);
+pd_status p4_pd_orbisk_switch_counter_hw_sync_ingL2DomainCounters(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_stat_sync_cb cb_fn,
+    void *cb_cookie);
+
+/* egrL2DomainCounters: counter 0x04000005, direct on egrL2DomainCount (0x01000065) */
+pd_status p4_pd_orbisk_switch_counter_read_egrL2DomainCounters(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t flags,
+    pd_counter_value *counter_value);
+pd_status p4_pd_orbisk_switch_counter_write_egrL2DomainCounters(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_counter_value counter_value);
+pd_status p4_pd_orbisk_switch_counter_hw_sync_egrL2DomainCounters(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_stat_sync_cb cb_fn,
+    void *cb_cookie);
+
+/* trapToCpuCount: counter 0x04000006, direct on trapToCpu (0x01000047) */
+pd_status p4_pd_orbisk_switch_counter_read_trapToCpuCount(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t flags,
+    pd_counter_value *counter_value);
+pd_status p4_pd_orbisk_switch_counter_write_trapToCpuCount(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_counter_value counter_value);
+pd_status p4_pd_orbisk_switch_counter_hw_sync_trapToCpuCount(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_stat_sync_cb cb_fn,
+    void *cb_cookie);
+
+/* egressPortDropCount: counter 0x04000007, direct on egressPortDropCheck (0x01000074) */
+pd_status p4_pd_orbisk_switch_counter_read_egressPortDropCount(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t flags,
+    pd_counter_value *counter_value);
+pd_status p4_pd_orbisk_switch_counter_write_egressPortDropCount(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_counter_value counter_value);
+pd_status p4_pd_orbisk_switch_counter_hw_sync_egressPortDropCount(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_stat_sync_cb cb_fn,
+    void *cb_cookie);
+
+/* finalDropControlCount: counter 0x04000009, direct on finalDropControl (0x01000057) */
+pd_status p4_pd_orbisk_switch_counter_read_finalDropControlCount(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t flags,
+    pd_counter_value *counter_value);
+pd_status p4_pd_orbisk_switch_counter_write_finalDropControlCount(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_counter_value counter_value);
+pd_status p4_pd_orbisk_switch_counter_hw_sync_finalDropControlCount(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_stat_sync_cb cb_fn,
+    void *cb_cookie);
+
+/* haloCount: counter 0x0400000a, direct on haloCounters (0x01000059) */
+pd_status p4_pd_orbisk_switch_counter_read_haloCount(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t flags,
+    pd_counter_value *counter_value);
+pd_status p4_pd_orbisk_switch_counter_write_haloCount(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_counter_value counter_value);
+pd_status p4_pd_orbisk_switch_counter_hw_sync_haloCount(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_stat_sync_cb cb_fn,
+    void *cb_cookie);
+
+/* foldedPipeCount: counter 0x0400000b, direct on foldedPipeCounters (0x0100005a) */
+pd_status p4_pd_orbisk_switch_counter_read_foldedPipeCount(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t flags,
+    pd_counter_value *counter_value);
+pd_status p4_pd_orbisk_switch_counter_write_foldedPipeCount(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_counter_value counter_value);
+pd_status p4_pd_orbisk_switch_counter_hw_sync_foldedPipeCount(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_stat_sync_cb cb_fn,
+    void *cb_cookie);
+
+/* staticSnatCounters: counter 0x14010001, direct on addrPortSnat (0x11010016) */
+pd_status p4_pd_orbisk_switch_counter_read_staticSnatCounters(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t flags,
+    pd_counter_value *counter_value);
+pd_status p4_pd_orbisk_switch_counter_write_staticSnatCounters(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_counter_value counter_value);
+pd_status p4_pd_orbisk_switch_counter_hw_sync_staticSnatCounters(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_stat_sync_cb cb_fn,
+    void *cb_cookie);
+
+/* eifAclCount: counter 0x14010002, direct on eifAcl (0x1101001a) */
+pd_status p4_pd_orbisk_switch_counter_read_eifAclCount(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t flags,
+    pd_counter_value *counter_value);
+pd_status p4_pd_orbisk_switch_counter_write_eifAclCount(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_counter_value counter_value);
+pd_status p4_pd_orbisk_switch_counter_hw_sync_eifAclCount(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_stat_sync_cb cb_fn,
+    void *cb_cookie);
+
+/* eifForwardToPeerAclCount: counter 0x14010003, direct on eifForwardToPeerAcl (0x1101001d) */
+pd_status p4_pd_orbisk_switch_counter_read_eifForwardToPeerAclCount(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t flags,
+    pd_counter_value *counter_value);
+pd_status p4_pd_orbisk_switch_counter_write_eifForwardToPeerAclCount(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_counter_value counter_value);
+pd_status p4_pd_orbisk_switch_counter_hw_sync_eifForwardToPeerAclCount(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_stat_sync_cb cb_fn,
+    void *cb_cookie);
+
+/* dynNatCounters: counter 0x14010004, direct on dynamicNatCount (0x1101001e) */
+pd_status p4_pd_orbisk_switch_counter_read_dynNatCounters(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t flags,
+    pd_counter_value *counter_value);
+pd_status p4_pd_orbisk_switch_counter_write_dynNatCounters(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_counter_value counter_value);
+pd_status p4_pd_orbisk_switch_counter_hw_sync_dynNatCounters(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_stat_sync_cb cb_fn,
+    void *cb_cookie);
+
+/* pdpClassCount: counter 0x14010005, 1024 cells by index */
+pd_status p4_pd_orbisk_switch_counter_read_pdpClassCount(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    uint32_t flags,
+    pd_counter_value *counter_value);
+pd_status p4_pd_orbisk_switch_counter_write_pdpClassCount(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    pd_counter_value counter_value);
+pd_status p4_pd_orbisk_switch_counter_hw_sync_pdpClassCount(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_stat_sync_cb cb_fn,
+    void *cb_cookie);
+
+/* finalDropControlIBCount: counter 0x14010006, direct on finalDropControlIB (0x11010027) */
+pd_status p4_pd_orbisk_switch_counter_read_finalDropControlIBCount(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t flags,
+    pd_counter_value *counter_value);
+pd_status p4_pd_orbisk_switch_counter_write_finalDropControlIBCount(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_counter_value counter_value);
+pd_status p4_pd_orbisk_switch_counter_hw_sync_finalDropControlIBCount(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_stat_sync_cb cb_fn,
+    void *cb_cookie);
+
+/* stormControlMeter: meter 0x05000001, direct on l2LookupMiss (0x01000030), in bytes */
+pd_status p4_pd_orbisk_switch_meter_set_stormControlMeter(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    const pd_meter_spec *meter_spec);
+pd_status p4_pd_orbisk_switch_meter_read_stormControlMeter(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_meter_spec *meter_spec);
+pd_status p4_pd_orbisk_switch_meter_bytecount_adjust_set_stormControlMeter(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    int32_t bytecount);
+pd_status p4_pd_orbisk_switch_meter_bytecount_adjust_get_stormControlMeter(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    int32_t *bytecount);
+
+/* egressMirrorMeter: meter 0x05000003, 1024 cells by index, in bytes */
+pd_status p4_pd_orbisk_switch_meter_set_egressMirrorMeter(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    const pd_meter_spec *meter_spec);
+pd_status p4_pd_orbisk_switch_meter_read_egressMirrorMeter(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    pd_meter_spec *meter_spec);
+pd_status p4_pd_orbisk_switch_meter_bytecount_adjust_set_egressMirrorMeter(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    int32_t bytecount);
+pd_status p4_pd_orbisk_switch_meter_bytecount_adjust_get_egressMirrorMeter(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    int32_t *bytecount);
+
+/* ingressMirrorMeter: meter 0x05000002, 1024 cells by index, in bytes */
+pd_status p4_pd_orbisk_switch_meter_set_ingressMirrorMeter(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    const pd_meter_spec *meter_spec);
+pd_status p4_pd_orbisk_switch_meter_read_ingressMirrorMeter(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    pd_meter_spec *meter_spec);
+pd_status p4_pd_orbisk_switch_meter_bytecount_adjust_set_ingressMirrorMeter(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    int32_t bytecount);
+pd_status p4_pd_orbisk_switch_meter_bytecount_adjust_get_ingressMirrorMeter(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    int32_t *bytecount);
+
+/* pdpMeter: meter 0x15010001, 1024 cells by index, in packets */
+pd_status p4_pd_orbisk_switch_meter_set_pdpMeter(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    const pd_meter_spec *meter_spec);
+pd_status p4_pd_orbisk_switch_meter_read_pdpMeter(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    pd_meter_spec *meter_spec);
+pd_status p4_pd_orbisk_switch_meter_bytecount_adjust_set_pdpMeter(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    int32_t bytecount);
+pd_status p4_pd_orbisk_switch_meter_bytecount_adjust_get_pdpMeter(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    int32_t *bytecount);
+
+/* ingStpCheckData: register 0x06000001, 4096 indices of 1 bit per pipe */
+pd_status p4_pd_orbisk_switch_register_hw_sync_ingStpCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_register_sync_cb cb_fn,
+    void *cb_cookie);
+pd_status p4_pd_orbisk_switch_register_read_ingStpCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    uint32_t flags,
+    uint8_t *register_values,
+    uint32_t *value_count);
+pd_status p4_pd_orbisk_switch_register_write_ingStpCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    const uint8_t *register_value);
+pd_status p4_pd_orbisk_switch_register_reset_all_ingStpCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_register_write_all_ingStpCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const uint8_t *register_value);
+pd_status p4_pd_orbisk_switch_register_range_reset_ingStpCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    uint32_t count);
+pd_status p4_pd_orbisk_switch_register_range_read_ingStpCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    uint32_t count,
+    uint32_t flags,
+    uint32_t *num_actually_read,
+    uint8_t *register_values,
+    uint32_t *value_count);
+
+/* ingVlanCheckData: register 0x06000002, 4096 indices of 1 bit per pipe */
+pd_status p4_pd_orbisk_switch_register_hw_sync_ingVlanCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_register_sync_cb cb_fn,
+    void *cb_cookie);
+pd_status p4_pd_orbisk_switch_register_read_ingVlanCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    uint32_t flags,
+    uint8_t *register_values,
+    uint32_t *value_count);
+pd_status p4_pd_orbisk_switch_register_write_ingVlanCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    const uint8_t *register_value);
+pd_status p4_pd_orbisk_switch_register_reset_all_ingVlanCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_register_write_all_ingVlanCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const uint8_t *register_value);
+pd_status p4_pd_orbisk_switch_register_range_reset_ingVlanCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    uint32_t count);
+pd_status p4_pd_orbisk_switch_register_range_read_ingVlanCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    uint32_t count,
+    uint32_t flags,
+    uint32_t *num_actually_read,
+    uint8_t *register_values,
+    uint32_t *value_count);
+
+/* egrStpCheckData: register 0x06000006, 4096 indices of 1 bit per pipe */
+pd_status p4_pd_orbisk_switch_register_hw_sync_egrStpCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_register_sync_cb cb_fn,
+    void *cb_cookie);
+pd_status p4_pd_orbisk_switch_register_read_egrStpCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    uint32_t flags,
+    uint8_t *register_values,
+    uint32_t *value_count);
+pd_status p4_pd_orbisk_switch_register_write_egrStpCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    const uint8_t *register_value);
+pd_status p4_pd_orbisk_switch_register_reset_all_egrStpCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_register_write_all_egrStpCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const uint8_t *register_value);
+pd_status p4_pd_orbisk_switch_register_range_reset_egrStpCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    uint32_t count);
+pd_status p4_pd_orbisk_switch_register_range_read_egrStpCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    uint32_t count,
+    uint32_t flags,
+    uint32_t *num_actually_read,
+    uint8_t *register_values,
+    uint32_t *value_count);
+
+/* egrVlanCheckData: register 0x06000007, 4096 indices of 1 bit per pipe */
+pd_status p4_pd_orbisk_switch_register_hw_sync_egrVlanCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_register_sync_cb cb_fn,
+    void *cb_cookie);
+pd_status p4_pd_orbisk_switch_register_read_egrVlanCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    uint32_t flags,
+    uint8_t *register_values,
+    uint32_t *value_count);
+pd_status p4_pd_orbisk_switch_register_write_egrVlanCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    const uint8_t *register_value);
+pd_status p4_pd_orbisk_switch_register_reset_all_egrVlanCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt);
+pd_status p4_pd_orbisk_switch_register_write_all_egrVlanCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const uint8_t *register_value);
+pd_status p4_pd_orbisk_switch_register_range_reset_egrVlanCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    uint32_t count);
+pd_status p4_pd_orbisk_switch_register_range_read_egrVlanCheckData(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t index,
+    uint32_t count,
+    uint32_t flags,
+    uint32_t *num_actually_read,
+    uint8_t *register_values,
+    uint32_t *value_count);
+
+/* Sets a cell of any packet meter table; a type above 1, or colour-aware
+ * without a pre-colour, ends the process. */
+pd_status p4_pd_orbisk_switch_packets_meter_set(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    uint32_t index,
+    const pd_meter_spec *meter_spec,
+    bool has_pre_color);
+/* Reads a cell of any meter table back; untouched on failure. */
+pd_status p4_pd_orbisk_switch_packets_meter_read(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    uint32_t index,
+    pd_meter_spec *meter_spec);
+/* Sets a cell of any byte meter table, with the same checks. */
+pd_status p4_pd_orbisk_switch_bytes_meter_set(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    uint32_t index,
+    const pd_meter_spec *meter_spec,
+    bool has_pre_color);
+/* Reads a cell of any meter table back, as packets_meter_read. */
+pd_status p4_pd_orbisk_switch_bytes_meter_read(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    uint32_t index,
+    pd_meter_spec *meter_spec);
+/* Sets a cell of any WRED table; the record goes as it is. */
+pd_status p4_pd_orbisk_switch_wred_set(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    uint32_t index,
+    const pd_wred_spec *wred_spec);
+/* Reads an entry's cell of any direct register into the caller's query
+ * record. */
+pd_status p4_pd_orbisk_switch_register_read_direct(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    uint32_t flags,
+    pd_register_query *register_values);
+/* Reads an index of any register into the caller's query record. */
+pd_status p4_pd_orbisk_switch_register_read_indirect(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    uint32_t index,
+    uint32_t flags,
+    pd_register_query *register_values);
+/* Writes an entry's cell of any direct register; the one handle names the
+ * table and the register, and the device goes as one byte. */
+pd_status p4_pd_orbisk_switch_register_write_direct(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const pd_register_element *register_value);
+/* Writes an index of any register with the caller's element. */
+pd_status p4_pd_orbisk_switch_register_write_indirect(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    uint32_t index,
+    const pd_register_element *register_value);
+/* Brings any direct register from the chip. */
+pd_status p4_pd_orbisk_switch_register_hw_sync_direct(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_register_sync_cb cb_fn,
+    void *cb_cookie);
+/* Brings any register from the chip. */
+pd_status p4_pd_orbisk_switch_register_hw_sync_indirect(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_register_sync_cb cb_fn,
+    void *cb_cookie);
+/* Every cell of any register back to its initial value. */
+pd_status p4_pd_orbisk_switch_register_reset_all_indirect(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl);
+/* A range of any register back to its initial value. */
+pd_status p4_pd_orbisk_switch_register_range_reset_indirect(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    uint32_t index,
+    uint32_t count);
+/* Every cell of any register to the caller's element. */
+pd_status p4_pd_orbisk_switch_register_write_all_indirect(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    const pd_register_element *register_value);
 
 /* ------------------------------------ action data read back --- */
 
+const char *p4_pd_orbisk_switch_setPhase0_schema(void);
 void unbuild_action_spec_setPhase0(const pd_action_record *act,
     p4_pd_orbisk_switch_setPhase0_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_NoAction_schema(void);
+const char *p4_pd_orbisk_switch_hashComputeInnerIpv4HdrAction_schema(void);
+const char *p4_pd_orbisk_switch_hashComputeInnerIpv6HdrAction_schema(void);
+const char *p4_pd_orbisk_switch_setTunnelTerminationTypeNoneIpv4AndL2_schema(void);
+const char *p4_pd_orbisk_switch_setTunnelTerminationTypeVxlan_schema(void);
 void unbuild_action_spec_setTunnelTerminationTypeVxlan(const pd_action_record *act,
     p4_pd_orbisk_switch_setTunnelTerminationTypeVxlan_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setTunnelTerminationTypeNoneIpv6_schema(void);
+const char *p4_pd_orbisk_switch_setL2DomainUntagged_schema(void);
 void unbuild_action_spec_setL2DomainUntagged(const pd_action_record *act,
     p4_pd_orbisk_switch_setL2DomainUntagged_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setL2DomainVlanXlate_schema(void);
 void unbuild_action_spec_setL2DomainVlanXlate(const pd_action_record *act,
     p4_pd_orbisk_switch_setL2DomainVlanXlate_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setL2DomainTagged_schema(void);
 void unbuild_action_spec_setL2DomainTagged(const pd_action_record *act,
     p4_pd_orbisk_switch_setL2DomainTagged_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_onMiss_schema(void);
+const char *p4_pd_orbisk_switch_setVrfPropertiesTaggedXlatePkt_schema(void);
 void unbuild_action_spec_setVrfPropertiesTaggedXlatePkt(const pd_action_record *act,
     p4_pd_orbisk_switch_setVrfPropertiesTaggedXlatePkt_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setVrfPropertiesTaggedPktDefault_schema(void);
+const char *p4_pd_orbisk_switch_setVrfPropertiesTaggedPkt_schema(void);
 void unbuild_action_spec_setVrfPropertiesTaggedPkt(const pd_action_record *act,
     p4_pd_orbisk_switch_setVrfPropertiesTaggedPkt_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setVrfPropertiesUntaggedPktDefault_schema(void);
+const char *p4_pd_orbisk_switch_setVrfPropertiesUntaggedPkt_schema(void);
 void unbuild_action_spec_setVrfPropertiesUntaggedPkt(const pd_action_record *act,
     p4_pd_orbisk_switch_setVrfPropertiesUntaggedPkt_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setVxlanL2AintfLookupFields_schema(void);
 void unbuild_action_spec_setVxlanL2AintfLookupFields(const pd_action_record *act,
     p4_pd_orbisk_switch_setVxlanL2AintfLookupFields_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setVxlanL2AintfInvalidTunnel_schema(void);
+const char *p4_pd_orbisk_switch_setvxlanL2AintfLookupMissVtepLearn_schema(void);
+const char *p4_pd_orbisk_switch_setvxlanL2AintfLookupMissSkipVtepLearn_schema(void);
+const char *p4_pd_orbisk_switch_vxlanVniResolutionHit_schema(void);
 void unbuild_action_spec_vxlanVniResolutionHit(const pd_action_record *act,
     p4_pd_orbisk_switch_vxlanVniResolutionHit_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_vxlanVniResolutionMiss_schema(void);
+const char *p4_pd_orbisk_switch_setUcast_schema(void);
+const char *p4_pd_orbisk_switch_setL2ControlFrame_schema(void);
 void unbuild_action_spec_setL2ControlFrame(const pd_action_record *act,
     p4_pd_orbisk_switch_setL2ControlFrame_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setIllegalDmac_schema(void);
+const char *p4_pd_orbisk_switch_setMcast_schema(void);
+const char *p4_pd_orbisk_switch_setBcast_schema(void);
+const char *p4_pd_orbisk_switch_setIpMcast_schema(void);
+const char *p4_pd_orbisk_switch_classifyL2ControlFrame_schema(void);
 void unbuild_action_spec_classifyL2ControlFrame(const pd_action_record *act,
     p4_pd_orbisk_switch_classifyL2ControlFrame_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_ingStpAction_schema(void);
+const char *p4_pd_orbisk_switch_ingVlanAction_schema(void);
+const char *p4_pd_orbisk_switch_setIllegalSmac_schema(void);
+const char *p4_pd_orbisk_switch_setQosPortProperties_schema(void);
 void unbuild_action_spec_setQosPortProperties(const pd_action_record *act,
     p4_pd_orbisk_switch_setQosPortProperties_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setQosRewriteConfiguration_schema(void);
 void unbuild_action_spec_setQosRewriteConfiguration(const pd_action_record *act,
     p4_pd_orbisk_switch_setQosRewriteConfiguration_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setDrop_schema(void);
+const char *p4_pd_orbisk_switch_setDropSmac_schema(void);
+const char *p4_pd_orbisk_switch_setL2LearningLookupMiss_schema(void);
+const char *p4_pd_orbisk_switch_noOp_schema(void);
+const char *p4_pd_orbisk_switch_ignoreIngL3DmacValid_schema(void);
+const char *p4_pd_orbisk_switch_setIngL3DmacValid_schema(void);
+const char *p4_pd_orbisk_switch_setHaloCrlId2_schema(void);
 void unbuild_action_spec_setHaloCrlId2(const pd_action_record *act,
     p4_pd_orbisk_switch_setHaloCrlId2_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setHaloCrlId_schema(void);
 void unbuild_action_spec_setHaloCrlId(const pd_action_record *act,
     p4_pd_orbisk_switch_setHaloCrlId_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_l2ForwardParamsSet_schema(void);
 void unbuild_action_spec_l2ForwardParamsSet(const pd_action_record *act,
     p4_pd_orbisk_switch_l2ForwardParamsSet_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setVlanProperties_schema(void);
 void unbuild_action_spec_setVlanProperties(const pd_action_record *act,
     p4_pd_orbisk_switch_setVlanProperties_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setHaloXformDip_schema(void);
 void unbuild_action_spec_setHaloXformDip(const pd_action_record *act,
     p4_pd_orbisk_switch_setHaloXformDip_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setHaloInvalidDip_schema(void);
+const char *p4_pd_orbisk_switch_setHaloXformIpv4Sip_schema(void);
 void unbuild_action_spec_setHaloXformIpv4Sip(const pd_action_record *act,
     p4_pd_orbisk_switch_setHaloXformIpv4Sip_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setHaloInvalidSip_schema(void);
+const char *p4_pd_orbisk_switch_setHaloIpv4Common_schema(void);
+const char *p4_pd_orbisk_switch_setHaloXformIpv6Sip_schema(void);
 void unbuild_action_spec_setHaloXformIpv6Sip(const pd_action_record *act,
     p4_pd_orbisk_switch_setHaloXformIpv6Sip_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setHaloIpv6Common_schema(void);
+const char *p4_pd_orbisk_switch_setHaloXformDstPort_schema(void);
 void unbuild_action_spec_setHaloXformDstPort(const pd_action_record *act,
     p4_pd_orbisk_switch_setHaloXformDstPort_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setHaloXformSrcPort_schema(void);
 void unbuild_action_spec_setHaloXformSrcPort(const pd_action_record *act,
     p4_pd_orbisk_switch_setHaloXformSrcPort_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setFullConeDipRangeId_schema(void);
 void unbuild_action_spec_setFullConeDipRangeId(const pd_action_record *act,
     p4_pd_orbisk_switch_setFullConeDipRangeId_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setIngNatProfile_schema(void);
 void unbuild_action_spec_setIngNatProfile(const pd_action_record *act,
     p4_pd_orbisk_switch_setIngNatProfile_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setEcmp_schema(void);
 void unbuild_action_spec_setEcmp(const pd_action_record *act,
     p4_pd_orbisk_switch_setEcmp_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setNextHop_schema(void);
 void unbuild_action_spec_setNextHop(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHop_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setNextHop2_schema(void);
 void unbuild_action_spec_setNextHop2(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHop2_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setNextHop3_schema(void);
 void unbuild_action_spec_setNextHop3(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHop3_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setIpv6PrtResultXFirst_schema(void);
 void unbuild_action_spec_setIpv6PrtResultXFirst(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpv6PrtResultXFirst_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setTranslatedDipNextHop_schema(void);
 void unbuild_action_spec_setTranslatedDipNextHop(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipNextHop_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setTranslatedDipPortNextHopDynamic_schema(void);
 void unbuild_action_spec_setTranslatedDipPortNextHopDynamic(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipPortNextHopDynamic_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setTranslatedDipPort_schema(void);
 void unbuild_action_spec_setTranslatedDipPort(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipPort_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setDnatAclId_schema(void);
 void unbuild_action_spec_setDnatAclId(const pd_action_record *act,
     p4_pd_orbisk_switch_setDnatAclId_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_resetDnatAclId_schema(void);
+const char *p4_pd_orbisk_switch_countEgressQueue_schema(void);
+const char *p4_pd_orbisk_switch_setTunnelDip_schema(void);
 void unbuild_action_spec_setTunnelDip(const pd_action_record *act,
     p4_pd_orbisk_switch_setTunnelDip_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setEgressMirrorSession_schema(void);
 void unbuild_action_spec_setEgressMirrorSession(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgressMirrorSession_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setVxlanVniAndVti_schema(void);
 void unbuild_action_spec_setVxlanVniAndVti(const pd_action_record *act,
     p4_pd_orbisk_switch_setVxlanVniAndVti_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setInvalidVni_schema(void);
+const char *p4_pd_orbisk_switch_setL2DomainReplicated_schema(void);
 void unbuild_action_spec_setL2DomainReplicated(const pd_action_record *act,
     p4_pd_orbisk_switch_setL2DomainReplicated_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_egressMirrorDrop_schema(void);
+const char *p4_pd_orbisk_switch_setMirrorPacketEncapNone_schema(void);
+const char *p4_pd_orbisk_switch_setMirrorPacketEncapCpu_schema(void);
 void unbuild_action_spec_setMirrorPacketEncapCpu(const pd_action_record *act,
     p4_pd_orbisk_switch_setMirrorPacketEncapCpu_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setMirrorPacketEncapGreIpv4_schema(void);
 void unbuild_action_spec_setMirrorPacketEncapGreIpv4(const pd_action_record *act,
     p4_pd_orbisk_switch_setMirrorPacketEncapGreIpv4_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setTcDscp_schema(void);
 void unbuild_action_spec_setTcDscp(const pd_action_record *act,
     p4_pd_orbisk_switch_setTcDscp_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setTranslatedDipNextHopAndCount_schema(void);
 void unbuild_action_spec_setTranslatedDipNextHopAndCount(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipNextHopAndCount_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setTranslatedDipPortNextHopAndCount_schema(void);
 void unbuild_action_spec_setTranslatedDipPortNextHopAndCount(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipPortNextHopAndCount_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setTranslatedDipNextHopEcmpAndCount_schema(void);
 void unbuild_action_spec_setTranslatedDipNextHopEcmpAndCount(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipNextHopEcmpAndCount_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setTranslatedDipPortNextHopEcmpAndCount_schema(void);
 void unbuild_action_spec_setTranslatedDipPortNextHopEcmpAndCount(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipPortNextHopEcmpAndCount_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setTranslatedDipNextHopEcmp_schema(void);
 void unbuild_action_spec_setTranslatedDipNextHopEcmp(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipNextHopEcmp_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_haloKeyMaskedRow1Stage2_schema(void);
 void unbuild_action_spec_haloKeyMaskedRow1Stage2(const pd_action_record *act,
     p4_pd_orbisk_switch_haloKeyMaskedRow1Stage2_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setDscpForNonIpPkt_schema(void);
+const char *p4_pd_orbisk_switch_setDscpForTTNonIpPkt_schema(void);
+const char *p4_pd_orbisk_switch_setDscpForIpv4Pkt_schema(void);
+const char *p4_pd_orbisk_switch_setDscpForIpv4OptionsPkt_schema(void);
+const char *p4_pd_orbisk_switch_setDscpForIpv6Pkt_schema(void);
+const char *p4_pd_orbisk_switch_setInvalidEgressPort_schema(void);
+const char *p4_pd_orbisk_switch_setEgressPort_schema(void);
 void unbuild_action_spec_setEgressPort(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgressPort_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setDecapTypeVlan_schema(void);
+const char *p4_pd_orbisk_switch_removeOrbiskHdrs_schema(void);
+const char *p4_pd_orbisk_switch_setEifIngPolicy_schema(void);
 void unbuild_action_spec_setEifIngPolicy(const pd_action_record *act,
     p4_pd_orbisk_switch_setEifIngPolicy_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_ipv6LgMaskFinalResolveDefaultFirst_schema(void);
+const char *p4_pd_orbisk_switch_setV6NextHop0First_schema(void);
 void unbuild_action_spec_setV6NextHop0First(const pd_action_record *act,
     p4_pd_orbisk_switch_setV6NextHop0First_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setV6NextHop2First_schema(void);
 void unbuild_action_spec_setV6NextHop2First(const pd_action_record *act,
     p4_pd_orbisk_switch_setV6NextHop2First_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setV6NextHop3First_schema(void);
 void unbuild_action_spec_setV6NextHop3First(const pd_action_record *act,
     p4_pd_orbisk_switch_setV6NextHop3First_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setV6NextHop1First_schema(void);
 void unbuild_action_spec_setV6NextHop1First(const pd_action_record *act,
     p4_pd_orbisk_switch_setV6NextHop1First_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setIpv6PrtIdxNextHop_schema(void);
 void unbuild_action_spec_setIpv6PrtIdxNextHop(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpv6PrtIdxNextHop_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setIpv6PrtIdxNextHop2_schema(void);
 void unbuild_action_spec_setIpv6PrtIdxNextHop2(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpv6PrtIdxNextHop2_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setIpv6PrtIdxNextHop3_schema(void);
 void unbuild_action_spec_setIpv6PrtIdxNextHop3(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpv6PrtIdxNextHop3_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setIpv6PrtIdxEcmp_schema(void);
 void unbuild_action_spec_setIpv6PrtIdxEcmp(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpv6PrtIdxEcmp_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setFibMiss_schema(void);
+const char *p4_pd_orbisk_switch_setEgrLagMemberSelector_schema(void);
 void unbuild_action_spec_setEgrLagMemberSelector(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrLagMemberSelector_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelCommon_schema(void);
 void unbuild_action_spec_setGlobalFieldsForVxlanTunnelCommon(const pd_action_record *act,
     p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelCommon_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4_schema(void);
 void unbuild_action_spec_setGlobalFieldsForVxlanTunnelIpv4(const pd_action_record *act,
     p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_schema(void);
 void unbuild_action_spec_setGlobalFieldsForVxlanTunnelIpv4UseDipB(const pd_action_record *act,
     p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setTunnelL2InfoDefault_schema(void);
+const char *p4_pd_orbisk_switch_setTunnelL2Info_schema(void);
 void unbuild_action_spec_setTunnelL2Info(const pd_action_record *act,
     p4_pd_orbisk_switch_setTunnelL2Info_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_l2LookupKnownUcast_schema(void);
 void unbuild_action_spec_l2LookupKnownUcast(const pd_action_record *act,
     p4_pd_orbisk_switch_l2LookupKnownUcast_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_l2LookupKnownMcast_schema(void);
 void unbuild_action_spec_l2LookupKnownMcast(const pd_action_record *act,
     p4_pd_orbisk_switch_l2LookupKnownMcast_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_l2LookupKnownUcastTunnel_schema(void);
 void unbuild_action_spec_l2LookupKnownUcastTunnel(const pd_action_record *act,
     p4_pd_orbisk_switch_l2LookupKnownUcastTunnel_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_l2LookupDrop_schema(void);
+const char *p4_pd_orbisk_switch_l2LookupBcastHit_schema(void);
+const char *p4_pd_orbisk_switch_l2LookupUnknownMcastAction_schema(void);
+const char *p4_pd_orbisk_switch_l2LookupUnknownUcastAction_schema(void);
+const char *p4_pd_orbisk_switch_nop_schema(void);
+const char *p4_pd_orbisk_switch_haloSetBestResultRow1_schema(void);
 void unbuild_action_spec_haloSetBestResultRow1(const pd_action_record *act,
     p4_pd_orbisk_switch_haloSetBestResultRow1_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_haloKeyMaskedRow1Stage3_schema(void);
 void unbuild_action_spec_haloKeyMaskedRow1Stage3(const pd_action_record *act,
     p4_pd_orbisk_switch_haloKeyMaskedRow1Stage3_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setDropVarpVxlan_schema(void);
+const char *p4_pd_orbisk_switch_cancelVxlanDecap_schema(void);
+const char *p4_pd_orbisk_switch_setCosFromDefault_schema(void);
 void unbuild_action_spec_setCosFromDefault(const pd_action_record *act,
     p4_pd_orbisk_switch_setCosFromDefault_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setCosFromPacket_schema(void);
 void unbuild_action_spec_setCosFromPacket(const pd_action_record *act,
     p4_pd_orbisk_switch_setCosFromPacket_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setCosFromPacketWithInner_schema(void);
 void unbuild_action_spec_setCosFromPacketWithInner(const pd_action_record *act,
     p4_pd_orbisk_switch_setCosFromPacketWithInner_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_hashComputeOuterIpv4HdrAction_schema(void);
+const char *p4_pd_orbisk_switch_hashComputeOuterIpv6HdrAction_schema(void);
+const char *p4_pd_orbisk_switch_hashComputeInnerEthHdrAction_schema(void);
+const char *p4_pd_orbisk_switch_dropDatalink_schema(void);
+const char *p4_pd_orbisk_switch_setIngressMirrorSession_schema(void);
 void unbuild_action_spec_setIngressMirrorSession(const pd_action_record *act,
     p4_pd_orbisk_switch_setIngressMirrorSession_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_noDecapNoEncapRouteIpv4_schema(void);
 void unbuild_action_spec_noDecapNoEncapRouteIpv4(const pd_action_record *act,
     p4_pd_orbisk_switch_noDecapNoEncapRouteIpv4_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_noDecapNoEncapRouteIpv6_schema(void);
 void unbuild_action_spec_noDecapNoEncapRouteIpv6(const pd_action_record *act,
     p4_pd_orbisk_switch_noDecapNoEncapRouteIpv6_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_noDecapNoEncapBridge_schema(void);
+const char *p4_pd_orbisk_switch_decapPPIPktFromCpu_schema(void);
+const char *p4_pd_orbisk_switch_encapVxlanRouteIpv4_schema(void);
 void unbuild_action_spec_encapVxlanRouteIpv4(const pd_action_record *act,
     p4_pd_orbisk_switch_encapVxlanRouteIpv4_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_encapVxlanRouteIpv6_schema(void);
 void unbuild_action_spec_encapVxlanRouteIpv6(const pd_action_record *act,
     p4_pd_orbisk_switch_encapVxlanRouteIpv6_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_noDecapEncapVxlanL2_schema(void);
 void unbuild_action_spec_noDecapEncapVxlanL2(const pd_action_record *act,
     p4_pd_orbisk_switch_noDecapEncapVxlanL2_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_normalizeEthHdr_schema(void);
+const char *p4_pd_orbisk_switch_setEgressMirrorColor_schema(void);
 void unbuild_action_spec_setEgressMirrorColor(const pd_action_record *act,
     const pd_resource_index *resources,
     uint32_t num_resources,
     p4_pd_orbisk_switch_setEgressMirrorColor_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setEgressMirrorColorRed_schema(void);
+const char *p4_pd_orbisk_switch_generateMacLearningDigest_schema(void);
+const char *p4_pd_orbisk_switch_generateVtepLearningDigest_schema(void);
+const char *p4_pd_orbisk_switch_dot1xTrap_schema(void);
+const char *p4_pd_orbisk_switch_dot1xDrop_schema(void);
+const char *p4_pd_orbisk_switch_resetApplicationId_schema(void);
+const char *p4_pd_orbisk_switch_haloKeyMaskedRow1Stage4_schema(void);
 void unbuild_action_spec_haloKeyMaskedRow1Stage4(const pd_action_record *act,
     p4_pd_orbisk_switch_haloKeyMaskedRow1Stage4_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_hashComputeIpAndL4HdrAction_schema(void);
+const char *p4_pd_orbisk_switch_setTrafficClassAndEgressQid_schema(void);
 void unbuild_action_spec_setTrafficClassAndEgressQid(const pd_action_record *act,
     p4_pd_orbisk_switch_setTrafficClassAndEgressQid_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setL2McResult_schema(void);
 void unbuild_action_spec_setL2McResult(const pd_action_record *act,
     p4_pd_orbisk_switch_setL2McResult_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_copyHashFromCpuHdr_schema(void);
+const char *p4_pd_orbisk_switch_setEgrVlan_schema(void);
 void unbuild_action_spec_setEgrVlan(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrVlan_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setEgrVlanSubIntf_schema(void);
 void unbuild_action_spec_setEgrVlanSubIntf(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrVlanSubIntf_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_noXlate_schema(void);
+const char *p4_pd_orbisk_switch_setEncapSmac_schema(void);
 void unbuild_action_spec_setEncapSmac(const pd_action_record *act,
     p4_pd_orbisk_switch_setEncapSmac_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_encapPktToCpu_schema(void);
 void unbuild_action_spec_encapPktToCpu(const pd_action_record *act,
     p4_pd_orbisk_switch_encapPktToCpu_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_encapPktToDpdk_schema(void);
 void unbuild_action_spec_encapPktToDpdk(const pd_action_record *act,
     p4_pd_orbisk_switch_encapPktToDpdk_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_egressSamePortBridgingTestDrop_schema(void);
+const char *p4_pd_orbisk_switch_setOvoIntfDetails_schema(void);
 void unbuild_action_spec_setOvoIntfDetails(const pd_action_record *act,
     p4_pd_orbisk_switch_setOvoIntfDetails_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setEgrIntfInfo_schema(void);
+const char *p4_pd_orbisk_switch_noTunnelIpv4_schema(void);
+const char *p4_pd_orbisk_switch_noTunnelIpv6_schema(void);
+const char *p4_pd_orbisk_switch_onlyDecapInnerIpv4_schema(void);
+const char *p4_pd_orbisk_switch_onlyDecapInnerIpv6_schema(void);
+const char *p4_pd_orbisk_switch_encapOuterIpv4_schema(void);
+const char *p4_pd_orbisk_switch_encapOuterIpv4InnerIpv4_schema(void);
+const char *p4_pd_orbisk_switch_encapOuterIpv4InnerIpv6_schema(void);
+const char *p4_pd_orbisk_switch_setHashValuesLagOuterEthHdr_schema(void);
+const char *p4_pd_orbisk_switch_setHashValuesLagOuterIpHdr_schema(void);
+const char *p4_pd_orbisk_switch_setHashValuesLagOuterL4Hdr_schema(void);
+const char *p4_pd_orbisk_switch_setHashValuesLagInnerEthHdr_schema(void);
+const char *p4_pd_orbisk_switch_setHashValuesLagInnerIpHdr_schema(void);
+const char *p4_pd_orbisk_switch_setHashValuesLagInnerL4Hdr_schema(void);
+const char *p4_pd_orbisk_switch_setHashValuesEcmpOuterIpHdr_schema(void);
+const char *p4_pd_orbisk_switch_setHashValuesEcmpOuterL4Hdr_schema(void);
+const char *p4_pd_orbisk_switch_setHashValuesEcmpInnerIpHdr_schema(void);
+const char *p4_pd_orbisk_switch_setHashValuesEcmpInnerL4Hdr_schema(void);
+const char *p4_pd_orbisk_switch_setHashValuesEcmpInnerEthHdr_schema(void);
+const char *p4_pd_orbisk_switch_haloKeyMaskedRow1Stage5_schema(void);
 void unbuild_action_spec_haloKeyMaskedRow1Stage5(const pd_action_record *act,
     p4_pd_orbisk_switch_haloKeyMaskedRow1Stage5_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setIpv4GroupVlanIndex_schema(void);
 void unbuild_action_spec_setIpv4GroupVlanIndex(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpv4GroupVlanIndex_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_trapPacket_schema(void);
 void unbuild_action_spec_trapPacket(const pd_action_record *act,
     p4_pd_orbisk_switch_trapPacket_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_copyPacket_schema(void);
 void unbuild_action_spec_copyPacket(const pd_action_record *act,
     p4_pd_orbisk_switch_copyPacket_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setLlm_schema(void);
+const char *p4_pd_orbisk_switch_copyCosRewriteDscp_schema(void);
 void unbuild_action_spec_copyCosRewriteDscp(const pd_action_record *act,
     p4_pd_orbisk_switch_copyCosRewriteDscp_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_rewriteCosCopyDscp_schema(void);
 void unbuild_action_spec_rewriteCosCopyDscp(const pd_action_record *act,
     p4_pd_orbisk_switch_rewriteCosCopyDscp_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_rewriteCosRewriteDscp_schema(void);
 void unbuild_action_spec_rewriteCosRewriteDscp(const pd_action_record *act,
     p4_pd_orbisk_switch_rewriteCosRewriteDscp_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_egrStpAction_schema(void);
+const char *p4_pd_orbisk_switch_egrVlanAction_schema(void);
+const char *p4_pd_orbisk_switch_decapIngressDefault_schema(void);
+const char *p4_pd_orbisk_switch_removeOuterIpv4Hdr_schema(void);
+const char *p4_pd_orbisk_switch_removeOuterIpv6Hdr_schema(void);
+const char *p4_pd_orbisk_switch_saveOuterIpv4Ecn_schema(void);
+const char *p4_pd_orbisk_switch_saveOuterIpv6Ecn_schema(void);
+const char *p4_pd_orbisk_switch_decapIngressVxlan_schema(void);
+const char *p4_pd_orbisk_switch_setEgrPortVlan_schema(void);
 void unbuild_action_spec_setEgrPortVlan(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrPortVlan_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setEgrPortVlanKernel_schema(void);
 void unbuild_action_spec_setEgrPortVlanKernel(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrPortVlanKernel_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setEgrPortL2Domain_schema(void);
 void unbuild_action_spec_setEgrPortL2Domain(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrPortL2Domain_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setEgrPortL2DomainKernel_schema(void);
 void unbuild_action_spec_setEgrPortL2DomainKernel(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrPortL2DomainKernel_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setDefaultEgrPortVlan_schema(void);
+const char *p4_pd_orbisk_switch_setNatCpuHeaderSnat_schema(void);
+const char *p4_pd_orbisk_switch_setNatCpuHeaderDnat_schema(void);
+const char *p4_pd_orbisk_switch_setNatCpuHeaderTwice_schema(void);
+const char *p4_pd_orbisk_switch_setFoldedPipeQid_schema(void);
 void unbuild_action_spec_setFoldedPipeQid(const pd_action_record *act,
     p4_pd_orbisk_switch_setFoldedPipeQid_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setLagMemberSelector_schema(void);
 void unbuild_action_spec_setLagMemberSelector(const pd_action_record *act,
     p4_pd_orbisk_switch_setLagMemberSelector_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_haloKeyMaskedRow1Stage6_schema(void);
 void unbuild_action_spec_haloKeyMaskedRow1Stage6(const pd_action_record *act,
     p4_pd_orbisk_switch_haloKeyMaskedRow1Stage6_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setIpmcResult_schema(void);
 void unbuild_action_spec_setIpmcResult(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpmcResult_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_samePortBridgingTestAction_schema(void);
+const char *p4_pd_orbisk_switch_setMlagPrune_schema(void);
+const char *p4_pd_orbisk_switch_setEgressDrop_schema(void);
+const char *p4_pd_orbisk_switch_egressMirrorAction_schema(void);
+const char *p4_pd_orbisk_switch_noVlanEncap_schema(void);
+const char *p4_pd_orbisk_switch_needVlanEncap_schema(void);
+const char *p4_pd_orbisk_switch_discardHaloResult_schema(void);
+const char *p4_pd_orbisk_switch_finalizeMcResultIpmc_schema(void);
 void unbuild_action_spec_finalizeMcResultIpmc(const pd_action_record *act,
     p4_pd_orbisk_switch_finalizeMcResultIpmc_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_finalizeMcResultL2mc_schema(void);
 void unbuild_action_spec_finalizeMcResultL2mc(const pd_action_record *act,
     p4_pd_orbisk_switch_finalizeMcResultL2mc_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_finalizeMcResultL2mcFlood_schema(void);
 void unbuild_action_spec_finalizeMcResultL2mcFlood(const pd_action_record *act,
     p4_pd_orbisk_switch_finalizeMcResultL2mcFlood_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_finalizeMcResultCancel_schema(void);
 void unbuild_action_spec_finalizeMcResultCancel(const pd_action_record *act,
     p4_pd_orbisk_switch_finalizeMcResultCancel_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_finalizeMcResultFlood_schema(void);
 void unbuild_action_spec_finalizeMcResultFlood(const pd_action_record *act,
     p4_pd_orbisk_switch_finalizeMcResultFlood_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_finalizeMcResultL3Rpf_schema(void);
+const char *p4_pd_orbisk_switch_setFoldedPipePort_schema(void);
 void unbuild_action_spec_setFoldedPipePort(const pd_action_record *act,
     p4_pd_orbisk_switch_setFoldedPipePort_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setIngressMirrorColor_schema(void);
 void unbuild_action_spec_setIngressMirrorColor(const pd_action_record *act,
     const pd_resource_index *resources,
     uint32_t num_resources,
     p4_pd_orbisk_switch_setIngressMirrorColor_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setIngressMirrorColorRed_schema(void);
+const char *p4_pd_orbisk_switch_accept_schema(void);
+const char *p4_pd_orbisk_switch_acceptLog_schema(void);
 void unbuild_action_spec_acceptLog(const pd_action_record *act,
     p4_pd_orbisk_switch_acceptLog_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_dropCount_schema(void);
+const char *p4_pd_orbisk_switch_dropCountAndLog_schema(void);
 void unbuild_action_spec_dropCountAndLog(const pd_action_record *act,
     p4_pd_orbisk_switch_dropCountAndLog_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_finalDrop_schema(void);
+const char *p4_pd_orbisk_switch_ingressMirrorAction_schema(void);
 void unbuild_action_spec_ingressMirrorAction(const pd_action_record *act,
     p4_pd_orbisk_switch_ingressMirrorAction_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_updateFoldedPipeCount_schema(void);
+const char *p4_pd_orbisk_switch_setMinMtuId_schema(void);
 void unbuild_action_spec_setMinMtuId(const pd_action_record *act,
     p4_pd_orbisk_switch_setMinMtuId_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setIngMtuFailed_schema(void);
+const char *p4_pd_orbisk_switch_setSnatAclId_schema(void);
 void unbuild_action_spec_setSnatAclId(const pd_action_record *act,
     p4_pd_orbisk_switch_setSnatAclId_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_resetSnatAclId_schema(void);
+const char *p4_pd_orbisk_switch_setTcpFlagsCpuReasonCode_schema(void);
+const char *p4_pd_orbisk_switch_setCpuReasonCodeDefault_schema(void);
+const char *p4_pd_orbisk_switch_setNatTcpFlags_schema(void);
+const char *p4_pd_orbisk_switch_setL2XId_schema(void);
 void unbuild_action_spec_setL2XId(const pd_action_record *act,
     p4_pd_orbisk_switch_setL2XId_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setIpv4PrtResultXFirst_schema(void);
 void unbuild_action_spec_setIpv4PrtResultXFirst(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpv4PrtResultXFirst_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setSwitchToCpu_schema(void);
 void unbuild_action_spec_setSwitchToCpu(const pd_action_record *act,
     p4_pd_orbisk_switch_setSwitchToCpu_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setDefaultVrf_schema(void);
+const char *p4_pd_orbisk_switch_setNextHop0First_schema(void);
 void unbuild_action_spec_setNextHop0First(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHop0First_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setNextHop2First_schema(void);
 void unbuild_action_spec_setNextHop2First(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHop2First_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setNextHop3First_schema(void);
 void unbuild_action_spec_setNextHop3First(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHop3First_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setNextHop1First_schema(void);
 void unbuild_action_spec_setNextHop1First(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHop1First_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_ipv4ShortMaskLpmMiss_schema(void);
+const char *p4_pd_orbisk_switch_setEcmpNextHop_schema(void);
 void unbuild_action_spec_setEcmpNextHop(const pd_action_record *act,
     p4_pd_orbisk_switch_setEcmpNextHop_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setNextHopToCpu_schema(void);
 void unbuild_action_spec_setNextHopToCpu(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHopToCpu_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setNextHopDetails_schema(void);
 void unbuild_action_spec_setNextHopDetails(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHopDetails_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setRouterNextHopDetails_schema(void);
 void unbuild_action_spec_setRouterNextHopDetails(const pd_action_record *act,
     p4_pd_orbisk_switch_setRouterNextHopDetails_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_eifParamEgressing_schema(void);
 void unbuild_action_spec_eifParamEgressing(const pd_action_record *act,
     p4_pd_orbisk_switch_eifParamEgressing_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setEgrNatProfile_schema(void);
 void unbuild_action_spec_setEgrNatProfile(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrNatProfile_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setDip_schema(void);
+const char *p4_pd_orbisk_switch_clearDip_schema(void);
+const char *p4_pd_orbisk_switch_eifParamIngressing_schema(void);
+const char *p4_pd_orbisk_switch_setTranslatedSip_schema(void);
 void unbuild_action_spec_setTranslatedSip(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedSip_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setTranslatedSipPortDynamic_schema(void);
 void unbuild_action_spec_setTranslatedSipPortDynamic(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedSipPortDynamic_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setTranslatedSipAndCount_schema(void);
 void unbuild_action_spec_setTranslatedSipAndCount(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedSipAndCount_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setTranslatedSipPortAndCount_schema(void);
 void unbuild_action_spec_setTranslatedSipPortAndCount(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedSipPortAndCount_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setEifMatched_schema(void);
 void unbuild_action_spec_setEifMatched(const pd_action_record *act,
     p4_pd_orbisk_switch_setEifMatched_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setEifTrap_schema(void);
+const char *p4_pd_orbisk_switch_setEifTrapReverse_schema(void);
+const char *p4_pd_orbisk_switch_setEifDrop_schema(void);
+const char *p4_pd_orbisk_switch_updateEifAclCount_schema(void);
+const char *p4_pd_orbisk_switch_setNatCpuTrap_schema(void);
 void unbuild_action_spec_setNatCpuTrap(const pd_action_record *act,
     p4_pd_orbisk_switch_setNatCpuTrap_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setNatCpuTrapReverse_schema(void);
 void unbuild_action_spec_setNatCpuTrapReverse(const pd_action_record *act,
     p4_pd_orbisk_switch_setNatCpuTrapReverse_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_forwardToPeer_schema(void);
 void unbuild_action_spec_forwardToPeer(const pd_action_record *act,
     p4_pd_orbisk_switch_forwardToPeer_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setEifForwardToPeer_schema(void);
 void unbuild_action_spec_setEifForwardToPeer(const pd_action_record *act,
     p4_pd_orbisk_switch_setEifForwardToPeer_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_updateEifForwardToPeerAclCount_schema(void);
+const char *p4_pd_orbisk_switch_mtuCheckFailed_schema(void);
 void unbuild_action_spec_mtuCheckFailed(const pd_action_record *act,
     p4_pd_orbisk_switch_mtuCheckFailed_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_mtuCheckPassed_schema(void);
+const char *p4_pd_orbisk_switch_countDynamicNat_schema(void);
+const char *p4_pd_orbisk_switch_setTunnelEgressInfo_schema(void);
 void unbuild_action_spec_setTunnelEgressInfo(const pd_action_record *act,
     p4_pd_orbisk_switch_setTunnelEgressInfo_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setPdpClass_schema(void);
 void unbuild_action_spec_setPdpClass(const pd_action_record *act,
     p4_pd_orbisk_switch_setPdpClass_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_meterPdpClass_schema(void);
 void unbuild_action_spec_meterPdpClass(const pd_action_record *act,
     p4_pd_orbisk_switch_meterPdpClass_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_updateV4_schema(void);
+const char *p4_pd_orbisk_switch_updateV4AndPort_schema(void);
+const char *p4_pd_orbisk_switch_updateV4AndUdp_schema(void);
+const char *p4_pd_orbisk_switch_updateV4AndTcp_schema(void);
+const char *p4_pd_orbisk_switch_trapPktToCpuUntagged_schema(void);
 void unbuild_action_spec_trapPktToCpuUntagged(const pd_action_record *act,
     p4_pd_orbisk_switch_trapPktToCpuUntagged_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_copyPktToCpuUntagged_schema(void);
 void unbuild_action_spec_copyPktToCpuUntagged(const pd_action_record *act,
     p4_pd_orbisk_switch_copyPktToCpuUntagged_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_trapPktToCpuTagged_schema(void);
 void unbuild_action_spec_trapPktToCpuTagged(const pd_action_record *act,
     p4_pd_orbisk_switch_trapPktToCpuTagged_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_copyPktToCpuTagged_schema(void);
 void unbuild_action_spec_copyPktToCpuTagged(const pd_action_record *act,
     p4_pd_orbisk_switch_copyPktToCpuTagged_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_trapPktToCpuSubintf_schema(void);
 void unbuild_action_spec_trapPktToCpuSubintf(const pd_action_record *act,
     p4_pd_orbisk_switch_trapPktToCpuSubintf_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_copyPktToCpuSubintf_schema(void);
 void unbuild_action_spec_copyPktToCpuSubintf(const pd_action_record *act,
     p4_pd_orbisk_switch_copyPktToCpuSubintf_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setLagPort_schema(void);
 void unbuild_action_spec_setLagPort(const pd_action_record *act,
     p4_pd_orbisk_switch_setLagPort_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setPhysicalPort_schema(void);
+const char *p4_pd_orbisk_switch_setTunnelInfo_schema(void);
+const char *p4_pd_orbisk_switch_invalidateUcastEgressPort_schema(void);
+const char *p4_pd_orbisk_switch_fixL2SubintfAlignment_schema(void);
+const char *p4_pd_orbisk_switch_add_header_for_EA_schema(void);
+const char *p4_pd_orbisk_switch_setPdpClassCount_schema(void);
 void unbuild_action_spec_setPdpClassCount(const pd_action_record *act,
     const pd_resource_index *resources,
     uint32_t num_resources,
     p4_pd_orbisk_switch_setPdpClassCount_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_removeVlanHdr_schema(void);
+const char *p4_pd_orbisk_switch_acceptIB_schema(void);
+const char *p4_pd_orbisk_switch_finalDropIB_schema(void);
+const char *p4_pd_orbisk_switch_setPruneParams_schema(void);
 void unbuild_action_spec_setPruneParams(const pd_action_record *act,
     p4_pd_orbisk_switch_setPruneParams_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setPruneParamsForL2Flood_schema(void);
 void unbuild_action_spec_setPruneParamsForL2Flood(const pd_action_record *act,
     p4_pd_orbisk_switch_setPruneParamsForL2Flood_action_spec_t *action_spec);
+const char *p4_pd_orbisk_switch_setPruneParamsForL3Only_schema(void);
 void unbuild_action_spec_setPruneParamsForL3Only(const pd_action_record *act,
     p4_pd_orbisk_switch_setPruneParamsForL3Only_action_spec_t *action_spec);
-
-/* The snapshot record: the program's header vector fields, packed with no
- * alignment, as a trigger value or mask and as one captured record. */
-#define P4_PD_ORBISK_SWITCH_SNAPSHOT_RECORD_BYTES 794
-/* The most captured records one read gives: the caller's array holds as many. */
-#define P4_PD_ORBISK_SWITCH_SNAPSHOT_CAPTURES 20
-typedef struct p4_pd_orbisk_switch_snapshot_record {
-  uint8_t bytes[P4_PD_ORBISK_SWITCH_SNAPSHOT_RECORD_BYTES];
-} p4_pd_orbisk_switch_snapshot_record_t;
-PD_STATIC_ASSERT(sizeof(p4_pd_orbisk_switch_snapshot_record_t) == 794, "the snapshot record is 794 bytes");
+const char *p4_pd_orbisk_switch_l3FloodEgressL2Aintf_schema(void);
+const char *p4_pd_orbisk_switch_setPruneParamsUnused_schema(void);
 
 /* --------------------------------------------- learning digests --- */
 

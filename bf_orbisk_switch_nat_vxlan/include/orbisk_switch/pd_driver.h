@@ -99,6 +99,69 @@ pd_status pipe_mgr_tbl_get_property(pd_sess_hdl sess, uint32_t device_id, pd_tbl
 pd_status pipe_register_mat_update_cb(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl tbl,
                                       pd_mat_update_cb callback, void *cookie);
 
+/* Counters: direct ones by match table and entry, indexed ones by their own
+ * handle and index. */
+pd_status pipe_mgr_direct_stat_ent_database_sync(pd_sess_hdl sess, uint32_t device_id,
+                                                 pd_tbl_hdl tbl, pd_entry_hdl entry_hdl);
+pd_status pipe_mgr_mat_ent_direct_stat_query(pd_sess_hdl sess, uint32_t device_id,
+                                             pd_tbl_hdl tbl, pd_entry_hdl entry_hdl,
+                                             pd_counter_record *value);
+pd_status pipe_mgr_mat_ent_direct_stat_set(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl tbl,
+                                           pd_entry_hdl entry_hdl, pd_counter_record *value);
+pd_status pipe_mgr_direct_stat_database_sync(pd_sess_hdl sess, pd_dev_target target,
+                                             pd_tbl_hdl tbl, pd_stat_sync_cb callback,
+                                             void *cookie);
+pd_status pipe_mgr_stat_ent_database_sync(pd_sess_hdl sess, pd_dev_target target,
+                                          pd_tbl_hdl tbl, uint32_t index);
+pd_status pipe_mgr_stat_ent_query(pd_sess_hdl sess, pd_dev_target target, pd_tbl_hdl tbl,
+                                  uint32_t *indices, uint32_t num_indices,
+                                  pd_counter_record **values);
+pd_status pipe_mgr_stat_ent_set(pd_sess_hdl sess, pd_dev_target target, pd_tbl_hdl tbl,
+                                uint32_t index, pd_counter_record *value);
+pd_status pipe_mgr_stat_database_sync(pd_sess_hdl sess, pd_dev_target target, pd_tbl_hdl tbl,
+                                      pd_stat_sync_cb callback, void *cookie);
+
+/* Meters and WRED. An entry's resources are set as a list of `count` slots;
+ * flags words are 0 from this library. */
+pd_status pipe_mgr_mat_ent_set_resource(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl tbl,
+                                        pd_entry_hdl entry_hdl, pd_resource_record *resources,
+                                        int count, uint32_t flags);
+pd_status pipe_mgr_meter_read_entry(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl tbl,
+                                    pd_entry_hdl entry_hdl, pd_meter_record *meter);
+pd_status pipe_mgr_meter_ent_set(pd_sess_hdl sess, pd_dev_target target, pd_tbl_hdl tbl,
+                                 uint32_t index, pd_meter_record *meter, uint32_t flags);
+pd_status pipe_mgr_meter_read_entry_idx(pd_sess_hdl sess, pd_dev_target target, pd_tbl_hdl tbl,
+                                        uint32_t index, pd_meter_record *meter, uint32_t flags);
+pd_status pipe_mgr_meter_set_bytecount_adjust(pd_sess_hdl sess, pd_dev_target target,
+                                              pd_tbl_hdl meter_hdl, int32_t adjust);
+pd_status pipe_mgr_meter_get_bytecount_adjust(pd_sess_hdl sess, pd_dev_target target,
+                                              pd_tbl_hdl meter_hdl, int32_t *adjust);
+pd_status pipe_mgr_wred_ent_set(pd_sess_hdl sess, pd_dev_target target, pd_tbl_hdl tbl,
+                                uint32_t index, pd_wred_spec *wred, uint32_t flags);
+
+/* Registers (stateful tables). A read's flags are bit 0 alone: from the chip
+ * rather than the driver's shadow. */
+pd_status pipe_stful_query_get_sizes(pd_sess_hdl sess, pd_dev_target target, pd_tbl_hdl tbl,
+                                     int *num_pipes);
+pd_status pipe_stful_ent_query(pd_sess_hdl sess, pd_dev_target target, pd_tbl_hdl tbl,
+                               uint32_t index, pd_register_query *query, uint32_t flags);
+pd_status pipe_stful_ent_query_range(pd_sess_hdl sess, pd_dev_target target, pd_tbl_hdl tbl,
+                                     uint32_t first, uint32_t count, pd_register_query *queries,
+                                     uint32_t *num_read, uint32_t flags);
+pd_status pipe_stful_ent_set(pd_sess_hdl sess, pd_dev_target target, pd_tbl_hdl tbl,
+                             uint32_t index, pd_register_element *element, uint32_t flags);
+pd_status pipe_stful_table_reset(pd_sess_hdl sess, pd_dev_target target, pd_tbl_hdl tbl,
+                                 pd_register_element *element);
+pd_status pipe_stful_table_reset_range(pd_sess_hdl sess, pd_dev_target target, pd_tbl_hdl tbl,
+                                       uint32_t first, uint32_t count, uint32_t flags);
+pd_status pipe_stful_database_sync(pd_sess_hdl sess, pd_dev_target target, pd_tbl_hdl tbl,
+                                   pd_register_sync_cb callback, void *cookie);
+pd_status pipe_stful_direct_ent_query(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl tbl,
+                                      pd_entry_hdl entry_hdl, pd_register_query *query,
+                                      uint32_t flags);
+pd_status pipe_stful_direct_database_sync(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl tbl,
+                                          pd_register_sync_cb callback, void *cookie);
+
 /* Hash calculations. The two trailing words of the algorithm calls are the
  * driver's; this library always passes 0 (null). */
 pd_status pipe_mgr_hash_calc_input_set(pd_sess_hdl sess, uint32_t device_id, uint32_t hash_hdl,

@@ -180,6 +180,44 @@ typedef void (*pd_idle_update_cb)(uint32_t device_id, pd_tbl_hdl tbl, void *cook
 typedef void (*pd_mat_update_cb)(uint32_t device_id, pd_tbl_hdl tbl, pd_entry_hdl entry_hdl,
                                  uint32_t update_type, void *cookie);
 
+/* ---------------------------------------- counters, meters, registers --- */
+
+/* The driver's form of a counter cell: bytes first, the other way round from
+ * pd_counter_value. */
+typedef struct pd_counter_record {
+  uint64_t bytes;
+  uint64_t packets;
+} pd_counter_record;
+
+PD_STATIC_ASSERT(sizeof(pd_counter_record) == 16, "pd_counter_record is 16 bytes");
+PD_STATIC_ASSERT(offsetof(pd_counter_record, bytes) == 0, "bytes at 0");
+PD_STATIC_ASSERT(offsetof(pd_counter_record, packets) == 8, "packets at 8");
+
+/* One register cell of one pipe. The check registers hold their value in the
+ * first byte; the rest is the driver's. */
+typedef struct pd_register_element {
+  uint8_t bytes[16];
+} pd_register_element;
+
+PD_STATIC_ASSERT(sizeof(pd_register_element) == 16, "pd_register_element is 16 bytes");
+
+/* A register query: room for `count` elements going in, the number filled
+ * (one per pipe read) coming out. */
+typedef struct pd_register_query {
+  int32_t count;
+  uint32_t reserved;
+  pd_register_element *data;
+} pd_register_query;
+
+PD_STATIC_ASSERT(sizeof(pd_register_query) == 16, "pd_register_query is 16 bytes");
+PD_STATIC_ASSERT(offsetof(pd_register_query, count) == 0, "count at 0");
+PD_STATIC_ASSERT(offsetof(pd_register_query, data) == 8, "data at 8");
+
+/* A counter's or register's cells have been brought from the chip into the
+ * driver's memory. */
+typedef void (*pd_stat_sync_cb)(uint32_t device_id, void *cookie);
+typedef void (*pd_register_sync_cb)(uint32_t device_id, void *cookie);
+
 /* The driver's form of a hash field attribute: 32 bytes. The library fills
  * input_field, the same plus one in field_id, attr_type and the low 32 bits
  * of value; the two reserved words are 0. */

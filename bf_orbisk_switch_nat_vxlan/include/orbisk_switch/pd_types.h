@@ -84,6 +84,32 @@ PD_STATIC_ASSERT(offsetof(pd_idle_params, reserved) == 40, "reserved at 40");
 #define PD_IDLE_HIT_STATE_IDLE 0u
 #define PD_IDLE_HIT_STATE_ACTIVE 1u
 
+/* ---------------------------------------- counters, meters, registers --- */
+
+/* A counter cell as a caller reads and writes it: packets first. */
+typedef struct pd_counter_value {
+  uint64_t packets;
+  uint64_t bytes;
+} pd_counter_value;
+
+PD_STATIC_ASSERT(sizeof(pd_counter_value) == 16, "pd_counter_value is 16 bytes");
+PD_STATIC_ASSERT(offsetof(pd_counter_value, bytes) == 8, "bytes at 8");
+
+/* Bit 0 of a counter or register read's flags: bring the cell from the chip
+ * first. The other bits are ignored. */
+#define PD_READ_FROM_HW 1u
+
+/* A WRED cell's settings, shared by the caller and the driver; the library
+ * copies them unread. */
+typedef struct pd_wred_spec {
+  float time_constant;
+  uint32_t red_min_threshold;
+  uint32_t red_max_threshold;
+  float max_probability;
+} pd_wred_spec;
+
+PD_STATIC_ASSERT(sizeof(pd_wred_spec) == 16, "pd_wred_spec is 16 bytes");
+
 /* ------------------------------------------------ hash calculations --- */
 
 /* One field attribute of a hash calculation as a caller gives it and reads

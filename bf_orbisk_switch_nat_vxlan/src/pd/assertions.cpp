@@ -38,4 +38,9 @@ void pd_hard_assert_failed(const char *expr, const char *function, int line) {
   __assert_fail(expr, kSourcePath, unsigned(line), function);
 }
 
+void pd_hard_assert_failed_in(const char *source, const char *expr, const char *function,
+                              int line) {
+  __assert_fail(expr, source, unsigned(line), function);
+}
+
 }  // namespace orbisk::pd

@@ -9,6 +9,9 @@ namespace orbisk::pd {
 void pd_assert_failed(const char *expr, const char *format, const char *function, int line);
 // The hard path: always ends the process.
 [[noreturn]] void pd_hard_assert_failed(const char *expr, const char *function, int line);
+// The same, reported from another source of the library.
+[[noreturn]] void pd_hard_assert_failed_in(const char *source, const char *expr,
+                                           const char *function, int line);
 
 #define PD_ASSERT_FMT_ZERO "ASSERTION FAILED: \"0\" (0) from %s:%d"
 #define PD_ASSERT_FMT_NULL "ASSERTION FAILED: \"((void *)0)\" (NULL) from %s:%d"

@@ -80,7 +80,7 @@ struct TableActionDesc {
   int8_t index_param;    // parameter giving the index of an indexed resource; -1 none
 };
 
-enum class ResourceKind : uint8_t { Counter, Meter };
+enum class ResourceKind : uint8_t { Counter, Meter, Register };
 
 struct ResourceDesc {
   const char *name;
@@ -88,6 +88,11 @@ struct ResourceDesc {
   ResourceKind kind;
   bool direct;           // one cell per entry, rather than by index
   bool packets;          // a meter that counts packets rather than bytes
+  // The table handle its cells are reached by: the match table's for a
+  // direct one (its entries name the cells), its own for an indexed one.
+  uint32_t table_hdl;
+  uint32_t size;         // cells of an indexed one (per pipe for a register); 0 direct
+  uint8_t bits;          // width of a register's value; 0 for the others
 };
 
 struct TableDesc;
@@ -132,7 +137,7 @@ struct TableDesc {
 };
 
 // Every table in catalogue order, every action in enum order, the profiles
-// in order of creation, the counters then the meters.
+// in order of creation, the counters, the meters, then the registers.
 extern const TableDesc kTables[];
 extern const std::size_t kNumTables;
 extern const ActionDesc kActions[];
@@ -142,8 +147,14 @@ extern const std::size_t kNumProfiles;
 extern const ResourceDesc kResources[];
 extern const std::size_t kNumResources;
 
+// The counter, meter or register with this handle (its own, or for a direct
+// one its match table's, as its cells are reached), or null.
+const ResourceDesc *find_resource(uint32_t handle, ResourceKind kind);
+
 // The table with this handle, or null: a range test and one load, no search.
 const TableDesc *find_table(pd_tbl_hdl handle);
+// The profile whose action data table has this handle, or null, the same way.
+const ProfileDesc *find_profile(uint32_t adt_hdl);
 
 // ------------------------------------------------------------ services ---
 

@@ -27,45 +27,45 @@ FAMILIES = [f for g in GROUPS for f in g.FAMILIES]
 EXPORTED_OBJECTS = [o for g in GROUPS for o in getattr(g, "EXPORTED_OBJECTS", [])]
 
 
+# The families whose functions are not a table's.
+NOT_OF_TABLES = ("action", "profile", "program", "resource", "service", "item")
+
+
 def table_functions(t):
     """Every exported function of table t, in the order the header declares them."""
-    keyed = [kf for f in FAMILIES if f.each == "table" or f.each.endswith("_action")
-             for kf in f.table_functions(t)]
+    keyed = [kf for f in FAMILIES if f.each not in NOT_OF_TABLES for kf in f.table_functions(t)]
     return [fn for _, fn in sorted(keyed, key=lambda kf: kf[0])]
 
 
 def documented_families():
-    """The table and action families, in the order of a table's declarations
-    (those of an action last), for the header's family list."""
-    table = sorted((f for f in FAMILIES if f.each == "table" or f.each.endswith("_action")),
-                   key=lambda f: f.place)
-    return table + [f for f in FAMILIES if f.each == "action"]
+    """The table, action and profile families, in the order of a table's
+    declarations (those of an action, then of a profile, then of resources,
+    last), for the header's family list."""
+    table = sorted((f for f in FAMILIES if f.each not in NOT_OF_TABLES), key=lambda f: f.place)
+    return (table + [f for f in FAMILIES if f.each == "action"]
+            + [f for f in FAMILIES if f.each == "profile"]
+            + [f for f in FAMILIES if f.each in ("resource", "service")])
 
 
-def service_families():
-    """The families of the program's services, in module order."""
-    return [f for f in FAMILIES if f.each == "service"]
+def item_families():
+    """The families of the program's services with one function per hash
+    calculation, value set or digest (or one in all), in module order."""
+    return [f for f in FAMILIES if f.each == "item"]
 
 
-def service_header_lines(prog):
-    """Declarations the service groups put in the header before their
-    functions (records sized by the catalogue)."""
-    return [line for g in GROUPS if hasattr(g, "header_lines") for line in g.header_lines(prog)]
-
-
-def service_sections(prog):
-    """(section title, [Fn]) of the services, item by item within a section,
-    in the order the header declares them."""
+def item_sections(prog):
+    """(section title, [Fn]) of the item families, item by item within a
+    section, in the order the header declares them."""
     out = []
     for g in GROUPS:
-        fams = [f for f in g.FAMILIES if f.each == "service"]
+        fams = [f for f in g.FAMILIES if f.each == "item"]
         for section in dict.fromkeys(f.section for f in fams):
-            per = [f.service_functions(prog) for f in fams if f.section == section and f.items]
+            per = [f.item_functions(prog) for f in fams if f.section == section and f.items]
             # Item by item: every function of the first item, then the next;
             # then the section's functions that are one in all.
             fns = [p[i] for i in range(max((len(p) for p in per), default=0)) for p in per]
             fns += [fn for f in fams if f.section == section and not f.items
-                    for fn in f.service_functions(prog)]
+                    for fn in f.item_functions(prog)]
             out.append((section, fns))
     return out
 
@@ -73,6 +73,11 @@ def service_sections(prog):
 def action_functions(a):
     """Every exported function of one action of the program (not of a table)."""
     return [f.fn(a=a) for f in FAMILIES if f.each == "action" and f.when(a)]
+
+
+def profile_functions(r):
+    """Every exported function of one action profile."""
+    return [f.fn(r=r) for f in FAMILIES if f.each == "profile" and f.when(r)]
 
 
 def unbuild_action_fn(a):
@@ -83,12 +88,26 @@ def frame_functions():
     return [f.fn() for f in FAMILIES if f.each == "program"]
 
 
+def resource_functions(prog, r):
+    """Every exported function of one counter, meter or register."""
+    return [f.fn(r=r) for f in FAMILIES if f.each == "resource" and f.when(r)]
+
+
+def service_functions(group=None):
+    """The functions that stand once beside the resources (of one group)."""
+    return [f.fn() for f in FAMILIES if f.each == "service" and (group is None or f in group.FAMILIES)]
+
+
 def all_functions(prog):
-    fns = frame_functions()
+    fns = frame_functions() + service_functions()
+    for r in prog.resources.values():
+        fns += resource_functions(prog, r)
     for t in prog.tables:
         fns += table_functions(t)
     for a in prog.actions:
         fns += action_functions(a)
-    for _, sfns in service_sections(prog):
-        fns += sfns
+    for r in prog.profiles:
+        fns += profile_functions(r)
+    for _, ifns in item_sections(prog):
+        fns += ifns
     return fns

@@ -67,7 +67,9 @@ class Fn:
     """One exported function: its name, result, arguments (C type, name), the
     family it belongs to, and the table and action it is for."""
 
-    def __init__(self, name, result, args, family, table=None, action=None, kind=None):
+    def __init__(self, name, result, args, family, table=None, action=None, kind=None,
+                 field=None, profile=None, resource=None):
+        self.resource = resource
         self.name = name
         self.result = result
         self.args = args
@@ -75,6 +77,8 @@ class Fn:
         self.table = table
         self.action = action
         self.kind = kind
+        self.field = field
+        self.profile = profile
 
     def has_arg(self, name):
         return any(n == name for _, n in self.args)
@@ -96,21 +100,33 @@ class Family:
 
     id       the family's tag (the round-trip tests key on it)
     name     format of the function name: {p} the common prefix, {t} the
-             table, {a} the action
+             table, {a} the action, {f} the key field (as field_name gives
+             it), {r} the action profile
     args     list of Arg, in order
     doc      one line: what a function of the family does
     body     function of an Fn giving its code lines; None where the function
              is written by hand in the engine
     each     'table': one per table; 'entry_action' and 'default_action': one
              per action a table allows as an entry's or as its default;
-             'action': one per action of the program; 'program': one
-    when     which tables (or, for 'action', which actions) have its functions
+             'field': one per key field of a table (not its mask or prefix
+             length); 'action': one per action of the program; 'profile': one
+             per action profile; 'program': one; 'resource': one per counter,
+             meter or register ({r} its name, and its Args' functions get the
+             resource in place of the table); 'service': one, declared with
+             the resources
+    when     which tables (or, for 'action', which actions, for 'profile',
+             which profiles) have its functions
     place    (block, step): where its declarations stand among a table's; the
              functions of one block are grouped by action, then by step
+    alias    instead of a body: function of an Fn naming a hidden function of
+             the same signature, defined at the head of the group's source
+             (see source_head in the README), that the exported name stands
+             for. Functions that differ only by a constant share one body.
+    field_name  for 'field': how {f} shows a field (default: its name)
     """
 
     def __init__(self, id, name, args, doc, body=None, result="pd_status", each="table",
-                 when=always, place=(0, 0)):
+                 when=always, place=(0, 0), alias=None, field_name=lambda f: f.name):
         self.id = id
         self.name = name
         self.args = args
@@ -120,18 +136,29 @@ class Family:
         self.each = each
         self.when = when
         self.place = place
+        self.alias = alias
+        self.field_name = field_name
 
-    def fn(self, t=None, a=None):
+    def fn(self, t=None, a=None, f=None, r=None):
+        if self.each == "resource":
+            args = [x for arg in self.args for x in arg.resolve(r, None)]
+            return Fn(self.name.format(p=PREFIX, r=r.name), self.result, args, self.id, kind=self,
+                      resource=r)
         if self.each == "action":
             name = self.name.format(p=PREFIX, a=a.name)
             args = [x for arg in self.args for x in arg.resolve(None, a)]
             return Fn(name, self.result, args, self.id, action=a, kind=self)
-        if self.each == "program":
+        if self.each in ("program", "service"):
             args = [x for arg in self.args for x in arg.resolve(None, None)]
             return Fn(self.name.format(p=PREFIX), self.result, args, self.id, kind=self)
-        name = self.name.format(p=PREFIX, t=t.name, a=a.name if a else "")
+        if self.each == "profile":
+            args = [x for arg in self.args for x in arg.resolve(None, None)]
+            return Fn(self.name.format(p=PREFIX, r=r.name), self.result, args, self.id, kind=self,
+                      profile=r)
+        name = self.name.format(p=PREFIX, t=t.name, a=a.name if a else "",
+                                f=self.field_name(f) if f else "")
         args = [x for arg in self.args for x in arg.resolve(t, a)]
-        return Fn(name, self.result, args, self.id, t, a, kind=self)
+        return Fn(name, self.result, args, self.id, t, a, kind=self, field=f)
 
     def table_functions(self, t):
         """(sort key, Fn) for every function of this family on table t."""
@@ -139,20 +166,23 @@ class Family:
             return []
         if self.each == "table":
             return [((self.place[0], -1, self.place[1]), self.fn(t))]
+        if self.each == "field":
+            return [((self.place[0], -1, self.place[1], i), self.fn(t, f=f))
+                    for i, f in enumerate(t.fields)]
         use = "entry" if self.each == "entry_action" else "default"
         return [((self.place[0], i, self.place[1]), self.fn(t, a))
                 for i, a in enumerate(t.actions) if getattr(a, use)]
 
     def pattern(self):
         """The name as the documentation shows it."""
-        return self.name.format(p="", t="<t>", a="<a>")
+        return self.name.format(p="", t="<t>", a="<a>", f="<f>", r="<r>")
 
     def doc_line(self):
         """Name, arguments and what it does, for the header's family list."""
         return "%s(%s): %s" % (self.pattern(), ", ".join(x.doc for x in self.args), self.doc)
 
 
-class ServiceFamily(Family):
+class ItemFamily(Family):
     """A family with one function for each item of one of the program's
     services (a hash calculation, a value set, a digest), or one function in
     all when `items` is None. The name format's {i} is the item's name; the
@@ -165,12 +195,12 @@ class ServiceFamily(Family):
 
     def __init__(self, id, name, args, doc, body, items=None, label="", section="",
                  result="pd_status"):
-        super().__init__(id, name, args, doc, body, result=result, each="service")
+        super().__init__(id, name, args, doc, body, result=result, each="item")
         self.items = items
         self.label = label
         self.section = section
 
-    def service_functions(self, prog):
+    def item_functions(self, prog):
         out = []
         for item in (self.items(prog) if self.items else [None]):
             name = self.name.format(p=PREFIX, i=item.name if item else "")

@@ -4,7 +4,7 @@ place by name. The callback and messages are the driver's, handed on
 unwrapped; the name lookups are loops over the digest descriptors in the
 engine (src/pd/digests.cpp)."""
 
-from .base import SESS, Arg, ServiceFamily
+from .base import SESS, Arg, ItemFamily
 from .packing import hx
 
 # A digest's device id is one byte: only its low 8 bits reach the driver.
@@ -24,12 +24,12 @@ def digests(prog):
 
 
 def digest_family(op, args, doc, body):
-    return ServiceFamily("digest_" + op, "{p}{i}_" + op, args, doc, body, items=digests,
+    return ItemFamily("digest_" + op, "{p}{i}_" + op, args, doc, body, items=digests,
                          label="<d>", section="learning digests")
 
 
 def program(op, args, doc, body, result="pd_status"):
-    return ServiceFamily(op, "{p}" + op, args, doc, body, result=result, section="learning digests")
+    return ItemFamily(op, "{p}" + op, args, doc, body, result=result, section="learning digests")
 
 
 def forward(call, head, tail=""):

@@ -3,7 +3,7 @@ calculations. The value / handle mapping, the attribute records and the byte
 stream of calculate_hash_value are written once in the engine
 (src/pd/hash_calc.cpp); each function hands it the calculation's handles."""
 
-from .base import SESS, Arg, ServiceFamily
+from .base import SESS, Arg, ItemFamily
 from .packing import hx
 
 DEV = Arg("uint32_t", "dev_id", "device id")
@@ -45,7 +45,7 @@ def driver(call, tail=""):
 
 
 def hash_family(op, args, doc, body):
-    return ServiceFamily("hash_calc_" + op, "{p}hash_calc_{i}_" + op, args, doc, body,
+    return ItemFamily("hash_calc_" + op, "{p}hash_calc_{i}_" + op, args, doc, body,
                          items=calcs, label="<h>", section="hash calculations")
 
 

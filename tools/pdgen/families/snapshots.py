@@ -5,7 +5,7 @@ selects, and the capture copy are written once in the engine
 
 from catalogue import PREFIX
 
-from .base import Arg, ServiceFamily
+from .base import Arg, ItemFamily
 
 RECORD = PREFIX + "snapshot_record_t"
 
@@ -24,7 +24,7 @@ OUT_COUNT = Arg("uint32_t *", "num_captures", "out count")
 
 
 def snapshot(op, args, doc, body):
-    return ServiceFamily(op, "{p}" + op, args, doc, body, section="snapshots")
+    return ItemFamily(op, "{p}" + op, args, doc, body, section="snapshots")
 
 
 def engine(call):
@@ -62,4 +62,4 @@ def header_lines(prog):
             "  uint8_t bytes[P4_PD_ORBISK_SWITCH_SNAPSHOT_RECORD_BYTES];",
             "} %s;" % RECORD,
             "PD_STATIC_ASSERT(sizeof(%s) == %d, \"the snapshot record is %d bytes\");" % (
-                RECORD, sv.snapshot_bytes, sv.snapshot_bytes)]
+                RECORD, sv.snapshot_bytes, sv.snapshot_bytes), ""]

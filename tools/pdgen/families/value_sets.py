@@ -3,7 +3,7 @@ Keys and masks are plain 32-bit values and pass through untouched; each call
 is one forward with the set's handle inserted and the parser target taken
 apart. Only the property calls do more, in the engine (src/pd/value_sets.cpp)."""
 
-from .base import SESS, Arg, ServiceFamily
+from .base import SESS, Arg, ItemFamily
 from .packing import hx
 
 DEV = Arg("uint32_t", "dev_id", "device id")
@@ -51,7 +51,7 @@ def engine(call):
 
 
 def pvs_family(op, args, doc, body):
-    return ServiceFamily("pvs_" + op, "{p}pvs_{i}_" + op, args, doc, body, items=sets,
+    return ItemFamily("pvs_" + op, "{p}pvs_{i}_" + op, args, doc, body, items=sets,
                          label="<v>", section="parser value sets")
 
 
