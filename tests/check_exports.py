@@ -66,6 +66,13 @@ def main(lib, root):
     for a, ps in params.items():
         if ps:
             add("unbuild_action_spec", "unbuild_action_spec_" + a)
+    for p in program["profiles"]:
+        for a in p["actions"]:
+            add("add_member", "%s%s_add_member_with_%s" % (P, p["name"], a["name"]))
+            add("modify_member", "%s%s_modify_member_with_%s" % (P, p["name"], a["name"]))
+        for s in ("del_member", "get_member", "get_first_member", "get_next_members",
+                  "get_act_prof_entry_count", "get_adt_table_handle", "register_adt_update_cb"):
+            add("members", "%s%s_%s" % (P, p["name"], s))
     for s in ("init", "cleanup", "dev_remove", "dev_log", "dev_restore", "device_state_cleanup",
               "action_enum_to_string", "action_string_to_enum"):
         add("frame", P + s)
@@ -80,7 +87,8 @@ def main(lib, root):
              "table_get_default_entry_handle": 154, "table_reset_default_entry": 154,
              "idle": 153, "set_property": 154, "get_property": 154, "get_mat_table_handle": 154,
              "register_mat_update_cb": 154,
-             "frame": 8, "objects": 2}
+             "frame": 8, "objects": 2,
+             "add_member": 15, "modify_member": 15, "members": 42}
     failed = False
     for k, v in known.items():
         if len(fam.get(k, ())) != v:

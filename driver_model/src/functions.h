@@ -42,7 +42,17 @@
   X(p4_pd_ms_destroy_state_for_dev)            \
   X(p4_pd_ms_destroy_txn_state_for_dev)        \
   X(p4_pd_ms_log_state)                        \
-  X(p4_pd_ms_restore_state)
+  X(p4_pd_ms_restore_state)                    \
+  X(pipe_mgr_adt_ent_add)                      \
+  X(pipe_mgr_adt_ent_set)                      \
+  X(pipe_mgr_adt_ent_del)                      \
+  X(pipe_mgr_get_action_data_entry)            \
+  X(pipe_register_adt_update_cb)               \
+  X(p4_pd_ms_new_mbr)                          \
+  X(p4_pd_ms_set_mbr_act)                      \
+  X(p4_pd_ms_get_mbr_act)                      \
+  X(p4_pd_ms_del_mbr)                          \
+  X(p4_pd_ms_mbr_get_res)
 
 namespace orbisk_model {
 

@@ -118,4 +118,9 @@ pd_status run(Fn fn, std::initializer_list<uint64_t> args, Body &&body) {
   return run(fn, args, Passing{}, std::forward<Body>(body));
 }
 
+// The handles of a profile's action data table (its members) or selector
+// table (its groups) on a device, in order, for the generic walks and counts;
+// false when tbl is neither (profile_store.cpp).
+bool profile_handles(Model &m, uint32_t device_id, pd_tbl_hdl tbl, std::vector<uint32_t> &out);
+
 }  // namespace orbisk_model

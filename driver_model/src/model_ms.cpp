@@ -136,6 +136,73 @@ pd_status p4_pd_ms_restore_state(uint32_t device_id, pd_ms_state *state, void *c
              });
 }
 
+// ------------------------------------------------------------- members ---
+
+pd_status p4_pd_ms_new_mbr(pd_sess_hdl sess, pd_ms_state *state, uint32_t device_id,
+                           pd_mbr_hdl mbr_hdl) {
+  return run(Fn::p4_pd_ms_new_mbr, {arg(sess), arg(state), arg(device_id), arg(mbr_hdl)},
+             [&](Model &m) {
+               pd_ms_state::Device *d = device_of(m, state, device_id);
+               if (d == nullptr) return ORBISK_MODEL_BAD_RECORD;
+               d->members[mbr_hdl] = 0;  // no action until one is set
+               return BF_SUCCESS;
+             });
+}
+
+pd_status p4_pd_ms_set_mbr_act(pd_ms_state *state, uint32_t device_id, pd_mbr_hdl mbr_hdl,
+                               pd_act_fn_hdl fn) {
+  return run(Fn::p4_pd_ms_set_mbr_act, {arg(state), arg(device_id), arg(mbr_hdl), arg(fn)},
+             [&](Model &m) {
+               pd_ms_state::Device *d = device_of(m, state, device_id);
+               if (d == nullptr) return ORBISK_MODEL_BAD_RECORD;
+               auto it = d->members.find(mbr_hdl);
+               if (it == d->members.end()) return ORBISK_MODEL_NO_SUCH_MEMBER;
+               it->second = fn;
+               return BF_SUCCESS;
+             });
+}
+
+pd_status p4_pd_ms_get_mbr_act(pd_ms_state *state, uint32_t device_id, pd_mbr_hdl mbr_hdl,
+                               pd_act_fn_hdl *fn) {
+  return run(Fn::p4_pd_ms_get_mbr_act, {arg(state), arg(device_id), arg(mbr_hdl), arg(fn)},
+             [&](Model &m) {
+               if (m.ms.find(state) == nullptr || fn == nullptr) return ORBISK_MODEL_BAD_RECORD;
+               const pd_ms_state::Device *d = find_device(m, state, device_id);
+               auto it = d ? d->members.find(mbr_hdl) : decltype(d->members.end()){};
+               if (d == nullptr || it == d->members.end()) return ORBISK_MODEL_NO_SUCH_MEMBER;
+               *fn = it->second;
+               return BF_SUCCESS;
+             });
+}
+
+pd_status p4_pd_ms_del_mbr(pd_sess_hdl sess, pd_ms_state *state, uint32_t device_id,
+                           pd_mbr_hdl mbr_hdl) {
+  return run(Fn::p4_pd_ms_del_mbr, {arg(sess), arg(state), arg(device_id), arg(mbr_hdl)},
+             [&](Model &m) {
+               if (m.ms.find(state) == nullptr) return ORBISK_MODEL_BAD_RECORD;
+               pd_ms_state::Device *d = device_of(m, state, device_id);
+               if (d->members.erase(mbr_hdl) == 0) return ORBISK_MODEL_NO_SUCH_MEMBER;
+               return BF_SUCCESS;
+             });
+}
+
+pd_status p4_pd_ms_mbr_get_res(pd_ms_state *state, uint32_t device_id, pd_mbr_hdl mbr_hdl,
+                               uint32_t *count, pd_resource_index **resources) {
+  return run(Fn::p4_pd_ms_mbr_get_res,
+             {arg(state), arg(device_id), arg(mbr_hdl), arg(count), arg(resources)},
+             [&](Model &m) {
+               if (m.ms.find(state) == nullptr || count == nullptr || resources == nullptr) {
+                 return ORBISK_MODEL_BAD_RECORD;
+               }
+               const pd_ms_state::Device *d = find_device(m, state, device_id);
+               if (d == nullptr || !d->members.count(mbr_hdl)) return ORBISK_MODEL_NO_SUCH_MEMBER;
+               // No member of this program's profiles carries a resource.
+               *count = 0;
+               *resources = nullptr;
+               return BF_SUCCESS;
+             });
+}
+
 // ---------------------------------------------------- test accessors ---
 
 pd_status orbisk_model_ms_set_member(pd_ms_state *state, uint32_t device_id, pd_mbr_hdl mbr,

@@ -208,6 +208,12 @@ pd_status pipe_mgr_get_entry_count(pd_sess_hdl sess, pd_dev_target target, pd_tb
   return run(Fn::pipe_mgr_get_entry_count,
              {arg(sess), arg(target), arg(tbl), arg(read_from_hw), arg(count)}, [&](Model &m) {
                const TableDesc *d = find_table(tbl);
+               std::vector<uint32_t> handles;
+               if (d == nullptr && profile_handles(m, target.device_id, tbl, handles)) {
+                 if (count == nullptr) return kBad;
+                 *count = uint32_t(handles.size());
+                 return kOk;
+               }
                if (d == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
                if (count == nullptr) return kBad;
                const MatchTable *t = m.tables.find(target.device_id, *d);
@@ -221,6 +227,13 @@ pd_status pipe_mgr_get_first_entry_handle(pd_sess_hdl sess, pd_tbl_hdl tbl, pd_d
   return run(Fn::pipe_mgr_get_first_entry_handle,
              {arg(sess), arg(tbl), arg(target), arg(entry_hdl)}, [&](Model &m) {
                const TableDesc *d = find_table(tbl);
+               std::vector<uint32_t> handles;
+               if (d == nullptr && profile_handles(m, target.device_id, tbl, handles)) {
+                 if (entry_hdl == nullptr) return kBad;
+                 if (handles.empty()) return ORBISK_MODEL_NO_SUCH_ENTRY;
+                 *entry_hdl = handles.front();
+                 return kOk;
+               }
                if (d == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
                if (entry_hdl == nullptr) return kBad;
                const MatchTable *t = m.tables.find(target.device_id, *d);
@@ -237,6 +250,17 @@ pd_status pipe_mgr_get_next_entry_handles(pd_sess_hdl sess, pd_tbl_hdl tbl, pd_d
              {arg(sess), arg(tbl), arg(target), arg(entry_hdl), arg(count), arg(next_hdls)},
              [&](Model &m) {
                const TableDesc *d = find_table(tbl);
+               std::vector<uint32_t> handles;
+               if (d == nullptr && profile_handles(m, target.device_id, tbl, handles)) {
+                 if (count != 0 && next_hdls == nullptr) return kBad;
+                 auto it = std::find(handles.begin(), handles.end(), entry_hdl);
+                 if (it == handles.end()) return ORBISK_MODEL_NO_SUCH_ENTRY;
+                 for (uint32_t i = 0; i < count; ++i) {
+                   if (it != handles.end()) ++it;
+                   next_hdls[i] = it != handles.end() ? *it : ORBISK_MODEL_NO_HANDLE;
+                 }
+                 return kOk;
+               }
                if (d == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
                if (count != 0 && next_hdls == nullptr) return kBad;
                const MatchTable *t = m.tables.find(target.device_id, *d);
@@ -397,6 +421,7 @@ size_t orbisk_model_device_count(void) {
     // Idle time and properties are device state too, even on tables without entries.
     m.idle.add_devices(devices);
     m.properties.add_devices(devices);
+    m.profiles.add_devices(devices);
     return devices.size();
   });
 }

@@ -28,7 +28,8 @@ INTRO = """\
  *  - Every record and string lives on the caller's stack for one call; the
  *    driver copies what it keeps. Nothing is allocated on a write.
  *
- * Families, for <t> a table and <a> an action of it:"""
+ * Families, for <t> a table, <r> an action profile and <a> an action of
+ * either:"""
 
 
 def family_list():
@@ -134,6 +135,20 @@ def emit(prog):
                 o.append(field_decl(ctype, name, arr))
             o.append("} %s;" % t.spec_type)
         for f in families.table_functions(t):
+            o.append(f.proto() + ";")
+        o.append("")
+    o.append("/* " + "=" * 66 + " */")
+    o.append("/* Action profiles: members, selector groups */")
+    o.append("/* " + "=" * 66 + " */")
+    o.append("")
+    for p in prog.profiles:
+        fns = families.profile_functions(p)
+        if not fns:
+            continue
+        o.append("/* %s: action data table 0x%08x, selector table 0x%08x; entries of %s name its"
+                 % (p.name, p.adt, p.sel, p.match_table))
+        o.append(" * members and groups. Actions: %s. */" % ", ".join(a.name for a in p.actions))
+        for f in fns:
             o.append(f.proto() + ";")
         o.append("")
     o.append("/* ------------------------------------ action data read back --- */")

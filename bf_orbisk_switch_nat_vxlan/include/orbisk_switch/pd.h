@@ -18,7 +18,8 @@
  *  - Every record and string lives on the caller's stack for one call; the
  *    driver copies what it keeps. Nothing is allocated on a write.
  *
- * Families, for <t> a table and <a> an action of it:
+ * Families, for <t> a table, <r> an action profile and <a> an action of
+ * either:
  *  <t>_table_add_with_<a>(sess, target, match spec, [priority], [action
  *      spec], [meter spec], [ttl], out entry handle): adds an entry. A NULL
  *      meter spec ends the process; the index of a counter or meter cell goes
@@ -82,6 +83,28 @@
  *      match spec.
  *  unbuild_mask_<t>(key record, out match spec): its masks or prefix length
  *      into the same match spec.
+ *  <r>_add_member_with_<a>(sess, target, [action spec], out member handle):
+ *      adds a member running the action; the member-selection state learns it
+ *      only when the driver accepted it.
+ *  <r>_modify_member_with_<a>(sess, device id, member handle, [action spec]):
+ *      new data for a member of this action; 0xFFFFFFFF, driver untouched,
+ *      for a member of another action.
+ *  <r>_del_member(sess, device id, member handle): deletes a member; the
+ *      state forgets it only when the driver did.
+ *  <r>_get_member(sess, device id, member handle, read from hardware, out
+ *      action spec): reads a member back, its action by enum; the parameters
+ *      of an action without any are left as they were. Status 15 for an
+ *      action the profile does not have.
+ *  <r>_get_first_member(sess, target, out member handle): the first member's
+ *      handle.
+ *  <r>_get_next_members(sess, target, member handle, count, out member
+ *      handles): the handles of up to count members after this one.
+ *  <r>_get_act_prof_entry_count(sess, target, out count): the number of
+ *      members.
+ *  <r>_get_adt_table_handle(out table handle): the action data table's
+ *      handle, where the pointer is not NULL; always 0.
+ *  <r>_register_adt_update_cb(sess, device id, update callback, cookie): the
+ *      callback told of each member added, changed or deleted.
  *  unbuild_action_spec_<a>(action record, [resources], [count], out action
  *      spec): an action record's data into an action spec.
  */
@@ -16890,6 +16913,274 @@ pd_status p4_pd_orbisk_switch_foldedPipeCounters_register_mat_update_cb(pd_sess_
     void *cookie);
 void unbuild_key_foldedPipeCounters(const pd_match_record *key,
     p4_pd_orbisk_switch_foldedPipeCounters_match_spec_t *match_spec);
+
+/* ================================================================== */
+/* Action profiles: members, selector groups */
+/* ================================================================== */
+
+/* egrMirrorLagPortActionProfile: action data table 0x02000026, selector table 0x03000003; entries of egressMirrorLagGroup name its
+ * members and groups. Actions: setEgrLagMemberSelector, NoAction. */
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_add_member_with_setEgrLagMemberSelector(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_setEgrLagMemberSelector_action_spec_t *action_spec,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_modify_member_with_setEgrLagMemberSelector(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl,
+    const p4_pd_orbisk_switch_setEgrLagMemberSelector_action_spec_t *action_spec);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_add_member_with_NoAction(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_modify_member_with_NoAction(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_del_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_get_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl,
+    bool read_from_hw,
+    p4_pd_orbisk_switch_action_specs_t *action_spec);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_get_first_member(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_get_next_members(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t count,
+    pd_mbr_hdl *next_mbr_hdls);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_get_act_prof_entry_count(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_get_adt_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_register_adt_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_adt_update_cb callback,
+    void *cookie);
+
+/* mirrorLagPortActionProfile: action data table 0x0200001d, selector table 0x03000001; entries of ingressMirrorLagGroup name its
+ * members and groups. Actions: setLagMemberSelector, NoAction. */
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_add_member_with_setLagMemberSelector(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_setLagMemberSelector_action_spec_t *action_spec,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_modify_member_with_setLagMemberSelector(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl,
+    const p4_pd_orbisk_switch_setLagMemberSelector_action_spec_t *action_spec);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_add_member_with_NoAction(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_modify_member_with_NoAction(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_del_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_get_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl,
+    bool read_from_hw,
+    p4_pd_orbisk_switch_action_specs_t *action_spec);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_get_first_member(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_get_next_members(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t count,
+    pd_mbr_hdl *next_mbr_hdls);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_get_act_prof_entry_count(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_get_adt_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_register_adt_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_adt_update_cb callback,
+    void *cookie);
+
+/* foldedPipeActionProfile: action data table 0x02000021, selector table 0x03000002; entries of foldedPipeDest name its
+ * members and groups. Actions: setFoldedPipePort, NoAction. */
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_add_member_with_setFoldedPipePort(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_setFoldedPipePort_action_spec_t *action_spec,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_modify_member_with_setFoldedPipePort(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl,
+    const p4_pd_orbisk_switch_setFoldedPipePort_action_spec_t *action_spec);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_add_member_with_NoAction(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_modify_member_with_NoAction(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_del_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_get_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl,
+    bool read_from_hw,
+    p4_pd_orbisk_switch_action_specs_t *action_spec);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_get_first_member(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_get_next_members(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t count,
+    pd_mbr_hdl *next_mbr_hdls);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_get_act_prof_entry_count(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_get_adt_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_register_adt_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_adt_update_cb callback,
+    void *cookie);
+
+/* ecmpMemberActionProfile: action data table 0x12010003, selector table 0x13010001; entries of ecmpGroup name its
+ * members and groups. Actions: setEcmpNextHop, NoAction. */
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_add_member_with_setEcmpNextHop(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_setEcmpNextHop_action_spec_t *action_spec,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_modify_member_with_setEcmpNextHop(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl,
+    const p4_pd_orbisk_switch_setEcmpNextHop_action_spec_t *action_spec);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_add_member_with_NoAction(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_modify_member_with_NoAction(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_del_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_get_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl,
+    bool read_from_hw,
+    p4_pd_orbisk_switch_action_specs_t *action_spec);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_get_first_member(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_get_next_members(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t count,
+    pd_mbr_hdl *next_mbr_hdls);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_get_act_prof_entry_count(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_get_adt_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_register_adt_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_adt_update_cb callback,
+    void *cookie);
+
+/* tunnelMemberActionProfile: action data table 0x1201000c, selector table 0x13010002; entries of tunnelResolve name its
+ * members and groups. Actions: setTunnelEgressInfo, NoAction. */
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_add_member_with_setTunnelEgressInfo(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_setTunnelEgressInfo_action_spec_t *action_spec,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_modify_member_with_setTunnelEgressInfo(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl,
+    const p4_pd_orbisk_switch_setTunnelEgressInfo_action_spec_t *action_spec);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_add_member_with_NoAction(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_modify_member_with_NoAction(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_del_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_get_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl,
+    bool read_from_hw,
+    p4_pd_orbisk_switch_action_specs_t *action_spec);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_get_first_member(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_get_next_members(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t count,
+    pd_mbr_hdl *next_mbr_hdls);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_get_act_prof_entry_count(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_get_adt_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_register_adt_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_adt_update_cb callback,
+    void *cookie);
+
+/* lagPortActionProfile: action data table 0x1201000e, selector table 0x13010003; entries of lagGroup name its
+ * members and groups. Actions: setLagPort, setPhysicalPort, setTunnelInfo, invalidateUcastEgressPort, fixL2SubintfAlignment. */
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_add_member_with_setLagPort(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_setLagPort_action_spec_t *action_spec,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_modify_member_with_setLagPort(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl,
+    const p4_pd_orbisk_switch_setLagPort_action_spec_t *action_spec);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_add_member_with_setPhysicalPort(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_modify_member_with_setPhysicalPort(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_add_member_with_setTunnelInfo(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_modify_member_with_setTunnelInfo(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_add_member_with_invalidateUcastEgressPort(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_modify_member_with_invalidateUcastEgressPort(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_add_member_with_fixL2SubintfAlignment(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_modify_member_with_fixL2SubintfAlignment(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_del_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_get_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl,
+    bool read_from_hw,
+    p4_pd_orbisk_switch_action_specs_t *action_spec);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_get_first_member(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_get_next_members(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t count,
+    pd_mbr_hdl *next_mbr_hdls);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_get_act_prof_entry_count(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_get_adt_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_register_adt_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_adt_update_cb callback,
+    void *cookie);
 
 /* ------------------------------------ action data read back --- */
 

@@ -107,6 +107,36 @@ pd_status p4_pd_ms_destroy_txn_state_for_dev(uint32_t device_id);
 pd_status p4_pd_ms_log_state(uint32_t device_id, pd_ms_state *state, void *cjson_object);
 pd_status p4_pd_ms_restore_state(uint32_t device_id, pd_ms_state *state, void *cjson_object);
 
+/* Action profiles: action data tables (members). The fifth argument of
+ * pipe_mgr_adt_ent_add and every flags word are 0 from this library. A read
+ * of a member fills the action record's data part (num_valid_bits, num_bytes,
+ * data_bytes, with num_bytes the room offered) and takes no session. */
+pd_status pipe_mgr_adt_ent_add(pd_sess_hdl sess, pd_dev_target target, pd_tbl_hdl adt,
+                               pd_act_fn_hdl fn, uint32_t reserved, pd_action_record *act,
+                               pd_mbr_hdl *mbr_hdl, uint32_t flags);
+pd_status pipe_mgr_adt_ent_set(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl adt,
+                               pd_mbr_hdl mbr_hdl, pd_act_fn_hdl fn, pd_action_record *act,
+                               uint32_t flags);
+pd_status pipe_mgr_adt_ent_del(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl adt,
+                               pd_mbr_hdl mbr_hdl, uint32_t flags);
+pd_status pipe_mgr_get_action_data_entry(pd_tbl_hdl adt, pd_dev_target target, pd_mbr_hdl mbr_hdl,
+                                         pd_action_record *act, pd_act_fn_hdl *fn,
+                                         uint8_t read_from_hw);
+pd_status pipe_register_adt_update_cb(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl adt,
+                                      pd_adt_update_cb callback, void *cookie);
+
+/* Member-selection service: what each member of a profile runs. */
+pd_status p4_pd_ms_new_mbr(pd_sess_hdl sess, pd_ms_state *state, uint32_t device_id,
+                           pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_ms_set_mbr_act(pd_ms_state *state, uint32_t device_id, pd_mbr_hdl mbr_hdl,
+                               pd_act_fn_hdl fn);
+pd_status p4_pd_ms_get_mbr_act(pd_ms_state *state, uint32_t device_id, pd_mbr_hdl mbr_hdl,
+                               pd_act_fn_hdl *fn);
+pd_status p4_pd_ms_del_mbr(pd_sess_hdl sess, pd_ms_state *state, uint32_t device_id,
+                           pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_ms_mbr_get_res(pd_ms_state *state, uint32_t device_id, pd_mbr_hdl mbr_hdl,
+                               uint32_t *count, pd_resource_index **resources);
+
 #ifdef __cplusplus
 }
 #endif

@@ -180,6 +180,14 @@ typedef void (*pd_idle_update_cb)(uint32_t device_id, pd_tbl_hdl tbl, void *cook
 typedef void (*pd_mat_update_cb)(uint32_t device_id, pd_tbl_hdl tbl, pd_entry_hdl entry_hdl,
                                  uint32_t update_type, void *cookie);
 
+/* update_type values of an action data or selector table update. */
+#define PD_PROFILE_UPDATE_ADD 0u
+#define PD_PROFILE_UPDATE_MODIFY 1u
+#define PD_PROFILE_UPDATE_DELETE 2u
+/* A member of an action profile was added, given new data, or deleted. */
+typedef void (*pd_adt_update_cb)(uint32_t device_id, pd_tbl_hdl adt, pd_mbr_hdl mbr_hdl,
+                                 uint32_t update_type, void *cookie);
+
 #ifdef __cplusplus
 }
 #endif

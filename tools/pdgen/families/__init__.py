@@ -27,17 +27,30 @@ FAMILIES = [f for g in GROUPS for f in g.FAMILIES]
 EXPORTED_OBJECTS = [o for g in GROUPS for o in getattr(g, "EXPORTED_OBJECTS", [])]
 
 
+# Families that are not a table's.
+TABLELESS = ("action", "program", "profile", "profile_action")
+
+
 def table_functions(t):
     """Every exported function of table t, in the order the header declares them."""
-    keyed = [kf for f in FAMILIES if f.each not in ("action", "program") for kf in f.table_functions(t)]
+    keyed = [kf for f in FAMILIES if f.each not in TABLELESS for kf in f.table_functions(t)]
     return [fn for _, fn in sorted(keyed, key=lambda kf: kf[0])]
 
 
 def documented_families():
-    """The table and action families, in the order of a table's declarations
-    (those of an action last), for the header's family list."""
-    table = sorted((f for f in FAMILIES if f.each not in ("action", "program")), key=lambda f: f.place)
-    return table + [f for f in FAMILIES if f.each == "action"]
+    """The table, profile and action families, in the order of a table's
+    declarations (those of a profile, then of an action, last), for the header's family list."""
+    table = sorted((f for f in FAMILIES if f.each not in TABLELESS), key=lambda f: f.place)
+    profile = sorted((f for f in FAMILIES if f.each in ("profile", "profile_action")),
+                     key=lambda f: f.place)
+    return table + profile + [f for f in FAMILIES if f.each == "action"]
+
+
+def profile_functions(p):
+    """Every exported function of action profile p, in the order of its declarations."""
+    keyed = [kf for f in FAMILIES if f.each in ("profile", "profile_action")
+             for kf in f.profile_functions(p)]
+    return [fn for _, fn in sorted(keyed, key=lambda kf: kf[0])]
 
 
 def action_functions(a):
@@ -57,6 +70,8 @@ def all_functions(prog):
     fns = frame_functions()
     for t in prog.tables:
         fns += table_functions(t)
+    for p in prog.profiles:
+        fns += profile_functions(p)
     for a in prog.actions:
         fns += action_functions(a)
     return fns

@@ -67,8 +67,10 @@ class Fn:
     """One exported function: its name, result, arguments (C type, name), the
     family it belongs to, and the table and action it is for."""
 
-    def __init__(self, name, result, args, family, table=None, action=None, kind=None):
+    def __init__(self, name, result, args, family, table=None, action=None, kind=None,
+                 profile=None):
         self.name = name
+        self.profile = profile
         self.result = result
         self.args = args
         self.family = family
@@ -102,7 +104,9 @@ class Family:
              is written by hand in the engine
     each     'table': one per table; 'entry_action' and 'default_action': one
              per action a table allows as an entry's or as its default;
-             'action': one per action of the program; 'program': one
+             'action': one per action of the program; 'program': one;
+             'profile': one per action profile ({r} its name); 'profile_action':
+             one per action of a profile
     when     which tables (or, for 'action', which actions) have its functions
     place    (block, step): where its declarations stand among a table's; the
              functions of one block are grouped by action, then by step
@@ -125,6 +129,10 @@ class Family:
             name = self.name.format(p=PREFIX, a=a.name)
             args = [x for arg in self.args for x in arg.resolve(None, a)]
             return Fn(name, self.result, args, self.id, action=a, kind=self)
+        if self.each in ("profile", "profile_action"):
+            name = self.name.format(p=PREFIX, r=t.name, a=a.name if a else "")
+            args = [x for arg in self.args for x in arg.resolve(t, a)]
+            return Fn(name, self.result, args, self.id, action=a, kind=self, profile=t)
         if self.each == "program":
             args = [x for arg in self.args for x in arg.resolve(None, None)]
             return Fn(self.name.format(p=PREFIX), self.result, args, self.id, kind=self)
@@ -142,9 +150,15 @@ class Family:
         return [((self.place[0], i, self.place[1]), self.fn(t, a))
                 for i, a in enumerate(t.actions) if getattr(a, use)]
 
+    def profile_functions(self, p):
+        """(sort key, Fn) for every function of this family on profile p."""
+        if self.each == "profile":
+            return [((self.place[0], -1, self.place[1]), self.fn(p))] if self.when(p) else []
+        return [((self.place[0], i, self.place[1]), self.fn(p, a)) for i, a in enumerate(p.actions)]
+
     def pattern(self):
         """The name as the documentation shows it."""
-        return self.name.format(p="", t="<t>", a="<a>")
+        return self.name.format(p="", t="<t>", a="<a>", r="<r>")
 
     def doc_line(self):
         """Name, arguments and what it does, for the header's family list."""

@@ -41,7 +41,9 @@ def files(prog):
          "struct ProfileSlot {", "  const char *name;", "  pd_ms_state **state;", "};",
          "// Every profile's, in the order of creation.",
          "extern const ProfileSlot kProfileSlots[%d];" % len(prog.profiles), "",
-         "}  // namespace orbisk::pd", ""]
+         "}  // namespace orbisk::pd", "",
+         "// Each profile's state by itself, for the functions of one profile."] + [
+         "extern pd_ms_state *pd_ms_slot_%s;" % p.state_slot for p in prog.profiles] + [""]
     c = ["// Generated from the catalogue. Do not edit.", '#include "export.h"', '#include "pd_frame.h"', "",
          "using namespace orbisk::pd;", ""]
     return {"pd_frame.h": "\n".join(h), "pd_frame.cpp": "\n".join(c + action_names(prog) + profile_slots(prog))}
