@@ -73,6 +73,16 @@ def main(lib, root):
         for s in ("del_member", "get_member", "get_first_member", "get_next_members",
                   "get_act_prof_entry_count", "get_adt_table_handle", "register_adt_update_cb"):
             add("members", "%s%s_%s" % (P, p["name"], s))
+        for s in ("create_group", "del_group", "add_member_to_group", "del_member_from_group",
+                  "group_member_state_set", "group_member_state_get", "group_member_get_from_hash",
+                  "set_dynamic_action_selection_fallback_member",
+                  "reset_dynamic_action_selection_fallback_member", "get_first_group",
+                  "get_next_groups", "get_first_group_member", "get_next_group_members",
+                  "get_selector_group_count", "get_selector_group_member_count",
+                  "get_word_llp_active_member_count", "get_word_llp_active_members",
+                  "get_sel_table_handle", "register_callback", "sel_track_updates",
+                  "register_sel_update_cb"):
+            add("groups", "%s%s_%s" % (P, p["name"], s))
     for s in ("init", "cleanup", "dev_remove", "dev_log", "dev_restore", "device_state_cleanup",
               "action_enum_to_string", "action_string_to_enum"):
         add("frame", P + s)
@@ -88,7 +98,7 @@ def main(lib, root):
              "idle": 153, "set_property": 154, "get_property": 154, "get_mat_table_handle": 154,
              "register_mat_update_cb": 154,
              "frame": 8, "objects": 2,
-             "add_member": 15, "modify_member": 15, "members": 42}
+             "add_member": 15, "modify_member": 15, "members": 42, "groups": 126}
     failed = False
     for k, v in known.items():
         if len(fam.get(k, ())) != v:

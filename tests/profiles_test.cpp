@@ -323,4 +323,250 @@ TEST_F(Members, TableHandlesAndTheUpdateCallback) {
   }
 }
 
+// ------------------------------------------------------------------ groups ---
+
+using GrpMbr = pd_status (*)(pd_sess_hdl, uint32_t, pd_grp_hdl, pd_mbr_hdl);
+using ByGrp = pd_status (*)(pd_sess_hdl, uint32_t, pd_grp_hdl);
+using Create = pd_status (*)(pd_sess_hdl, pd_dev_target, uint32_t, pd_grp_hdl *);
+using StateSet = pd_status (*)(pd_sess_hdl, uint32_t, pd_grp_hdl, pd_mbr_hdl, uint32_t);
+using StateGet = pd_status (*)(pd_sess_hdl, uint32_t, pd_grp_hdl, pd_mbr_hdl, uint32_t *);
+
+// A profile with members of its first action and one group, on the model.
+struct Fixture {
+  const ProfileDesc &p;
+  pd_ms_state *state;
+  std::vector<pd_mbr_hdl> mbrs;
+  pd_grp_hdl grp = 0;
+
+  Fixture(const ProfileDesc &prof, size_t members, uint32_t max_size = 8)
+      : p(prof), state(state_of(prof)) {
+    for (size_t i = 0; i < members; ++i) {
+      pd_mbr_hdl m = 0;
+      EXPECT_EQ(BF_SUCCESS, add_member(p, p.actions[0], Spec(*p.actions[0].action, {uint32_t(i)}), &m));
+      mbrs.push_back(m);
+    }
+    EXPECT_EQ(BF_SUCCESS, sym<Create>(p, "create_group")(7, {kDev, 3}, max_size, &grp));
+  }
+  pd_status join(pd_mbr_hdl m) { return sym<GrpMbr>(p, "add_member_to_group")(7, kDev, grp, m); }
+  pd_status del_group() { return sym<ByGrp>(p, "del_group")(7, kDev, grp); }
+};
+
+using Groups = OnModel;
+
+TEST_F(Groups, EveryProfileCallsTheDriverThenTheStateInOrder) {
+  for (std::size_t i = 0; i < kNumProfiles; ++i) {
+    const ProfileDesc &p = kProfiles[i];
+    SCOPED_TRACE(p.name);
+    orbisk_model_reset();
+    const uint64_t sel = p.sel_hdl;
+    size_t mark = orbisk_model_call_count();
+    Fixture f(p, 3);
+    const uint64_t st = addr(f.state);
+    const Names made = calls_since(mark);
+    EXPECT_EQ((Names{"pipe_mgr_sel_grp_add", "p4_pd_ms_new_grp"}), Names(made.end() - 2, made.end()));
+    EXPECT_EQ((Args{7, target_word(kDev, 3), sel, 0, 8, 0xDEADBEEF, 0, 0}),
+              but(last("pipe_mgr_sel_grp_add").args, {6}));
+    EXPECT_EQ((Args{7, st, kDev, f.grp}), last("p4_pd_ms_new_grp").args);
+
+    // A member joins: its action from the state, the driver, then the state twice.
+    mark = orbisk_model_call_count();
+    ASSERT_EQ(BF_SUCCESS, f.join(f.mbrs[0]));
+    EXPECT_EQ((Names{"p4_pd_ms_get_mbr_act", "pipe_mgr_sel_grp_mbr_add", "p4_pd_ms_add_mbr_to_grp",
+                     "p4_pd_ms_set_grp_act"}),
+              calls_since(mark));
+    EXPECT_EQ((Args{7, kDev, sel, f.grp, p.actions[0].handle, f.mbrs[0], 0}), last("pipe_mgr_sel_grp_mbr_add").args);
+    EXPECT_EQ((Args{7, st, kDev, f.mbrs[0], f.grp}), last("p4_pd_ms_add_mbr_to_grp").args);
+    EXPECT_EQ((Args{st, kDev, f.grp, p.actions[0].handle}), last("p4_pd_ms_set_grp_act").args);
+    // A member the state does not know never reaches the driver; a refusal leaves the state.
+    mark = orbisk_model_call_count();
+    EXPECT_EQ(ORBISK_MODEL_NO_SUCH_MEMBER, f.join(0x77));
+    EXPECT_EQ((Names{"p4_pd_ms_get_mbr_act"}), calls_since(mark));
+    mark = orbisk_model_call_count();
+    EXPECT_EQ(ORBISK_MODEL_MEMBER_IN_GROUP, f.join(f.mbrs[0]));
+    EXPECT_EQ((Names{"p4_pd_ms_get_mbr_act", "pipe_mgr_sel_grp_mbr_add"}), calls_since(mark));
+    ASSERT_EQ(BF_SUCCESS, f.join(f.mbrs[1]));
+    ASSERT_EQ(BF_SUCCESS, f.join(f.mbrs[2]));
+
+    // On and off: the driver only, by state; reads write only what they know.
+    mark = orbisk_model_call_count();
+    ASSERT_EQ(BF_SUCCESS, sym<StateSet>(p, "group_member_state_set")(7, kDev, f.grp, f.mbrs[1], 1));
+    ASSERT_EQ(BF_SUCCESS, sym<StateSet>(p, "group_member_state_set")(7, kDev, f.grp, f.mbrs[2], 1));
+    ASSERT_EQ(BF_SUCCESS, sym<StateSet>(p, "group_member_state_set")(7, kDev, f.grp, f.mbrs[2], 0));
+    EXPECT_EQ((Names{"pipe_mgr_sel_grp_mbr_disable", "pipe_mgr_sel_grp_mbr_disable", "pipe_mgr_sel_grp_mbr_enable"}),
+              calls_since(mark));
+    EXPECT_EQ((Args{7, kDev, sel, f.grp, f.mbrs[2], 0}), last("pipe_mgr_sel_grp_mbr_enable").args);
+    uint32_t on = 9;
+    ASSERT_EQ(BF_SUCCESS, sym<StateGet>(p, "group_member_state_get")(7, kDev, f.grp, f.mbrs[1], &on));
+    EXPECT_EQ(P4_PD_GRP_MBR_STATE_INACTIVE, on);
+    EXPECT_EQ((Args{7, kDev, sel, f.grp, f.mbrs[1], 0}), but(last("pipe_mgr_sel_grp_mbr_state_get").args, {5}));
+    ASSERT_EQ(BF_SUCCESS, orbisk_model_fail("pipe_mgr_sel_grp_mbr_state_get", 1, kArmed));
+    on = 9;
+    EXPECT_EQ(kArmed, sym<StateGet>(p, "group_member_state_get")(7, kDev, f.grp, f.mbrs[0], &on));
+    EXPECT_EQ(9u, on);
+
+    // The hash picks among the members that are on; with none on, the fallback.
+    using Hash = pd_status (*)(pd_sess_hdl, uint32_t, pd_grp_hdl, uint8_t *, uint32_t, pd_mbr_hdl *);
+    uint8_t hash[4] = {1, 2, 3, 4};
+    pd_mbr_hdl picked = 0;
+    ASSERT_EQ(BF_SUCCESS, sym<Hash>(p, "group_member_get_from_hash")(7, kDev, f.grp, hash, 4, &picked));
+    EXPECT_EQ((Args{7, kDev, sel, f.grp, addr(hash), 4, addr(&picked)}), last("pipe_mgr_sel_grp_mbr_get_from_hash").args);
+    EXPECT_TRUE(picked == f.mbrs[0] || picked == f.mbrs[2]);
+    ASSERT_EQ(BF_SUCCESS, sym<ByMbr>(p, "set_dynamic_action_selection_fallback_member")(7, kDev, f.mbrs[1]));
+    EXPECT_EQ((Args{7, kDev, sel, f.mbrs[1], 0}), last("pipe_mgr_sel_fallback_mbr_set").args);
+    for (pd_mbr_hdl m : {f.mbrs[0], f.mbrs[2]}) {
+      ASSERT_EQ(BF_SUCCESS, sym<StateSet>(p, "group_member_state_set")(7, kDev, f.grp, m, 1));
+    }
+    ASSERT_EQ(BF_SUCCESS, sym<Hash>(p, "group_member_get_from_hash")(7, kDev, f.grp, hash, 4, &picked));
+    EXPECT_EQ(f.mbrs[1], picked);
+    // The fallback member cannot go while it stands.
+    EXPECT_EQ(ORBISK_MODEL_MEMBER_IN_USE, sym<ByMbr>(p, "del_member")(7, kDev, f.mbrs[1]));
+    using Dev = pd_status (*)(pd_sess_hdl, uint32_t);
+    ASSERT_EQ(BF_SUCCESS, sym<Dev>(p, "reset_dynamic_action_selection_fallback_member")(7, kDev));
+    EXPECT_EQ((Args{7, kDev, sel, 0}), last("pipe_mgr_sel_fallback_mbr_reset").args);
+    EXPECT_EQ(ORBISK_MODEL_NO_SUCH_MEMBER, sym<Hash>(p, "group_member_get_from_hash")(7, kDev, f.grp, hash, 4, &picked));
+    for (pd_mbr_hdl m : f.mbrs) ASSERT_EQ(BF_SUCCESS, sym<StateSet>(p, "group_member_state_set")(7, kDev, f.grp, m, 0));
+
+    // Walks and counts, the selector table's handle filled in.
+    using First = pd_status (*)(pd_sess_hdl, pd_dev_target, pd_grp_hdl *);
+    using Count = pd_status (*)(pd_sess_hdl, pd_dev_target, uint32_t *);
+    using FirstMbr = pd_status (*)(pd_sess_hdl, uint32_t, pd_grp_hdl, pd_mbr_hdl *);
+    using NextMbrs = pd_status (*)(pd_sess_hdl, uint32_t, pd_grp_hdl, pd_mbr_hdl, uint32_t, pd_mbr_hdl *);
+    using GrpCount = pd_status (*)(pd_sess_hdl, uint32_t, pd_grp_hdl, uint32_t *);
+    using WordCount = pd_status (*)(pd_sess_hdl, uint32_t, uint32_t, uint32_t *);
+    using WordMbrs = pd_status (*)(pd_sess_hdl, uint32_t, uint32_t, uint32_t, pd_mbr_hdl *);
+    const pd_dev_target t = {kDev, 1};
+    pd_grp_hdl g = 0;
+    uint32_t n = 0;
+    ASSERT_EQ(BF_SUCCESS, sym<First>(p, "get_first_group")(7, t, &g));
+    EXPECT_EQ((Args{7, sel, target_word(kDev, 1), addr(&g)}), last("pipe_mgr_get_first_entry_handle").args);
+    EXPECT_EQ(f.grp, g);
+    ASSERT_EQ(BF_SUCCESS, sym<Count>(p, "get_selector_group_count")(7, t, &n));
+    EXPECT_EQ((Args{7, target_word(kDev, 1), sel, 0, addr(&n)}), last("pipe_mgr_get_entry_count").args);
+    EXPECT_EQ(1u, n);
+    pd_mbr_hdl first = 0, next[3] = {};
+    ASSERT_EQ(BF_SUCCESS, sym<FirstMbr>(p, "get_first_group_member")(7, kDev, f.grp, &first));
+    EXPECT_EQ((Args{7, sel, kDev, f.grp, addr(&first)}), last("pipe_mgr_get_first_group_member").args);
+    ASSERT_EQ(BF_SUCCESS, sym<NextMbrs>(p, "get_next_group_members")(7, kDev, f.grp, first, 3, next));
+    EXPECT_EQ((Args{7, sel, kDev, f.grp, first, 3, addr(next)}), last("pipe_mgr_get_next_group_members").args);
+    EXPECT_EQ((Args{f.mbrs[0], f.mbrs[1], f.mbrs[2], ORBISK_MODEL_NO_HANDLE}), (Args{first, next[0], next[1], next[2]}));
+    ASSERT_EQ(BF_SUCCESS, sym<GrpCount>(p, "get_selector_group_member_count")(7, kDev, f.grp, &n));
+    EXPECT_EQ((Args{7, kDev, sel, f.grp, addr(&n)}), last("pipe_mgr_get_sel_grp_mbr_count").args);
+    EXPECT_EQ(3u, n);
+    ASSERT_EQ(BF_SUCCESS, sym<WordCount>(p, "get_word_llp_active_member_count")(7, kDev, 0, &n));
+    EXPECT_EQ((Args{7, kDev, sel, 0, addr(&n)}), last("pipe_mgr_get_word_llp_active_member_count").args);
+    EXPECT_EQ(3u, n);
+    ASSERT_EQ(BF_SUCCESS, sym<WordMbrs>(p, "get_word_llp_active_members")(7, kDev, 0, 2, next));
+    EXPECT_EQ((Args{7, kDev, sel, 0, 2, addr(next)}), last("pipe_mgr_get_word_llp_active_members").args);
+
+    // Leaving: the driver, then the state; the group keeps its action.
+    mark = orbisk_model_call_count();
+    ASSERT_EQ(BF_SUCCESS, sym<GrpMbr>(p, "del_member_from_group")(7, kDev, f.grp, f.mbrs[0]));
+    EXPECT_EQ((Names{"pipe_mgr_sel_grp_mbr_del", "p4_pd_ms_del_mbr_from_grp"}), calls_since(mark));
+    EXPECT_EQ((Args{7, kDev, sel, f.grp, f.mbrs[0], 0}), last("pipe_mgr_sel_grp_mbr_del").args);
+    EXPECT_EQ((Args{7, st, kDev, f.mbrs[0], f.grp}), last("p4_pd_ms_del_mbr_from_grp").args);
+    ASSERT_EQ(BF_SUCCESS, orbisk_model_fail("pipe_mgr_sel_grp_mbr_del", 1, kArmed));
+    mark = orbisk_model_call_count();
+    EXPECT_EQ(kArmed, sym<GrpMbr>(p, "del_member_from_group")(7, kDev, f.grp, f.mbrs[1]));
+    EXPECT_EQ((Names{"pipe_mgr_sel_grp_mbr_del"}), calls_since(mark));
+    // A member still in a group cannot be deleted.
+    EXPECT_EQ(ORBISK_MODEL_MEMBER_IN_USE, sym<ByMbr>(p, "del_member")(7, kDev, f.mbrs[1]));
+  }
+}
+
+TEST_F(Groups, DelGroupReadsTheMembersFreesOnEveryPathAndReturnsTheStatesAnswer) {
+  const ProfileDesc &p = profile("ecmpMemberActionProfile");
+  const uint64_t sel = p.sel_hdl;
+  // An empty group: no allocation, and the state hears of no members.
+  {
+    Fixture f(p, 0);
+    const size_t mark = orbisk_model_call_count();
+    ASSERT_EQ(BF_SUCCESS, f.del_group());
+    EXPECT_EQ((Names{"pipe_mgr_get_sel_grp_mbr_count", "pipe_mgr_sel_grp_del", "p4_pd_ms_del_grp"}), calls_since(mark));
+    EXPECT_EQ((Args{7, addr(f.state), kDev, f.grp, 0, 0}), last("p4_pd_ms_del_grp").args);
+    EXPECT_EQ(0u, orbisk_model_allocation_count());
+  }
+  // A full group: two arrays of its size, freed once the state has them.
+  {
+    Fixture f(p, 2, 2);
+    for (pd_mbr_hdl m : f.mbrs) ASSERT_EQ(BF_SUCCESS, f.join(m));
+    pd_mbr_hdl extra = 0;
+    ASSERT_EQ(BF_SUCCESS, add_member(p, p.actions[0], Spec(*p.actions[0].action, {}), &extra));
+    EXPECT_EQ(ORBISK_MODEL_GROUP_FULL, f.join(extra));
+    const size_t mark = orbisk_model_call_count();
+    const size_t allocs = orbisk_model_allocation_count();
+    ASSERT_EQ(BF_SUCCESS, f.del_group());
+    EXPECT_EQ((Names{"pipe_mgr_get_sel_grp_mbr_count", "pipe_mgr_sel_grp_mbrs_get", "pipe_mgr_sel_grp_del",
+                     "p4_pd_ms_del_grp"}),
+              calls_since(mark));
+    const Args got = last("pipe_mgr_sel_grp_mbrs_get").args;
+    EXPECT_EQ((Args{7, kDev, sel, f.grp, 2}), Args(got.begin(), got.begin() + 5));
+    EXPECT_EQ((Args{7, addr(f.state), kDev, f.grp, 2, got[5]}), last("p4_pd_ms_del_grp").args);
+    EXPECT_EQ(allocs + 2, orbisk_model_allocation_count());
+    EXPECT_EQ(0u, orbisk_model_live_allocations());
+    EXPECT_EQ(0u, orbisk_model_group_count(kDev, p.sel_hdl));
+    // Its members are free again.
+    for (pd_mbr_hdl m : f.mbrs) EXPECT_EQ(BF_SUCCESS, sym<ByMbr>(p, "del_member")(7, kDev, m));
+  }
+  // Each step refused in turn: the status comes back, nothing leaks, and the
+  // group stays until the driver deleted it.
+  struct Step {
+    const char *fault;  // a driver function, or null for an allocation
+    uint32_t allocation;
+    pd_status expect;
+    bool group_gone;
+  };
+  const Step steps[] = {{"pipe_mgr_get_sel_grp_mbr_count", 0, kArmed, false},
+                        {nullptr, 1, 2, false},
+                        {nullptr, 2, 2, false},
+                        {"pipe_mgr_sel_grp_mbrs_get", 0, kArmed, false},
+                        {"pipe_mgr_sel_grp_del", 0, kArmed, false},
+                        {"p4_pd_ms_del_grp", 0, kArmed, true}};
+  for (const Step &s : steps) {
+    SCOPED_TRACE(s.fault ? s.fault : "allocation");
+    orbisk_model_reset();
+    Fixture f(p, 2);
+    for (pd_mbr_hdl m : f.mbrs) ASSERT_EQ(BF_SUCCESS, f.join(m));
+    if (s.fault) {
+      ASSERT_EQ(BF_SUCCESS, orbisk_model_fail(s.fault, 1, kArmed));
+    }
+    orbisk_model_fail_allocation(s.allocation);
+    EXPECT_EQ(s.expect, f.del_group());
+    EXPECT_EQ(0u, orbisk_model_live_allocations());
+    EXPECT_EQ(s.group_gone ? 0u : 1u, orbisk_model_group_count(kDev, p.sel_hdl));
+    EXPECT_EQ(1u, orbisk_model_ms_group_count(f.state, kDev));
+    orbisk_model_fail_allocation(0);
+  }
+}
+
+using GroupsDeathTest = OnModel;
+
+TEST_F(GroupsDeathTest, AMemberStateNeitherOnNorOffEndsTheProcess) {
+  const ProfileDesc &p = profile("lagPortActionProfile");
+  EXPECT_DEATH(sym<StateSet>(p, "group_member_state_set")(7, kDev, 1, 1, 2),
+               "lagPortActionProfile_group_member_state_set.*mbr_state == P4_PD_GRP_MBR_STATE_INACTIVE");
+}
+
+void on_sel(uint32_t, pd_tbl_hdl, pd_grp_hdl, pd_mbr_hdl, uint32_t, void *) {}
+
+TEST_F(Groups, TableHandleAndTheThreeRegistrations) {
+  using Handle = pd_status (*)(pd_tbl_hdl *);
+  using Reg = pd_status (*)(pd_sess_hdl, uint32_t, void *, void *);
+  using Track = pd_status (*)(uint32_t, void *, void *);
+  int cookie = 0;
+  for (std::size_t i = 0; i < kNumProfiles; ++i) {
+    const ProfileDesc &p = kProfiles[i];
+    pd_tbl_hdl h = 0;
+    EXPECT_EQ(BF_SUCCESS, sym<Handle>(p, "get_sel_table_handle")(&h));
+    EXPECT_EQ(p.sel_hdl, h);
+    EXPECT_EQ(BF_SUCCESS, sym<Handle>(p, "get_sel_table_handle")(nullptr));
+    void *cb = reinterpret_cast<void *>(&on_sel);
+    ASSERT_EQ(BF_SUCCESS, sym<Reg>(p, "register_callback")(7, kDev, cb, &cookie));
+    EXPECT_EQ((Args{7, kDev, p.sel_hdl, addr(cb), addr(&cookie)}), last("pipe_mgr_sel_tbl_register_cb").args);
+    ASSERT_EQ(BF_SUCCESS, sym<Track>(p, "sel_track_updates")(kDev, cb, &cookie));
+    EXPECT_EQ((Args{0, kDev, p.sel_hdl, addr(cb), addr(&cookie)}), last("pipe_mgr_sel_tbl_register_cb").args);
+    ASSERT_EQ(BF_SUCCESS, sym<Reg>(p, "register_sel_update_cb")(7, kDev, cb, &cookie));
+    EXPECT_EQ((Args{7, kDev, p.sel_hdl, addr(cb), addr(&cookie)}), last("pipe_register_sel_update_cb").args);
+  }
+}
+
 }  // namespace

@@ -375,6 +375,9 @@ void orbisk_model_clear_log(void);
 size_t orbisk_model_live_allocations(void);
 /* Calls of bf_sys_calloc since the last reset. */
 size_t orbisk_model_allocation_count(void);
+/* Makes the nth bf_sys_calloc from now on answer null (out of memory); 0
+ * disarms. Once only; a reset disarms it too. */
+void orbisk_model_fail_allocation(uint32_t nth);
 
 /* -------------------------------------------------------- registration --- */
 
@@ -407,6 +410,9 @@ pd_act_fn_hdl orbisk_model_ms_member_action(pd_ms_state *state, uint32_t device_
 /* Members in a profile's action data table of a device (adt its handle); 0
  * for an unknown table. */
 size_t orbisk_model_member_count(uint32_t device_id, pd_tbl_hdl adt);
+/* Groups in a profile's selector table of a device (sel its handle); 0 for an
+ * unknown table. */
+size_t orbisk_model_group_count(uint32_t device_id, pd_tbl_hdl sel);
 
 #ifdef __cplusplus
 }

@@ -100,6 +100,64 @@ Passing passing(const pd_action_record *act) {
   return p;
 }
 
+// A group and the place of a member in it; null group when unknown.
+struct GroupAt {
+  ProfileStore::Profile *p = nullptr;
+  ProfileStore::Group *g = nullptr;
+  std::vector<ProfileStore::GroupMember>::iterator mbr;
+  bool has_member() const { return g != nullptr && mbr != g->members.end(); }
+};
+
+GroupAt group_at(Model &m, uint32_t device_id, const ProfileDesc &d, pd_grp_hdl grp,
+                 pd_mbr_hdl mbr = 0) {
+  GroupAt at;
+  at.p = m.profiles.find(device_id, d);
+  if (at.p == nullptr) return at;
+  auto it = at.p->groups.find(grp);
+  if (it == at.p->groups.end()) return at;
+  at.g = &it->second;
+  at.mbr = std::find_if(at.g->members.begin(), at.g->members.end(),
+                        [&](const ProfileStore::GroupMember &x) { return x.mbr == mbr; });
+  return at;
+}
+
+void group_updated(Model &m, uint32_t device_id, const ProfileStore::Profile &p, pd_tbl_hdl sel,
+                   pd_grp_hdl grp, pd_mbr_hdl mbr, uint32_t type) {
+  if (p.sel_update_cb == nullptr) return;
+  m.notifications.push_back(
+      [cb = p.sel_update_cb, cookie = p.sel_update_cookie, device_id, sel, grp, mbr, type] {
+        cb(device_id, sel, grp, mbr, type, cookie);
+      });
+}
+
+// The group a word of the selector table stands for: word w is the group
+// made (w + 1)-th on the device, whatever became of the others.
+pd_grp_hdl group_of_word(const ProfileDesc &d, uint32_t word_index) {
+  return word_index >= 0xFFFFFF ? 0 : handle_base(d) | (word_index + 1);
+}
+
+// Whether an entry of the profile's match table names this group (or member).
+bool group_named(Model &m, uint32_t device_id, const ProfileDesc &d, pd_grp_hdl grp) {
+  return m.tables.names_ref(device_id, orbisk::pd::kTables[d.table_index], PD_RECORD_KIND_GROUP_REF, grp);
+}
+bool member_named(Model &m, uint32_t device_id, const ProfileDesc &d, pd_mbr_hdl mbr) {
+  return m.tables.names_ref(device_id, orbisk::pd::kTables[d.table_index], PD_RECORD_KIND_MEMBER_REF, mbr);
+}
+
+// The member a hash picks: FNV-1a over the bytes, modulo the number of
+// enabled members, in the order they were added; the fallback member when
+// none is enabled.
+pd_mbr_hdl pick(const ProfileStore::Profile &p, const ProfileStore::Group &g, const uint8_t *hash,
+                uint32_t len) {
+  uint32_t h = 2166136261u;
+  for (uint32_t i = 0; i < len; ++i) h = (h ^ hash[i]) * 16777619u;
+  std::vector<pd_mbr_hdl> on;
+  for (const auto &x : g.members) {
+    if (x.enabled) on.push_back(x.mbr);
+  }
+  return on.empty() ? p.fallback : on[h % on.size()];
+}
+
 }  // namespace
 
 // The walks and counts of the action data and selector tables, for the
@@ -175,7 +233,8 @@ pd_status pipe_mgr_adt_ent_del(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl 
                ProfileStore::Profile *p = m.profiles.find(device_id, *d);
                auto it = p ? p->members.find(mbr_hdl) : decltype(p->members.end()){};
                if (p == nullptr || it == p->members.end()) return ORBISK_MODEL_NO_SUCH_MEMBER;
-               if (!it->second.groups.empty() || p->fallback == mbr_hdl) {
+               if (!it->second.groups.empty() || p->fallback == mbr_hdl ||
+                   member_named(m, device_id, *d, mbr_hdl)) {
                  return ORBISK_MODEL_MEMBER_IN_USE;
                }
                p->members.erase(it);
@@ -224,6 +283,307 @@ pd_status pipe_register_adt_update_cb(pd_sess_hdl sess, uint32_t device_id, pd_t
              });
 }
 
+// ------------------------------------------------------------- selectors ---
+
+#define SEL_OR_FAIL()                                 \
+  const ProfileDesc *d = profile_of_sel(sel);         \
+  if (d == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE
+
+pd_status pipe_mgr_sel_grp_add(pd_sess_hdl sess, pd_dev_target target, pd_tbl_hdl sel,
+                               uint32_t reserved, uint32_t max_size, uint32_t cookie,
+                               pd_grp_hdl *grp_hdl, uint32_t flags) {
+  return run(Fn::pipe_mgr_sel_grp_add,
+             {arg(sess), arg(target), arg(sel), arg(reserved), arg(max_size), arg(cookie),
+              arg(grp_hdl), arg(flags)},
+             [&](Model &m) {
+               SEL_OR_FAIL();
+               if (grp_hdl == nullptr || max_size == 0) return kBad;
+               ProfileStore::Profile &p = m.profiles.make(target.device_id, *d);
+               if (p.next_grp > 0xFFFFFF) return ORBISK_MODEL_TABLE_FULL;
+               const pd_grp_hdl hdl = handle_base(*d) | p.next_grp++;
+               p.groups[hdl].max_size = max_size;
+               *grp_hdl = hdl;
+               group_updated(m, target.device_id, p, sel, hdl, 0, PD_PROFILE_UPDATE_ADD);
+               return kOk;
+             });
+}
+
+pd_status pipe_mgr_sel_grp_del(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl sel,
+                               pd_grp_hdl grp_hdl, uint32_t flags) {
+  return run(Fn::pipe_mgr_sel_grp_del, {arg(sess), arg(device_id), arg(sel), arg(grp_hdl), arg(flags)},
+             [&](Model &m) {
+               SEL_OR_FAIL();
+               GroupAt at = group_at(m, device_id, *d, grp_hdl);
+               if (at.g == nullptr) return ORBISK_MODEL_NO_SUCH_GROUP;
+               if (group_named(m, device_id, *d, grp_hdl)) return ORBISK_MODEL_GROUP_IN_USE;
+               for (const auto &x : at.g->members) at.p->members[x.mbr].groups.erase(grp_hdl);
+               at.p->groups.erase(grp_hdl);
+               group_updated(m, device_id, *at.p, sel, grp_hdl, 0, PD_PROFILE_UPDATE_DELETE);
+               return kOk;
+             });
+}
+
+pd_status pipe_mgr_sel_grp_mbr_add(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl sel,
+                                   pd_grp_hdl grp_hdl, pd_act_fn_hdl fn, pd_mbr_hdl mbr_hdl,
+                                   uint32_t flags) {
+  return run(Fn::pipe_mgr_sel_grp_mbr_add,
+             {arg(sess), arg(device_id), arg(sel), arg(grp_hdl), arg(fn), arg(mbr_hdl), arg(flags)},
+             [&](Model &m) {
+               SEL_OR_FAIL();
+               GroupAt at = group_at(m, device_id, *d, grp_hdl, mbr_hdl);
+               if (at.g == nullptr) return ORBISK_MODEL_NO_SUCH_GROUP;
+               auto mbr = at.p->members.find(mbr_hdl);
+               if (mbr == at.p->members.end()) return ORBISK_MODEL_NO_SUCH_MEMBER;
+               if (mbr->second.fn != fn) return ORBISK_MODEL_NO_SUCH_ACTION;
+               if (at.has_member()) return ORBISK_MODEL_MEMBER_IN_GROUP;
+               if (at.g->members.size() >= at.g->max_size) return ORBISK_MODEL_GROUP_FULL;
+               at.g->members.push_back({mbr_hdl, true});
+               mbr->second.groups.insert(grp_hdl);
+               group_updated(m, device_id, *at.p, sel, grp_hdl, mbr_hdl, PD_PROFILE_UPDATE_ADD);
+               return kOk;
+             });
+}
+
+pd_status pipe_mgr_sel_grp_mbr_del(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl sel,
+                                   pd_grp_hdl grp_hdl, pd_mbr_hdl mbr_hdl, uint32_t flags) {
+  return run(Fn::pipe_mgr_sel_grp_mbr_del,
+             {arg(sess), arg(device_id), arg(sel), arg(grp_hdl), arg(mbr_hdl), arg(flags)},
+             [&](Model &m) {
+               SEL_OR_FAIL();
+               GroupAt at = group_at(m, device_id, *d, grp_hdl, mbr_hdl);
+               if (at.g == nullptr) return ORBISK_MODEL_NO_SUCH_GROUP;
+               if (!at.has_member()) return ORBISK_MODEL_NOT_IN_GROUP;
+               at.g->members.erase(at.mbr);
+               at.p->members[mbr_hdl].groups.erase(grp_hdl);
+               group_updated(m, device_id, *at.p, sel, grp_hdl, mbr_hdl, PD_PROFILE_UPDATE_DELETE);
+               return kOk;
+             });
+}
+
+namespace {
+
+pd_status set_enabled(Fn fn, pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl sel, pd_grp_hdl grp_hdl,
+                      pd_mbr_hdl mbr_hdl, uint32_t flags, bool enabled) {
+  return run(fn, {arg(sess), arg(device_id), arg(sel), arg(grp_hdl), arg(mbr_hdl), arg(flags)},
+             [&](Model &m) {
+               SEL_OR_FAIL();
+               GroupAt at = group_at(m, device_id, *d, grp_hdl, mbr_hdl);
+               if (at.g == nullptr) return ORBISK_MODEL_NO_SUCH_GROUP;
+               if (!at.has_member()) return ORBISK_MODEL_NOT_IN_GROUP;
+               at.mbr->enabled = enabled;
+               if (at.p->sel_cb != nullptr) {
+                 m.notifications.push_back([cb = at.p->sel_cb, cookie = at.p->sel_cookie, device_id,
+                                            sel, grp_hdl, mbr_hdl, enabled] {
+                   cb(device_id, sel, grp_hdl, mbr_hdl, enabled ? 1 : 0, cookie);
+                 });
+               }
+               return kOk;
+             });
+}
+
+}  // namespace
+
+pd_status pipe_mgr_sel_grp_mbr_enable(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl sel,
+                                      pd_grp_hdl grp_hdl, pd_mbr_hdl mbr_hdl, uint32_t flags) {
+  return set_enabled(Fn::pipe_mgr_sel_grp_mbr_enable, sess, device_id, sel, grp_hdl, mbr_hdl, flags,
+                     true);
+}
+
+pd_status pipe_mgr_sel_grp_mbr_disable(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl sel,
+                                       pd_grp_hdl grp_hdl, pd_mbr_hdl mbr_hdl, uint32_t flags) {
+  return set_enabled(Fn::pipe_mgr_sel_grp_mbr_disable, sess, device_id, sel, grp_hdl, mbr_hdl,
+                     flags, false);
+}
+
+pd_status pipe_mgr_sel_grp_mbr_state_get(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl sel,
+                                         pd_grp_hdl grp_hdl, pd_mbr_hdl mbr_hdl,
+                                         uint32_t *mbr_state) {
+  return run(Fn::pipe_mgr_sel_grp_mbr_state_get,
+             {arg(sess), arg(device_id), arg(sel), arg(grp_hdl), arg(mbr_hdl), arg(mbr_state)},
+             [&](Model &m) {
+               SEL_OR_FAIL();
+               if (mbr_state == nullptr) return kBad;
+               GroupAt at = group_at(m, device_id, *d, grp_hdl, mbr_hdl);
+               if (at.g == nullptr) return ORBISK_MODEL_NO_SUCH_GROUP;
+               if (!at.has_member()) return ORBISK_MODEL_NOT_IN_GROUP;
+               *mbr_state = at.mbr->enabled ? P4_PD_GRP_MBR_STATE_ACTIVE : P4_PD_GRP_MBR_STATE_INACTIVE;
+               return kOk;
+             });
+}
+
+pd_status pipe_mgr_sel_grp_mbr_get_from_hash(pd_sess_hdl sess, uint32_t device_id,
+                                             pd_tbl_hdl sel, pd_grp_hdl grp_hdl,
+                                             uint8_t *hash, uint32_t hash_len,
+                                             pd_mbr_hdl *mbr_hdl) {
+  return run(Fn::pipe_mgr_sel_grp_mbr_get_from_hash,
+             {arg(sess), arg(device_id), arg(sel), arg(grp_hdl), arg(hash), arg(hash_len),
+              arg(mbr_hdl)},
+             [&](Model &m) {
+               SEL_OR_FAIL();
+               if (mbr_hdl == nullptr || (hash == nullptr && hash_len != 0)) return kBad;
+               GroupAt at = group_at(m, device_id, *d, grp_hdl);
+               if (at.g == nullptr) return ORBISK_MODEL_NO_SUCH_GROUP;
+               const pd_mbr_hdl got = pick(*at.p, *at.g, hash, hash_len);
+               if (got == 0) return ORBISK_MODEL_NO_SUCH_MEMBER;
+               *mbr_hdl = got;
+               return kOk;
+             });
+}
+
+pd_status pipe_mgr_sel_fallback_mbr_set(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl sel,
+                                        pd_mbr_hdl mbr_hdl, uint32_t flags) {
+  return run(Fn::pipe_mgr_sel_fallback_mbr_set,
+             {arg(sess), arg(device_id), arg(sel), arg(mbr_hdl), arg(flags)}, [&](Model &m) {
+               SEL_OR_FAIL();
+               ProfileStore::Profile *p = m.profiles.find(device_id, *d);
+               if (p == nullptr || !p->members.count(mbr_hdl)) return ORBISK_MODEL_NO_SUCH_MEMBER;
+               p->fallback = mbr_hdl;
+               return kOk;
+             });
+}
+
+pd_status pipe_mgr_sel_fallback_mbr_reset(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl sel,
+                                          uint32_t flags) {
+  return run(Fn::pipe_mgr_sel_fallback_mbr_reset, {arg(sess), arg(device_id), arg(sel), arg(flags)},
+             [&](Model &m) {
+               SEL_OR_FAIL();
+               if (ProfileStore::Profile *p = m.profiles.find(device_id, *d)) p->fallback = 0;
+               return kOk;
+             });
+}
+
+pd_status pipe_mgr_get_sel_grp_mbr_count(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl sel,
+                                         pd_grp_hdl grp_hdl, uint32_t *count) {
+  return run(Fn::pipe_mgr_get_sel_grp_mbr_count,
+             {arg(sess), arg(device_id), arg(sel), arg(grp_hdl), arg(count)}, [&](Model &m) {
+               SEL_OR_FAIL();
+               if (count == nullptr) return kBad;
+               GroupAt at = group_at(m, device_id, *d, grp_hdl);
+               if (at.g == nullptr) return ORBISK_MODEL_NO_SUCH_GROUP;
+               *count = uint32_t(at.g->members.size());
+               return kOk;
+             });
+}
+
+pd_status pipe_mgr_sel_grp_mbrs_get(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl sel,
+                                    pd_grp_hdl grp_hdl, uint32_t capacity, pd_mbr_hdl *mbr_hdls,
+                                    uint8_t *mbr_states, uint32_t *written, uint32_t flags) {
+  return run(Fn::pipe_mgr_sel_grp_mbrs_get,
+             {arg(sess), arg(device_id), arg(sel), arg(grp_hdl), arg(capacity), arg(mbr_hdls),
+              arg(mbr_states), arg(written), arg(flags)},
+             [&](Model &m) {
+               SEL_OR_FAIL();
+               if (written == nullptr || (capacity != 0 && (mbr_hdls == nullptr || mbr_states == nullptr))) {
+                 return kBad;
+               }
+               GroupAt at = group_at(m, device_id, *d, grp_hdl);
+               if (at.g == nullptr) return ORBISK_MODEL_NO_SUCH_GROUP;
+               const uint32_t n = std::min<uint32_t>(capacity, uint32_t(at.g->members.size()));
+               for (uint32_t i = 0; i < n; ++i) {
+                 mbr_hdls[i] = at.g->members[i].mbr;
+                 mbr_states[i] = at.g->members[i].enabled ? 0 : 1;
+               }
+               *written = n;
+               return kOk;
+             });
+}
+
+pd_status pipe_mgr_get_first_group_member(pd_sess_hdl sess, pd_tbl_hdl sel, uint32_t device_id,
+                                          pd_grp_hdl grp_hdl, pd_mbr_hdl *mbr_hdl) {
+  return run(Fn::pipe_mgr_get_first_group_member,
+             {arg(sess), arg(sel), arg(device_id), arg(grp_hdl), arg(mbr_hdl)}, [&](Model &m) {
+               SEL_OR_FAIL();
+               if (mbr_hdl == nullptr) return kBad;
+               GroupAt at = group_at(m, device_id, *d, grp_hdl);
+               if (at.g == nullptr) return ORBISK_MODEL_NO_SUCH_GROUP;
+               if (at.g->members.empty()) return ORBISK_MODEL_NO_SUCH_MEMBER;
+               *mbr_hdl = at.g->members.front().mbr;
+               return kOk;
+             });
+}
+
+pd_status pipe_mgr_get_next_group_members(pd_sess_hdl sess, pd_tbl_hdl sel, uint32_t device_id,
+                                          pd_grp_hdl grp_hdl, pd_mbr_hdl mbr_hdl, uint32_t count,
+                                          pd_mbr_hdl *next_mbr_hdls) {
+  return run(Fn::pipe_mgr_get_next_group_members,
+             {arg(sess), arg(sel), arg(device_id), arg(grp_hdl), arg(mbr_hdl), arg(count),
+              arg(next_mbr_hdls)},
+             [&](Model &m) {
+               SEL_OR_FAIL();
+               if (count != 0 && next_mbr_hdls == nullptr) return kBad;
+               GroupAt at = group_at(m, device_id, *d, grp_hdl, mbr_hdl);
+               if (at.g == nullptr) return ORBISK_MODEL_NO_SUCH_GROUP;
+               if (!at.has_member()) return ORBISK_MODEL_NOT_IN_GROUP;
+               auto it = at.mbr;
+               for (uint32_t i = 0; i < count; ++i) {
+                 if (it != at.g->members.end()) ++it;
+                 next_mbr_hdls[i] = it != at.g->members.end() ? it->mbr : ORBISK_MODEL_NO_HANDLE;
+               }
+               return kOk;
+             });
+}
+
+pd_status pipe_mgr_get_word_llp_active_member_count(pd_sess_hdl sess, uint32_t device_id,
+                                                    pd_tbl_hdl sel, uint32_t word_index,
+                                                    uint32_t *count) {
+  return run(Fn::pipe_mgr_get_word_llp_active_member_count,
+             {arg(sess), arg(device_id), arg(sel), arg(word_index), arg(count)}, [&](Model &m) {
+               SEL_OR_FAIL();
+               if (count == nullptr) return kBad;
+               GroupAt at = group_at(m, device_id, *d, group_of_word(*d, word_index));
+               uint32_t n = 0;
+               if (at.g != nullptr) {
+                 for (const auto &x : at.g->members) n += x.enabled ? 1 : 0;
+               }
+               *count = n;
+               return kOk;
+             });
+}
+
+pd_status pipe_mgr_get_word_llp_active_members(pd_sess_hdl sess, uint32_t device_id,
+                                               pd_tbl_hdl sel, uint32_t word_index,
+                                               uint32_t count, pd_mbr_hdl *mbr_hdls) {
+  return run(Fn::pipe_mgr_get_word_llp_active_members,
+             {arg(sess), arg(device_id), arg(sel), arg(word_index), arg(count), arg(mbr_hdls)},
+             [&](Model &m) {
+               SEL_OR_FAIL();
+               if (count != 0 && mbr_hdls == nullptr) return kBad;
+               GroupAt at = group_at(m, device_id, *d, group_of_word(*d, word_index));
+               uint32_t n = 0;
+               if (at.g != nullptr) {
+                 for (const auto &x : at.g->members) {
+                   if (x.enabled && n < count) mbr_hdls[n++] = x.mbr;
+                 }
+               }
+               for (; n < count; ++n) mbr_hdls[n] = ORBISK_MODEL_NO_HANDLE;
+               return kOk;
+             });
+}
+
+pd_status pipe_mgr_sel_tbl_register_cb(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl sel,
+                                       pd_sel_tbl_cb callback, void *cookie) {
+  return run(Fn::pipe_mgr_sel_tbl_register_cb,
+             {arg(sess), arg(device_id), arg(sel), arg(callback), arg(cookie)}, [&](Model &m) {
+               SEL_OR_FAIL();
+               ProfileStore::Profile &p = m.profiles.make(device_id, *d);
+               p.sel_cb = callback;
+               p.sel_cookie = cookie;
+               return kOk;
+             });
+}
+
+pd_status pipe_register_sel_update_cb(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl sel,
+                                      pd_sel_update_cb callback, void *cookie) {
+  return run(Fn::pipe_register_sel_update_cb,
+             {arg(sess), arg(device_id), arg(sel), arg(callback), arg(cookie)}, [&](Model &m) {
+               SEL_OR_FAIL();
+               ProfileStore::Profile &p = m.profiles.make(device_id, *d);
+               p.sel_update_cb = callback;
+               p.sel_update_cookie = cookie;
+               return kOk;
+             });
+}
+
 // ------------------------------------------------------------ controls ---
 
 size_t orbisk_model_member_count(uint32_t device_id, pd_tbl_hdl adt) {
@@ -231,6 +591,14 @@ size_t orbisk_model_member_count(uint32_t device_id, pd_tbl_hdl adt) {
     const ProfileDesc *d = profile_of_adt(adt);
     const ProfileStore::Profile *p = d ? m.profiles.find(device_id, *d) : nullptr;
     return p ? p->members.size() : 0;
+  });
+}
+
+size_t orbisk_model_group_count(uint32_t device_id, pd_tbl_hdl sel) {
+  return in_frame([&](Model &m) -> size_t {
+    const ProfileDesc *d = profile_of_sel(sel);
+    const ProfileStore::Profile *p = d ? m.profiles.find(device_id, *d) : nullptr;
+    return p ? p->groups.size() : 0;
   });
 }
 

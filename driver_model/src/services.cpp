@@ -17,6 +17,8 @@ void AllocationStore::clear() {
   retired.merge(live);
   live.clear();
   count = 0;
+  fail_at = 0;
+  seen = 0;
 }
 
 }  // namespace orbisk_model
@@ -68,6 +70,10 @@ void orbisk_model_clear_log(void) {
 }
 
 void *bf_sys_calloc(size_t count, size_t size) {
+  const bool refuse = in_frame([](Model &m) {
+    return m.allocations.fail_at != 0 && ++m.allocations.seen == m.allocations.fail_at;
+  });
+  if (refuse) return nullptr;
   void *p = std::calloc(count, size);
   if (p != nullptr) {
     in_frame([&](Model &m) {
@@ -95,6 +101,13 @@ size_t orbisk_model_live_allocations(void) {
 
 size_t orbisk_model_allocation_count(void) {
   return in_frame([](Model &m) { return m.allocations.count; });
+}
+
+void orbisk_model_fail_allocation(uint32_t nth) {
+  in_frame([&](Model &m) {
+    m.allocations.fail_at = nth;
+    m.allocations.seen = 0;
+  });
 }
 
 }  // extern "C"

@@ -101,17 +101,21 @@ class AllocationStore final : public Store {
   // a block a client keeps on purpose is not taken for a leak.
   std::unordered_set<void *> retired;
   size_t count = 0;  // bf_sys_calloc calls since the last reset
+  uint32_t fail_at = 0;  // the call since it was armed that answers null; 0 none
+  uint32_t seen = 0;     // calls since it was armed
 };
 
 // ------------------------------------- member selection (model_ms.cpp) ---
 
 }  // namespace orbisk_model
 
-// A member-selection state: per device, what each member and group names.
+// A member-selection state: per device, what each member and group names,
+// and each group's members (in the order they were added).
 struct pd_ms_state {
   struct Device {
     std::map<pd_mbr_hdl, pd_act_fn_hdl> members;
-    std::map<pd_grp_hdl, pd_act_fn_hdl> groups;
+    std::map<pd_grp_hdl, pd_act_fn_hdl> groups;  // 0 until the group has had a member
+    std::map<pd_grp_hdl, std::vector<pd_mbr_hdl>> group_members;
   };
   std::map<uint32_t, Device> devices;
 };
@@ -166,6 +170,10 @@ class ProfileStore final : public Store {
     pd_mbr_hdl fallback = 0;  // 0 for none
     pd_adt_update_cb adt_cb = nullptr;
     void *adt_cookie = nullptr;
+    pd_sel_tbl_cb sel_cb = nullptr;
+    void *sel_cookie = nullptr;
+    pd_sel_update_cb sel_update_cb = nullptr;
+    void *sel_update_cookie = nullptr;
   };
   void clear() override;
   void drop_device(uint32_t device_id) override;

@@ -105,6 +105,57 @@
  *      handle, where the pointer is not NULL; always 0.
  *  <r>_register_adt_update_cb(sess, device id, update callback, cookie): the
  *      callback told of each member added, changed or deleted.
+ *  <r>_create_group(sess, target, maximum group size, out group handle):
+ *      makes an empty group of at most max_grp_size members; it runs no
+ *      action until its first member comes.
+ *  <r>_del_group(sess, device id, group handle): deletes a group: its members
+ *      are read first, for the state to unhook them. 2 when out of memory;
+ *      after the driver deleted it, the state's status.
+ *  <r>_add_member_to_group(sess, device id, group handle, member handle):
+ *      adds a member; the group runs the action of the member added last. A
+ *      member the state does not know never reaches the driver.
+ *  <r>_del_member_from_group(sess, device id, group handle, member handle):
+ *      removes a member; the group's action stays.
+ *  <r>_group_member_state_set(sess, device id, group handle, member handle,
+ *      member state): turns a member on (P4_PD_GRP_MBR_STATE_ACTIVE) or off
+ *      (_INACTIVE) in a group; any other state ends the process.
+ *  <r>_group_member_state_get(sess, device id, group handle, member handle,
+ *      out member state): reads it; a state the library does not know is not
+ *      written.
+ *  <r>_group_member_get_from_hash(sess, device id, group handle, hash bytes,
+ *      hash length, out member handle): the member the hash picks in a group.
+ *  <r>_set_dynamic_action_selection_fallback_member(sess, device id, member
+ *      handle): the member used where a group has none active, for the whole
+ *      selector table.
+ *  <r>_reset_dynamic_action_selection_fallback_member(sess, device id): no
+ *      fallback member.
+ *  <r>_get_first_group(sess, target, out group handle): the first group's
+ *      handle.
+ *  <r>_get_next_groups(sess, target, group handle, count, out group handles):
+ *      the handles of up to count groups after this one.
+ *  <r>_get_first_group_member(sess, device id, group handle, out member
+ *      handle): a group's first member.
+ *  <r>_get_next_group_members(sess, device id, group handle, member handle,
+ *      count, out member handles): up to count members of the group after
+ *      this one.
+ *  <r>_get_selector_group_count(sess, target, out count): the number of
+ *      groups.
+ *  <r>_get_selector_group_member_count(sess, device id, group handle, out
+ *      count): the number of a group's members.
+ *  <r>_get_word_llp_active_member_count(sess, device id, word number, out
+ *      count): the number of members active in one word of the selector
+ *      table, as the driver's low-level view has them.
+ *  <r>_get_word_llp_active_members(sess, device id, word number, count, out
+ *      member handles): up to count of those members.
+ *  <r>_get_sel_table_handle(out table handle): the selector table's handle,
+ *      where the pointer is not NULL; always 0.
+ *  <r>_register_callback(sess, device id, member state callback, cookie): the
+ *      callback told of each member turned on or off.
+ *  <r>_sel_track_updates(device id, member state callback, cookie): the same,
+ *      without a session.
+ *  <r>_register_sel_update_cb(sess, device id, update callback, cookie): the
+ *      callback told of each group made or deleted and each member added or
+ *      removed.
  *  unbuild_action_spec_<a>(action record, [resources], [count], out action
  *      spec): an action record's data into an action spec.
  */
@@ -16958,6 +17009,88 @@ pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_register_adt_update_
     uint32_t dev_id,
     pd_adt_update_cb callback,
     void *cookie);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_create_group(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t max_grp_size,
+    pd_grp_hdl *grp_hdl);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_del_group(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_add_member_to_group(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_del_member_from_group(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_group_member_state_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t mbr_state);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_group_member_state_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t *mbr_state);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_group_member_get_from_hash(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    uint8_t *hash,
+    uint32_t hash_len,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_set_dynamic_action_selection_fallback_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_reset_dynamic_action_selection_fallback_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_get_first_group(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_grp_hdl *grp_hdl);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_get_next_groups(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_grp_hdl grp_hdl,
+    uint32_t count,
+    pd_grp_hdl *next_grp_hdls);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_get_first_group_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_get_next_group_members(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t count,
+    pd_mbr_hdl *next_mbr_hdls);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_get_selector_group_count(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_get_selector_group_member_count(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_get_word_llp_active_member_count(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t word_index,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_get_word_llp_active_members(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t word_index,
+    uint32_t count,
+    pd_mbr_hdl *next_mbr_hdls);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_get_sel_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_register_callback(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_sel_tbl_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_sel_track_updates(uint32_t dev_id,
+    pd_sel_tbl_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_register_sel_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_sel_update_cb callback,
+    void *cookie);
 
 /* mirrorLagPortActionProfile: action data table 0x0200001d, selector table 0x03000001; entries of ingressMirrorLagGroup name its
  * members and groups. Actions: setLagMemberSelector, NoAction. */
@@ -16998,6 +17131,88 @@ pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_get_adt_table_handle(pd
 pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_register_adt_update_cb(pd_sess_hdl sess_hdl,
     uint32_t dev_id,
     pd_adt_update_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_create_group(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t max_grp_size,
+    pd_grp_hdl *grp_hdl);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_del_group(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_add_member_to_group(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_del_member_from_group(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_group_member_state_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t mbr_state);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_group_member_state_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t *mbr_state);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_group_member_get_from_hash(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    uint8_t *hash,
+    uint32_t hash_len,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_set_dynamic_action_selection_fallback_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_reset_dynamic_action_selection_fallback_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_get_first_group(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_grp_hdl *grp_hdl);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_get_next_groups(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_grp_hdl grp_hdl,
+    uint32_t count,
+    pd_grp_hdl *next_grp_hdls);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_get_first_group_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_get_next_group_members(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t count,
+    pd_mbr_hdl *next_mbr_hdls);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_get_selector_group_count(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_get_selector_group_member_count(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_get_word_llp_active_member_count(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t word_index,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_get_word_llp_active_members(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t word_index,
+    uint32_t count,
+    pd_mbr_hdl *next_mbr_hdls);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_get_sel_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_register_callback(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_sel_tbl_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_sel_track_updates(uint32_t dev_id,
+    pd_sel_tbl_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_register_sel_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_sel_update_cb callback,
     void *cookie);
 
 /* foldedPipeActionProfile: action data table 0x02000021, selector table 0x03000002; entries of foldedPipeDest name its
@@ -17040,6 +17255,88 @@ pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_register_adt_update_cb(pd_
     uint32_t dev_id,
     pd_adt_update_cb callback,
     void *cookie);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_create_group(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t max_grp_size,
+    pd_grp_hdl *grp_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_del_group(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_add_member_to_group(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_del_member_from_group(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_group_member_state_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t mbr_state);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_group_member_state_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t *mbr_state);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_group_member_get_from_hash(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    uint8_t *hash,
+    uint32_t hash_len,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_set_dynamic_action_selection_fallback_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_reset_dynamic_action_selection_fallback_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_get_first_group(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_grp_hdl *grp_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_get_next_groups(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_grp_hdl grp_hdl,
+    uint32_t count,
+    pd_grp_hdl *next_grp_hdls);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_get_first_group_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_get_next_group_members(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t count,
+    pd_mbr_hdl *next_mbr_hdls);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_get_selector_group_count(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_get_selector_group_member_count(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_get_word_llp_active_member_count(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t word_index,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_get_word_llp_active_members(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t word_index,
+    uint32_t count,
+    pd_mbr_hdl *next_mbr_hdls);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_get_sel_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_register_callback(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_sel_tbl_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_sel_track_updates(uint32_t dev_id,
+    pd_sel_tbl_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_register_sel_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_sel_update_cb callback,
+    void *cookie);
 
 /* ecmpMemberActionProfile: action data table 0x12010003, selector table 0x13010001; entries of ecmpGroup name its
  * members and groups. Actions: setEcmpNextHop, NoAction. */
@@ -17081,6 +17378,88 @@ pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_register_adt_update_cb(pd_
     uint32_t dev_id,
     pd_adt_update_cb callback,
     void *cookie);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_create_group(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t max_grp_size,
+    pd_grp_hdl *grp_hdl);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_del_group(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_add_member_to_group(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_del_member_from_group(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_group_member_state_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t mbr_state);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_group_member_state_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t *mbr_state);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_group_member_get_from_hash(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    uint8_t *hash,
+    uint32_t hash_len,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_set_dynamic_action_selection_fallback_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_reset_dynamic_action_selection_fallback_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_get_first_group(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_grp_hdl *grp_hdl);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_get_next_groups(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_grp_hdl grp_hdl,
+    uint32_t count,
+    pd_grp_hdl *next_grp_hdls);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_get_first_group_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_get_next_group_members(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t count,
+    pd_mbr_hdl *next_mbr_hdls);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_get_selector_group_count(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_get_selector_group_member_count(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_get_word_llp_active_member_count(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t word_index,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_get_word_llp_active_members(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t word_index,
+    uint32_t count,
+    pd_mbr_hdl *next_mbr_hdls);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_get_sel_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_register_callback(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_sel_tbl_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_sel_track_updates(uint32_t dev_id,
+    pd_sel_tbl_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_register_sel_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_sel_update_cb callback,
+    void *cookie);
 
 /* tunnelMemberActionProfile: action data table 0x1201000c, selector table 0x13010002; entries of tunnelResolve name its
  * members and groups. Actions: setTunnelEgressInfo, NoAction. */
@@ -17121,6 +17500,88 @@ pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_get_adt_table_handle(pd_
 pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_register_adt_update_cb(pd_sess_hdl sess_hdl,
     uint32_t dev_id,
     pd_adt_update_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_create_group(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t max_grp_size,
+    pd_grp_hdl *grp_hdl);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_del_group(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_add_member_to_group(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_del_member_from_group(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_group_member_state_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t mbr_state);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_group_member_state_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t *mbr_state);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_group_member_get_from_hash(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    uint8_t *hash,
+    uint32_t hash_len,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_set_dynamic_action_selection_fallback_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_reset_dynamic_action_selection_fallback_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_get_first_group(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_grp_hdl *grp_hdl);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_get_next_groups(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_grp_hdl grp_hdl,
+    uint32_t count,
+    pd_grp_hdl *next_grp_hdls);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_get_first_group_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_get_next_group_members(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t count,
+    pd_mbr_hdl *next_mbr_hdls);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_get_selector_group_count(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_get_selector_group_member_count(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_get_word_llp_active_member_count(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t word_index,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_get_word_llp_active_members(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t word_index,
+    uint32_t count,
+    pd_mbr_hdl *next_mbr_hdls);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_get_sel_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_register_callback(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_sel_tbl_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_sel_track_updates(uint32_t dev_id,
+    pd_sel_tbl_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_register_sel_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_sel_update_cb callback,
     void *cookie);
 
 /* lagPortActionProfile: action data table 0x1201000e, selector table 0x13010003; entries of lagGroup name its
@@ -17180,6 +17641,88 @@ pd_status p4_pd_orbisk_switch_lagPortActionProfile_get_adt_table_handle(pd_tbl_h
 pd_status p4_pd_orbisk_switch_lagPortActionProfile_register_adt_update_cb(pd_sess_hdl sess_hdl,
     uint32_t dev_id,
     pd_adt_update_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_create_group(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t max_grp_size,
+    pd_grp_hdl *grp_hdl);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_del_group(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_add_member_to_group(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_del_member_from_group(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_group_member_state_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t mbr_state);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_group_member_state_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t *mbr_state);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_group_member_get_from_hash(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    uint8_t *hash,
+    uint32_t hash_len,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_set_dynamic_action_selection_fallback_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_reset_dynamic_action_selection_fallback_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_get_first_group(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_grp_hdl *grp_hdl);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_get_next_groups(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_grp_hdl grp_hdl,
+    uint32_t count,
+    pd_grp_hdl *next_grp_hdls);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_get_first_group_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_get_next_group_members(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t count,
+    pd_mbr_hdl *next_mbr_hdls);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_get_selector_group_count(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_get_selector_group_member_count(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_get_word_llp_active_member_count(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t word_index,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_get_word_llp_active_members(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t word_index,
+    uint32_t count,
+    pd_mbr_hdl *next_mbr_hdls);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_get_sel_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_register_callback(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_sel_tbl_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_sel_track_updates(uint32_t dev_id,
+    pd_sel_tbl_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_register_sel_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_sel_update_cb callback,
     void *cookie);
 
 /* ------------------------------------ action data read back --- */

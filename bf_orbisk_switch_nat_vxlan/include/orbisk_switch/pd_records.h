@@ -187,6 +187,17 @@ typedef void (*pd_mat_update_cb)(uint32_t device_id, pd_tbl_hdl tbl, pd_entry_hd
 /* A member of an action profile was added, given new data, or deleted. */
 typedef void (*pd_adt_update_cb)(uint32_t device_id, pd_tbl_hdl adt, pd_mbr_hdl mbr_hdl,
                                  uint32_t update_type, void *cookie);
+/* A member of a selector group was turned on or off (active 1 or 0). */
+typedef void (*pd_sel_tbl_cb)(uint32_t device_id, pd_tbl_hdl sel, pd_grp_hdl grp_hdl,
+                              pd_mbr_hdl mbr_hdl, uint32_t active, void *cookie);
+/* A selector group was made or deleted (mbr_hdl 0), or a member was added to
+ * or removed from one. */
+typedef void (*pd_sel_update_cb)(uint32_t device_id, pd_tbl_hdl sel, pd_grp_hdl grp_hdl,
+                                 pd_mbr_hdl mbr_hdl, uint32_t update_type, void *cookie);
+/* What the member-selection service applies to each group that holds a
+ * member (p4_pd_ms_mbr_apply_to_grps); aux is given through unchanged. */
+typedef pd_status (*pd_ms_grp_fn)(uint32_t device_id, pd_mbr_hdl mbr_hdl, pd_grp_hdl grp_hdl,
+                                  void *aux);
 
 #ifdef __cplusplus
 }

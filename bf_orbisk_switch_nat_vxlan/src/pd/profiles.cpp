@@ -51,4 +51,80 @@ pd_status read_member(const ProfileDesc &p, pd_ms_state *state, const char *func
   return BF_SUCCESS;
 }
 
+pd_status create_group(pd_tbl_hdl sel, pd_ms_state *state, pd_sess_hdl sess, pd_dev_target target,
+                       uint32_t max_size, pd_grp_hdl *grp_hdl) {
+  const pd_status s = pipe_mgr_sel_grp_add(sess, target, sel, 0, max_size, 0xDEADBEEFu, grp_hdl, 0);
+  if (s != BF_SUCCESS) return s;
+  // A new group runs no action until its first member comes.
+  p4_pd_ms_new_grp(sess, state, target.device_id, *grp_hdl);
+  return BF_SUCCESS;
+}
+
+pd_status del_group(pd_tbl_hdl sel, pd_ms_state *state, pd_sess_hdl sess, uint32_t device_id,
+                    pd_grp_hdl grp_hdl) {
+  uint32_t count = 0;
+  uint32_t written = 0;
+  if (pd_status s = pipe_mgr_get_sel_grp_mbr_count(sess, device_id, sel, grp_hdl, &count)) {
+    return s;
+  }
+  pd_mbr_hdl *mbrs = nullptr;
+  uint8_t *states = nullptr;
+  if (count == 0) {
+    if (pd_status s = pipe_mgr_sel_grp_del(sess, device_id, sel, grp_hdl, 0)) return s;
+  } else {
+    mbrs = static_cast<pd_mbr_hdl *>(bf_sys_calloc(count, sizeof *mbrs));
+    states = static_cast<uint8_t *>(bf_sys_calloc(count, 1));
+    if (mbrs == nullptr || states == nullptr) {
+      if (mbrs) bf_sys_free(mbrs);
+      if (states) bf_sys_free(states);
+      return 2;  // out of memory; the group stays
+    }
+    pd_status s = pipe_mgr_sel_grp_mbrs_get(sess, device_id, sel, grp_hdl, count, mbrs, states,
+                                            &written, 0);
+    if (s == BF_SUCCESS) s = pipe_mgr_sel_grp_del(sess, device_id, sel, grp_hdl, 0);
+    if (s != BF_SUCCESS) {
+      bf_sys_free(mbrs);
+      bf_sys_free(states);
+      return s;
+    }
+  }
+  // The driver's group is gone: a refusal here is the caller's to hear.
+  const pd_status s = p4_pd_ms_del_grp(sess, state, device_id, grp_hdl, written, mbrs);
+  if (mbrs) {
+    bf_sys_free(mbrs);
+    bf_sys_free(states);
+  }
+  return s;
+}
+
+pd_status del_member_from_group(pd_tbl_hdl sel, pd_ms_state *state, pd_sess_hdl sess,
+                                uint32_t device_id, pd_grp_hdl grp_hdl, pd_mbr_hdl mbr_hdl) {
+  const pd_status s = pipe_mgr_sel_grp_mbr_del(sess, device_id, sel, grp_hdl, mbr_hdl, 0);
+  if (s != BF_SUCCESS) return s;
+  // The group's action stays as it was, even for a group left empty.
+  p4_pd_ms_del_mbr_from_grp(sess, state, device_id, mbr_hdl, grp_hdl);
+  return BF_SUCCESS;
+}
+
+pd_status group_member_state_set(pd_tbl_hdl sel, const char *function, pd_sess_hdl sess, uint32_t device_id,
+                                 pd_grp_hdl grp_hdl, pd_mbr_hdl mbr_hdl, uint32_t mbr_state) {
+  if (mbr_state == P4_PD_GRP_MBR_STATE_ACTIVE) {
+    return pipe_mgr_sel_grp_mbr_enable(sess, device_id, sel, grp_hdl, mbr_hdl, 0);
+  }
+  if (mbr_state != P4_PD_GRP_MBR_STATE_INACTIVE) {
+    pd_hard_assert_failed("mbr_state == P4_PD_GRP_MBR_STATE_INACTIVE", function, __LINE__);
+  }
+  return pipe_mgr_sel_grp_mbr_disable(sess, device_id, sel, grp_hdl, mbr_hdl, 0);
+}
+
+pd_status group_member_state_get(pd_tbl_hdl sel, pd_sess_hdl sess, uint32_t device_id,
+                                 pd_grp_hdl grp_hdl, pd_mbr_hdl mbr_hdl, uint32_t *mbr_state) {
+  uint32_t got = 0;
+  const pd_status s =
+      pipe_mgr_sel_grp_mbr_state_get(sess, device_id, sel, grp_hdl, mbr_hdl, &got);
+  if (s != BF_SUCCESS) return s;
+  if (got == P4_PD_GRP_MBR_STATE_ACTIVE || got == P4_PD_GRP_MBR_STATE_INACTIVE) *mbr_state = got;
+  return BF_SUCCESS;
+}
+
 }  // namespace orbisk::pd

@@ -48,6 +48,44 @@ pd_status read_member(const ProfileDesc &p, pd_ms_state *state, const char *func
                       uint32_t device_id, pd_mbr_hdl mbr_hdl, bool read_from_hw,
                       p4_pd_orbisk_switch_action_specs_t *out);
 
+// ------------------------------------------------------------------ groups ---
+// A group's action in the state is the action of the member added last: the
+// entries that name the group are written with it.
+
+pd_status create_group(pd_tbl_hdl sel, pd_ms_state *state, pd_sess_hdl sess, pd_dev_target target,
+                       uint32_t max_size, pd_grp_hdl *grp_hdl);
+
+// Reads the group's members from the driver before it goes, for the state to
+// unhook them: the only allocation of a profile path, freed on every path.
+pd_status del_group(pd_tbl_hdl sel, pd_ms_state *state, pd_sess_hdl sess, uint32_t device_id,
+                    pd_grp_hdl grp_hdl);
+
+// A member the state does not know never reaches the driver: the driver
+// wants the member's action, and only the state can tell it.
+inline pd_status add_member_to_group(pd_tbl_hdl sel, pd_ms_state *state, pd_sess_hdl sess,
+                                     uint32_t device_id, pd_grp_hdl grp_hdl, pd_mbr_hdl mbr_hdl) {
+  pd_act_fn_hdl fn;
+  if (pd_status s = p4_pd_ms_get_mbr_act(state, device_id, mbr_hdl, &fn)) return s;
+  if (pd_status s = pipe_mgr_sel_grp_mbr_add(sess, device_id, sel, grp_hdl, fn, mbr_hdl, 0)) {
+    return s;
+  }
+  p4_pd_ms_add_mbr_to_grp(sess, state, device_id, mbr_hdl, grp_hdl);
+  p4_pd_ms_set_grp_act(state, device_id, grp_hdl, fn);
+  return BF_SUCCESS;
+}
+
+pd_status del_member_from_group(pd_tbl_hdl sel, pd_ms_state *state, pd_sess_hdl sess,
+                                uint32_t device_id, pd_grp_hdl grp_hdl, pd_mbr_hdl mbr_hdl);
+
+// On or off inside the group; the driver alone keeps it. Any state other than
+// P4_PD_GRP_MBR_STATE_ACTIVE and _INACTIVE ends the process, in `function`.
+pd_status group_member_state_set(pd_tbl_hdl sel, const char *function, pd_sess_hdl sess, uint32_t device_id,
+                                 pd_grp_hdl grp_hdl, pd_mbr_hdl mbr_hdl, uint32_t mbr_state);
+
+// Writes only a state the caller knows (0 or 1), and only on success.
+pd_status group_member_state_get(pd_tbl_hdl sel, pd_sess_hdl sess, uint32_t device_id,
+                                 pd_grp_hdl grp_hdl, pd_mbr_hdl mbr_hdl, uint32_t *mbr_state);
+
 // Stores a table handle where the pointer is not null; always success.
 inline pd_status table_handle(pd_tbl_hdl hdl, pd_tbl_hdl *out) {
   if (out) *out = hdl;
