@@ -44,6 +44,13 @@ def main(lib, root):
                 add("unbuild_mask", "unbuild_mask_" + n)
         if direct:
             add("get_entry", "%s%s_get_entry" % (P, n))
+        else:
+            add("indirect_get_entry", "%s%s_get_entry" % (P, n))
+            for s in ("add_entry", "add_entry_with_selector", "modify_entry",
+                      "modify_entry_with_selector", "modify_entry_by_match_spec",
+                      "modify_entry_with_selector_by_match_spec", "set_default_entry",
+                      "set_default_entry_with_selector"):
+                add("indirect", "%s%s_%s" % (P, n, s))
         for s in ("get_entry_count", "get_first_entry_handle", "get_next_entry_handles",
                   "table_get_default_entry", "table_get_default_entry_handle",
                   "table_reset_default_entry"):
@@ -98,7 +105,8 @@ def main(lib, root):
              "idle": 153, "set_property": 154, "get_property": 154, "get_mat_table_handle": 154,
              "register_mat_update_cb": 154,
              "frame": 8, "objects": 2,
-             "add_member": 15, "modify_member": 15, "members": 42, "groups": 126}
+             "add_member": 15, "modify_member": 15, "members": 42, "groups": 126,
+             "indirect": 48, "indirect_get_entry": 6}
     failed = False
     for k, v in known.items():
         if len(fam.get(k, ())) != v:

@@ -6,6 +6,7 @@
 #include <dlfcn.h>
 
 #include <string>
+#include <tuple>
 
 #include "test_support.h"
 
@@ -567,6 +568,199 @@ TEST_F(Groups, TableHandleAndTheThreeRegistrations) {
     ASSERT_EQ(BF_SUCCESS, sym<Reg>(p, "register_sel_update_cb")(7, kDev, cb, &cookie));
     EXPECT_EQ((Args{7, kDev, p.sel_hdl, addr(cb), addr(&cookie)}), last("pipe_register_sel_update_cb").args);
   }
+}
+
+// -------------------------------------------------------- indirect entries ---
+
+using orbisk::pd::kNumTables;
+using orbisk::pd::kTables;
+using orbisk::pd::TableDesc;
+
+// A key of table t with its first field 1 (and, on a ternary table, that
+// field's whole mask), every other byte 0.
+struct MatchSpec {
+  alignas(4) uint8_t bytes[64] = {};
+  explicit MatchSpec(const TableDesc &t) {
+    const auto &f = t.fields[0];
+    put(f.host_offset, f.bits, 1);
+    if (t.ternary()) put(f.partner_offset, f.bits, f.bits >= 32 ? 0xFFFFFFFFu : (1u << f.bits) - 1);
+  }
+  void put(uint16_t at, uint16_t bits, uint32_t v) {
+    if (bits <= 8) bytes[at] = uint8_t(v);
+    else if (bits <= 16) std::memcpy(bytes + at, &v, 2);
+    else std::memcpy(bytes + at, &v, 4);
+  }
+};
+
+// The eight writes and the read of one indirect table, whichever take a priority.
+struct Indirect {
+  const TableDesc &t;
+  const std::string name;
+  explicit Indirect(const TableDesc &table) : t(table), name(table.name) {}
+
+  pd_status add(const MatchSpec &ms, uint32_t hdl, bool group, pd_entry_hdl *out) const {
+    const std::string f = name + (group ? "_add_entry_with_selector" : "_add_entry");
+    const pd_dev_target tgt = {kDev, 1};
+    if (t.ternary()) {
+      return sym<pd_status (*)(pd_sess_hdl, pd_dev_target, const void *, uint32_t, uint32_t, pd_entry_hdl *)>(f)(
+          7, tgt, ms.bytes, 9, hdl, out);
+    }
+    return sym<pd_status (*)(pd_sess_hdl, pd_dev_target, const void *, uint32_t, pd_entry_hdl *)>(f)(7, tgt, ms.bytes,
+                                                                                                     hdl, out);
+  }
+  pd_status modify(pd_entry_hdl e, uint32_t hdl, bool group) const {
+    return sym<pd_status (*)(pd_sess_hdl, uint32_t, pd_entry_hdl, uint32_t)>(
+        name + (group ? "_modify_entry_with_selector" : "_modify_entry"))(7, kDev, e, hdl);
+  }
+  pd_status modify_by_key(const MatchSpec &ms, uint32_t hdl, bool group) const {
+    const std::string f = name + (group ? "_modify_entry_with_selector_by_match_spec" : "_modify_entry_by_match_spec");
+    const pd_dev_target tgt = {kDev, 1};
+    if (t.ternary()) {
+      return sym<pd_status (*)(pd_sess_hdl, pd_dev_target, const void *, uint32_t, uint32_t)>(f)(7, tgt, ms.bytes, 9,
+                                                                                                hdl);
+    }
+    return sym<pd_status (*)(pd_sess_hdl, pd_dev_target, const void *, uint32_t)>(f)(7, tgt, ms.bytes, hdl);
+  }
+  pd_status set_default(uint32_t hdl, bool group, pd_entry_hdl *out) const {
+    return sym<pd_status (*)(pd_sess_hdl, pd_dev_target, uint32_t, pd_entry_hdl *)>(
+        name + (group ? "_set_default_entry_with_selector" : "_set_default_entry"))(7, {kDev, 1}, hdl, out);
+  }
+  // Reads into `ms`; answers the flags and the handle named.
+  struct Got {
+    pd_status status;
+    bool has_mbr, has_grp, is_default;
+    pd_grp_hdl grp;
+    pd_mbr_hdl mbr;
+    uint32_t priority;
+  };
+  Got get(pd_entry_hdl e, MatchSpec &ms) const {
+    Got g{0, true, true, true, 0xAAAA, 0xBBBB, 0};
+    const std::string f = name + "_get_entry";
+    if (t.ternary()) {
+      g.status = sym<pd_status (*)(pd_sess_hdl, uint32_t, pd_entry_hdl, bool, void *, uint32_t *, bool *, bool *,
+                                   pd_grp_hdl *, pd_mbr_hdl *, bool *)>(f)(7, kDev, e, false, ms.bytes, &g.priority,
+                                                                         &g.has_mbr, &g.has_grp, &g.grp, &g.mbr,
+                                                                         &g.is_default);
+    } else {
+      g.status = sym<pd_status (*)(pd_sess_hdl, uint32_t, pd_entry_hdl, bool, void *, bool *, bool *, pd_grp_hdl *,
+                                   pd_mbr_hdl *, bool *)>(f)(7, kDev, e, false, ms.bytes, &g.has_mbr, &g.has_grp,
+                                                             &g.grp, &g.mbr, &g.is_default);
+    }
+    return g;
+  }
+};
+
+// The record an entry that names a member or group sends, and nothing else in it.
+::testing::AssertionResult names(const Seen &s, bool group, uint32_t hdl) {
+  pd_action_record want{};
+  want.record_kind = group ? PD_RECORD_KIND_GROUP_REF : PD_RECORD_KIND_MEMBER_REF;
+  (group ? want.group_hdl : want.member_hdl) = hdl;
+  if (!s.has_action) return ::testing::AssertionFailure() << "no action record";
+  if (std::memcmp(&want, &s.action, sizeof want) == 0) return ::testing::AssertionSuccess();
+  return ::testing::AssertionFailure() << "kind " << int(s.action.record_kind) << " member " << s.action.member_hdl
+                                       << " group " << s.action.group_hdl;
+}
+
+using IndirectEntries = OnModel;
+
+TEST_F(IndirectEntries, EveryTableNamesMembersAndGroupsBothWaysAndReadsThemBack) {
+  size_t tables = 0;
+  for (std::size_t i = 0; i < kNumTables; ++i) {
+    const TableDesc &t = kTables[i];
+    if (!t.indirect()) continue;
+    SCOPED_TRACE(t.name);
+    ++tables;
+    orbisk_model_reset();
+    const ProfileDesc &p = *t.profile;
+    Fixture f(p, 2);
+    ASSERT_EQ(BF_SUCCESS, f.join(f.mbrs[1]));
+    const Indirect x(t);
+    const pd_act_fn_hdl act = p.actions[0].handle;
+    const MatchSpec key(t);
+
+    // Member form: the key first, the state twice, then the driver.
+    size_t mark = orbisk_model_call_count();
+    pd_entry_hdl e = 0;
+    ASSERT_EQ(BF_SUCCESS, x.add(key, f.mbrs[0], false, &e));
+    EXPECT_EQ((Names{"p4_pd_ms_get_mbr_act", "p4_pd_ms_mbr_get_res", "pipe_mgr_mat_ent_add"}), calls_since(mark));
+    Seen s = last("pipe_mgr_mat_ent_add");
+    EXPECT_TRUE(names(s, false, f.mbrs[0]));
+    EXPECT_EQ((Args{7, target_word(kDev, 1), t.handle, 0, act, 0, 0, 0, 0}), but(s.args, {3, 5, 8}));
+    EXPECT_EQ(t.ternary() ? 9u : 0u, s.key.priority);
+    MatchSpec back(t);
+    std::memset(back.bytes, 0xEE, sizeof back.bytes);
+    Indirect::Got g = x.get(e, back);
+    ASSERT_EQ(BF_SUCCESS, g.status);
+    EXPECT_EQ((Args{1, 0, 0, f.mbrs[0], 0xAAAA}), (Args{g.has_mbr, g.has_grp, g.is_default, g.mbr, g.grp}));
+    EXPECT_EQ(0, std::memcmp(key.bytes, back.bytes, t.match_spec_size));
+    EXPECT_EQ(t.ternary() ? 9u : 0u, g.priority);
+    const Seen read = last("pipe_mgr_get_entry");
+    EXPECT_EQ((Args{7, t.handle, target_word(kDev, PD_DEV_PIPE_ALL), e}), Args(read.args.begin(), read.args.begin() + 4));
+    EXPECT_EQ(0u, read.action.num_bytes);
+    // A named member cannot go.
+    EXPECT_EQ(ORBISK_MODEL_MEMBER_IN_USE, sym<ByMbr>(p, "del_member")(7, kDev, f.mbrs[0]));
+
+    // Group form, by handle; the record kind alone decides.
+    mark = orbisk_model_call_count();
+    ASSERT_EQ(BF_SUCCESS, x.modify(e, f.grp, true));
+    EXPECT_EQ((Names{"p4_pd_ms_get_grp_act", "p4_pd_ms_grp_get_res", "pipe_mgr_mat_ent_set_action"}), calls_since(mark));
+    s = last("pipe_mgr_mat_ent_set_action");
+    EXPECT_TRUE(names(s, true, f.grp));
+    EXPECT_EQ((Args{7, kDev, t.handle, e, act}), Args(s.args.begin(), s.args.begin() + 5));
+    g = x.get(e, back);
+    EXPECT_EQ((Args{0, 1, f.grp, 0xBBBB}), (Args{g.has_mbr, g.has_grp, g.grp, g.mbr}));
+    EXPECT_EQ(ORBISK_MODEL_GROUP_IN_USE, f.del_group());
+    // Back to the member by handle, then both ways by key.
+    ASSERT_EQ(BF_SUCCESS, x.modify(e, f.mbrs[0], false));
+    EXPECT_TRUE(names(last("pipe_mgr_mat_ent_set_action"), false, f.mbrs[0]));
+    ASSERT_EQ(BF_SUCCESS, x.modify_by_key(key, f.grp, true));
+    s = last("pipe_mgr_mat_ent_set_action_by_match_spec");
+    EXPECT_TRUE(names(s, true, f.grp));
+    EXPECT_EQ((Args{7, target_word(kDev, 1), t.handle}), Args(s.args.begin(), s.args.begin() + 3));
+    EXPECT_EQ(t.ternary() ? 9u : 0u, s.key.priority);
+    ASSERT_EQ(BF_SUCCESS, x.modify_by_key(key, f.mbrs[1], false));
+    EXPECT_TRUE(names(last("pipe_mgr_mat_ent_set_action_by_match_spec"), false, f.mbrs[1]));
+
+    // The default entry: no key, the driver's handle.
+    pd_entry_hdl d = 0;
+    mark = orbisk_model_call_count();
+    ASSERT_EQ(BF_SUCCESS, x.set_default(f.grp, true, &d));
+    EXPECT_EQ((Names{"p4_pd_ms_get_grp_act", "p4_pd_ms_grp_get_res", "pipe_mgr_mat_default_entry_set"}),
+              calls_since(mark));
+    s = last("pipe_mgr_mat_default_entry_set");
+    EXPECT_TRUE(names(s, true, f.grp));
+    EXPECT_FALSE(s.has_key);
+    EXPECT_EQ(ORBISK_MODEL_DEFAULT_ENTRY_HDL, d);
+    g = x.get(d, back);
+    EXPECT_EQ((Args{0, 1, 1, f.grp}), (Args{g.has_mbr, g.has_grp, g.is_default, g.grp}));
+    ASSERT_EQ(BF_SUCCESS, x.set_default(f.mbrs[0], false, &d));
+    EXPECT_TRUE(names(last("pipe_mgr_mat_default_entry_set"), false, f.mbrs[0]));
+
+    // What the state does not know never reaches the driver; a group without
+    // a member has no action to write.
+    pd_grp_hdl empty = 0;
+    ASSERT_EQ(BF_SUCCESS, sym<Create>(p, "create_group")(7, {kDev, 1}, 4, &empty));
+    for (const auto &[hdl, group, want] :
+         {std::tuple{f.mbrs[0] + 100, false, ORBISK_MODEL_NO_SUCH_MEMBER},
+          std::tuple{f.grp + 100, true, ORBISK_MODEL_NO_SUCH_GROUP},
+          std::tuple{empty, true, ORBISK_MODEL_NO_SUCH_ACTION}}) {
+      mark = orbisk_model_call_count();
+      EXPECT_EQ(want, x.modify(e, hdl, group));
+      EXPECT_EQ(want, x.modify_by_key(key, hdl, group));
+      EXPECT_EQ(want, x.set_default(hdl, group, &d));
+      pd_entry_hdl none = 0;
+      EXPECT_EQ(want, x.add(key, hdl, group, &none));
+      EXPECT_EQ(4u, calls_since(mark).size());
+    }
+    // A driver refusal comes back as it is.
+    ASSERT_EQ(BF_SUCCESS, orbisk_model_fail("pipe_mgr_mat_ent_set_action", 1, kArmed));
+    EXPECT_EQ(kArmed, x.modify(e, f.grp, true));
+    // An entry of another kind: no flag, no handle.
+    orbisk_model_quirk_next_read(PD_RECORD_KIND_DIRECT, -1);
+    g = x.get(e, back);
+    EXPECT_EQ((Args{0, 0, 0xAAAA, 0xBBBB}), (Args{g.has_mbr, g.has_grp, g.grp, g.mbr}));
+  }
+  EXPECT_EQ(6u, tables);
 }
 
 }  // namespace

@@ -94,6 +94,7 @@ pd_status pipe_mgr_mat_ent_add(pd_sess_hdl sess, pd_dev_target target, pd_tbl_hd
                if (entry_hdl == nullptr) return kBad;
                if (pd_status s = check_key(*d, key)) return s;
                if (pd_status s = check_action(*d, fn, act, false)) return s;
+               if (pd_status s = check_ref(m, target.device_id, *d, fn, *act)) return s;
                MatchTable *t = m.tables.find(target.device_id, *d);
                uint32_t hash = 0;
                if (t != nullptr) {
@@ -121,6 +122,7 @@ pd_status pipe_mgr_mat_ent_set_action(pd_sess_hdl sess, uint32_t device_id, pd_t
                const TableDesc *d = find_table(tbl);
                if (d == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
                if (pd_status s = check_action(*d, fn, act, false)) return s;
+               if (pd_status s = check_ref(m, device_id, *d, fn, *act)) return s;
                MatchTable *t = m.tables.find(device_id, *d);
                const MatchTable::Entry e = t ? t->find(entry_hdl) : MatchTable::Entry{};
                if (e.head == nullptr) return ORBISK_MODEL_NO_SUCH_ENTRY;
@@ -141,6 +143,7 @@ pd_status pipe_mgr_mat_ent_set_action_by_match_spec(pd_sess_hdl sess, pd_dev_tar
                if (d == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
                if (pd_status s = check_key(*d, key)) return s;
                if (pd_status s = check_action(*d, fn, act, false)) return s;
+               if (pd_status s = check_ref(m, target.device_id, *d, fn, *act)) return s;
                MatchTable *t = m.tables.find(target.device_id, *d);
                const pd_entry_hdl hdl = t ? t->find(*key) : 0;
                if (hdl == 0) return ORBISK_MODEL_NO_SUCH_ENTRY;
@@ -331,6 +334,7 @@ pd_status pipe_mgr_mat_default_entry_set(pd_sess_hdl sess, pd_dev_target target,
                if (d == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
                if (entry_hdl == nullptr) return kBad;
                if (pd_status s = check_action(*d, fn, act, true)) return s;
+               if (pd_status s = check_ref(m, target.device_id, *d, fn, *act)) return s;
                m.tables.make(target.device_id, *d).default_action = DefaultAction::of(fn, *act);
                *entry_hdl = ORBISK_MODEL_DEFAULT_ENTRY_HDL;
                return kOk;

@@ -179,6 +179,18 @@ bool profile_handles(Model &m, uint32_t device_id, pd_tbl_hdl tbl, std::vector<u
   return true;
 }
 
+pd_status check_ref(Model &m, uint32_t device_id, const orbisk::pd::TableDesc &t, pd_act_fn_hdl fn,
+                    const pd_action_record &act) {
+  const bool mbr = act.record_kind == PD_RECORD_KIND_MEMBER_REF;
+  if (!t.indirect() || (!mbr && act.record_kind != PD_RECORD_KIND_GROUP_REF)) return kOk;
+  const ProfileDesc &d = *t.profile;
+  if (action_of(d, fn) == nullptr) return ORBISK_MODEL_NO_SUCH_ACTION;
+  const ProfileStore::Profile *p = m.profiles.find(device_id, d);
+  if (mbr && (p == nullptr || !p->members.count(act.member_hdl))) return ORBISK_MODEL_NO_SUCH_MEMBER;
+  if (!mbr && (p == nullptr || !p->groups.count(act.group_hdl))) return ORBISK_MODEL_NO_SUCH_GROUP;
+  return kOk;
+}
+
 }  // namespace orbisk_model
 
 extern "C" {

@@ -24,17 +24,39 @@
  *      spec], [meter spec], [ttl], out entry handle): adds an entry. A NULL
  *      meter spec ends the process; the index of a counter or meter cell goes
  *      to the driver as its low 16 bits.
+ *  <t>_add_entry(sess, target, match spec, [priority], member handle, out
+ *      entry handle): adds an entry that names a member.
+ *  <t>_add_entry_with_selector(sess, target, match spec, [priority], group
+ *      handle, out entry handle): adds an entry that names a group, written
+ *      with the group's action of the moment.
  *  <t>_table_modify_with_<a>(sess, device id, entry handle, [action spec],
  *      [meter spec]): replaces an entry's action and its data. A cell index
  *      goes whole; a NULL meter spec sends the meter's slot untagged.
+ *  <t>_modify_entry(sess, device id, entry handle, member handle): points an
+ *      entry at a member, whatever it named before.
  *  <t>_table_modify_with_<a>_by_match_spec(sess, target, match spec,
  *      [priority], [action spec], [meter spec]): the same for the entry with
  *      this key.
+ *  <t>_modify_entry_with_selector(sess, device id, entry handle, group
+ *      handle): points it at a group.
+ *  <t>_modify_entry_by_match_spec(sess, target, match spec, [priority],
+ *      member handle): the same by key, at a member.
+ *  <t>_modify_entry_with_selector_by_match_spec(sess, target, match spec,
+ *      [priority], group handle): the same by key, at a group.
+ *  <t>_set_default_entry(sess, target, member handle, out entry handle): the
+ *      default entry names a member.
  *  <t>_table_delete(sess, device id, entry handle): deletes an entry.
+ *  <t>_set_default_entry_with_selector(sess, target, group handle, out entry
+ *      handle): the default entry names a group.
  *  <t>_table_delete_by_match_spec(sess, target, match spec, [priority]):
  *      deletes the entry with this key.
  *  <t>_match_spec_to_entry_hdl(sess, target, match spec, [priority], out):
  *      finds the handle of the entry with this key.
+ *  <t>_get_entry(sess, device id, entry handle, read from hardware, [out
+ *      match spec], [out priority], out has-member, out has-group, out group
+ *      handle, out member handle, out is-default): reads an entry back across
+ *      all pipes: which member or group it names (flags member first, handles
+ *      group first); neither flag for anything else.
  *  <t>_get_entry(sess, device id, entry handle, read from hardware, [out
  *      match spec], [out priority], out action name or NULL, out action spec,
  *      out action enum or NULL, [out is-default]): reads an entry back across
@@ -6218,9 +6240,43 @@ void unbuild_mask_ipv6LgMaskFinalResolve0(const pd_match_record *key,
 typedef struct p4_pd_orbisk_switch_ecmpGroup_match_spec {
   uint16_t l3_nextHop;
 } p4_pd_orbisk_switch_ecmpGroup_match_spec_t;
+pd_status p4_pd_orbisk_switch_ecmpGroup_add_entry(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_ecmpGroup_match_spec_t *match_spec,
+    pd_mbr_hdl mbr_hdl,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_ecmpGroup_add_entry_with_selector(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_ecmpGroup_match_spec_t *match_spec,
+    pd_grp_hdl grp_hdl,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_ecmpGroup_modify_entry(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_ecmpGroup_modify_entry_with_selector(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_grp_hdl grp_hdl);
+pd_status p4_pd_orbisk_switch_ecmpGroup_modify_entry_by_match_spec(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_ecmpGroup_match_spec_t *match_spec,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_ecmpGroup_modify_entry_with_selector_by_match_spec(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_ecmpGroup_match_spec_t *match_spec,
+    pd_grp_hdl grp_hdl);
+pd_status p4_pd_orbisk_switch_ecmpGroup_set_default_entry(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl mbr_hdl,
+    pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_ecmpGroup_table_delete(pd_sess_hdl sess_hdl,
     uint32_t dev_id,
     pd_entry_hdl entry_hdl);
+pd_status p4_pd_orbisk_switch_ecmpGroup_set_default_entry_with_selector(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_grp_hdl grp_hdl,
+    pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_ecmpGroup_table_delete_by_match_spec(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt,
     const p4_pd_orbisk_switch_ecmpGroup_match_spec_t *match_spec);
@@ -6228,6 +6284,16 @@ pd_status p4_pd_orbisk_switch_ecmpGroup_match_spec_to_entry_hdl(pd_sess_hdl sess
     pd_dev_target dev_tgt,
     const p4_pd_orbisk_switch_ecmpGroup_match_spec_t *match_spec,
     pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_ecmpGroup_get_entry(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    p4_pd_orbisk_switch_ecmpGroup_match_spec_t *match_spec,
+    bool *has_mbr,
+    bool *has_grp,
+    pd_grp_hdl *grp_hdl,
+    pd_mbr_hdl *mbr_hdl,
+    bool *is_default);
 pd_status p4_pd_orbisk_switch_ecmpGroup_get_entry_count(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt,
     uint32_t *count);
@@ -6514,9 +6580,47 @@ typedef struct p4_pd_orbisk_switch_lagGroup_match_spec {
   uint32_t egrMd_egrL2AintfUnresolved;
   uint32_t egrMd_egrL2AintfUnresolved_mask;
 } p4_pd_orbisk_switch_lagGroup_match_spec_t;
+pd_status p4_pd_orbisk_switch_lagGroup_add_entry(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_lagGroup_match_spec_t *match_spec,
+    uint32_t priority,
+    pd_mbr_hdl mbr_hdl,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_lagGroup_add_entry_with_selector(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_lagGroup_match_spec_t *match_spec,
+    uint32_t priority,
+    pd_grp_hdl grp_hdl,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_lagGroup_modify_entry(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_lagGroup_modify_entry_with_selector(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_grp_hdl grp_hdl);
+pd_status p4_pd_orbisk_switch_lagGroup_modify_entry_by_match_spec(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_lagGroup_match_spec_t *match_spec,
+    uint32_t priority,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_lagGroup_modify_entry_with_selector_by_match_spec(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_lagGroup_match_spec_t *match_spec,
+    uint32_t priority,
+    pd_grp_hdl grp_hdl);
+pd_status p4_pd_orbisk_switch_lagGroup_set_default_entry(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl mbr_hdl,
+    pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_lagGroup_table_delete(pd_sess_hdl sess_hdl,
     uint32_t dev_id,
     pd_entry_hdl entry_hdl);
+pd_status p4_pd_orbisk_switch_lagGroup_set_default_entry_with_selector(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_grp_hdl grp_hdl,
+    pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_lagGroup_table_delete_by_match_spec(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt,
     const p4_pd_orbisk_switch_lagGroup_match_spec_t *match_spec,
@@ -6526,6 +6630,17 @@ pd_status p4_pd_orbisk_switch_lagGroup_match_spec_to_entry_hdl(pd_sess_hdl sess_
     const p4_pd_orbisk_switch_lagGroup_match_spec_t *match_spec,
     uint32_t priority,
     pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_lagGroup_get_entry(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    p4_pd_orbisk_switch_lagGroup_match_spec_t *match_spec,
+    uint32_t *priority,
+    bool *has_mbr,
+    bool *has_grp,
+    pd_grp_hdl *grp_hdl,
+    pd_mbr_hdl *mbr_hdl,
+    bool *is_default);
 pd_status p4_pd_orbisk_switch_lagGroup_get_entry_count(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt,
     uint32_t *count);
@@ -8721,9 +8836,43 @@ void unbuild_key_tunnelL2Info(const pd_match_record *key,
 typedef struct p4_pd_orbisk_switch_tunnelResolve_match_spec {
   uint16_t egrMd_tunnelNextHop;
 } p4_pd_orbisk_switch_tunnelResolve_match_spec_t;
+pd_status p4_pd_orbisk_switch_tunnelResolve_add_entry(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_tunnelResolve_match_spec_t *match_spec,
+    pd_mbr_hdl mbr_hdl,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_tunnelResolve_add_entry_with_selector(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_tunnelResolve_match_spec_t *match_spec,
+    pd_grp_hdl grp_hdl,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_tunnelResolve_modify_entry(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_tunnelResolve_modify_entry_with_selector(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_grp_hdl grp_hdl);
+pd_status p4_pd_orbisk_switch_tunnelResolve_modify_entry_by_match_spec(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_tunnelResolve_match_spec_t *match_spec,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_tunnelResolve_modify_entry_with_selector_by_match_spec(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_tunnelResolve_match_spec_t *match_spec,
+    pd_grp_hdl grp_hdl);
+pd_status p4_pd_orbisk_switch_tunnelResolve_set_default_entry(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl mbr_hdl,
+    pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_tunnelResolve_table_delete(pd_sess_hdl sess_hdl,
     uint32_t dev_id,
     pd_entry_hdl entry_hdl);
+pd_status p4_pd_orbisk_switch_tunnelResolve_set_default_entry_with_selector(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_grp_hdl grp_hdl,
+    pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_tunnelResolve_table_delete_by_match_spec(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt,
     const p4_pd_orbisk_switch_tunnelResolve_match_spec_t *match_spec);
@@ -8731,6 +8880,16 @@ pd_status p4_pd_orbisk_switch_tunnelResolve_match_spec_to_entry_hdl(pd_sess_hdl 
     pd_dev_target dev_tgt,
     const p4_pd_orbisk_switch_tunnelResolve_match_spec_t *match_spec,
     pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_tunnelResolve_get_entry(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    p4_pd_orbisk_switch_tunnelResolve_match_spec_t *match_spec,
+    bool *has_mbr,
+    bool *has_grp,
+    pd_grp_hdl *grp_hdl,
+    pd_mbr_hdl *mbr_hdl,
+    bool *is_default);
 pd_status p4_pd_orbisk_switch_tunnelResolve_get_entry_count(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt,
     uint32_t *count);
@@ -13200,9 +13359,43 @@ void unbuild_mask_ingressMirrorSession(const pd_match_record *key,
 typedef struct p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec {
   uint16_t ingMirrorMd_mirrorSession;
 } p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_t;
+pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_add_entry(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_t *match_spec,
+    pd_mbr_hdl mbr_hdl,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_add_entry_with_selector(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_t *match_spec,
+    pd_grp_hdl grp_hdl,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_modify_entry(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_modify_entry_with_selector(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_grp_hdl grp_hdl);
+pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_modify_entry_by_match_spec(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_t *match_spec,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_modify_entry_with_selector_by_match_spec(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_t *match_spec,
+    pd_grp_hdl grp_hdl);
+pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_set_default_entry(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl mbr_hdl,
+    pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_table_delete(pd_sess_hdl sess_hdl,
     uint32_t dev_id,
     pd_entry_hdl entry_hdl);
+pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_set_default_entry_with_selector(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_grp_hdl grp_hdl,
+    pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_table_delete_by_match_spec(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt,
     const p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_t *match_spec);
@@ -13210,6 +13403,16 @@ pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_to_entry_hdl(pd_s
     pd_dev_target dev_tgt,
     const p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_t *match_spec,
     pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_get_entry(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_t *match_spec,
+    bool *has_mbr,
+    bool *has_grp,
+    pd_grp_hdl *grp_hdl,
+    pd_mbr_hdl *mbr_hdl,
+    bool *is_default);
 pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_get_entry_count(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt,
     uint32_t *count);
@@ -13536,9 +13739,43 @@ void unbuild_mask_egressMirrorSession(const pd_match_record *key,
 typedef struct p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec {
   uint16_t egrMirrorMd_mirrorSession;
 } p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_t;
+pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_add_entry(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_t *match_spec,
+    pd_mbr_hdl mbr_hdl,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_add_entry_with_selector(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_t *match_spec,
+    pd_grp_hdl grp_hdl,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_modify_entry(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_modify_entry_with_selector(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_grp_hdl grp_hdl);
+pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_modify_entry_by_match_spec(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_t *match_spec,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_modify_entry_with_selector_by_match_spec(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_t *match_spec,
+    pd_grp_hdl grp_hdl);
+pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_set_default_entry(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl mbr_hdl,
+    pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_table_delete(pd_sess_hdl sess_hdl,
     uint32_t dev_id,
     pd_entry_hdl entry_hdl);
+pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_set_default_entry_with_selector(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_grp_hdl grp_hdl,
+    pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_table_delete_by_match_spec(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt,
     const p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_t *match_spec);
@@ -13546,6 +13783,16 @@ pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_to_entry_hdl(pd_se
     pd_dev_target dev_tgt,
     const p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_t *match_spec,
     pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_get_entry(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_t *match_spec,
+    bool *has_mbr,
+    bool *has_grp,
+    pd_grp_hdl *grp_hdl,
+    pd_mbr_hdl *mbr_hdl,
+    bool *is_default);
 pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_get_entry_count(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt,
     uint32_t *count);
@@ -16729,9 +16976,47 @@ typedef struct p4_pd_orbisk_switch_foldedPipeDest_match_spec {
   uint16_t ig_intr_md_ingress_port;
   uint16_t ig_intr_md_ingress_port_mask;
 } p4_pd_orbisk_switch_foldedPipeDest_match_spec_t;
+pd_status p4_pd_orbisk_switch_foldedPipeDest_add_entry(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_foldedPipeDest_match_spec_t *match_spec,
+    uint32_t priority,
+    pd_mbr_hdl mbr_hdl,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeDest_add_entry_with_selector(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_foldedPipeDest_match_spec_t *match_spec,
+    uint32_t priority,
+    pd_grp_hdl grp_hdl,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeDest_modify_entry(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeDest_modify_entry_with_selector(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_grp_hdl grp_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeDest_modify_entry_by_match_spec(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_foldedPipeDest_match_spec_t *match_spec,
+    uint32_t priority,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeDest_modify_entry_with_selector_by_match_spec(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_foldedPipeDest_match_spec_t *match_spec,
+    uint32_t priority,
+    pd_grp_hdl grp_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeDest_set_default_entry(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl mbr_hdl,
+    pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_foldedPipeDest_table_delete(pd_sess_hdl sess_hdl,
     uint32_t dev_id,
     pd_entry_hdl entry_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeDest_set_default_entry_with_selector(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_grp_hdl grp_hdl,
+    pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_foldedPipeDest_table_delete_by_match_spec(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt,
     const p4_pd_orbisk_switch_foldedPipeDest_match_spec_t *match_spec,
@@ -16741,6 +17026,17 @@ pd_status p4_pd_orbisk_switch_foldedPipeDest_match_spec_to_entry_hdl(pd_sess_hdl
     const p4_pd_orbisk_switch_foldedPipeDest_match_spec_t *match_spec,
     uint32_t priority,
     pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeDest_get_entry(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    p4_pd_orbisk_switch_foldedPipeDest_match_spec_t *match_spec,
+    uint32_t *priority,
+    bool *has_mbr,
+    bool *has_grp,
+    pd_grp_hdl *grp_hdl,
+    pd_mbr_hdl *mbr_hdl,
+    bool *is_default);
 pd_status p4_pd_orbisk_switch_foldedPipeDest_get_entry_count(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt,
     uint32_t *count);

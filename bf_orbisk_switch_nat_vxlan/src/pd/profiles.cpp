@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "assertions.h"
+#include "pd_limits.h"
 #include "reads.h"
 
 namespace orbisk::pd {
@@ -124,6 +125,42 @@ pd_status group_member_state_get(pd_tbl_hdl sel, pd_sess_hdl sess, uint32_t devi
       pipe_mgr_sel_grp_mbr_state_get(sess, device_id, sel, grp_hdl, mbr_hdl, &got);
   if (s != BF_SUCCESS) return s;
   if (got == P4_PD_GRP_MBR_STATE_ACTIVE || got == P4_PD_GRP_MBR_STATE_INACTIVE) *mbr_state = got;
+  return BF_SUCCESS;
+}
+
+pd_status read_indirect_entry(const TableDesc &t, pd_sess_hdl sess, uint32_t device_id,
+                              pd_entry_hdl entry_hdl, bool read_from_hw, const IndirectOut &out) {
+  uint8_t value[kMaxKeyBytes];
+  uint8_t mask[kMaxKeyBytes];
+  pd_match_record key;
+  zero_record(key);
+  std::memset(value, 0, t.key_bytes);
+  std::memset(mask, 0, t.key_bytes);
+  key.value_bytes = value;
+  key.mask_bytes = mask;
+  key.num_valid_bits = t.key_bits;
+  key.num_bytes = t.key_bytes;
+  // An entry that names a member or group has no action data: no room is offered.
+  pd_action_record act;
+  zero_record(act);
+  pd_act_fn_hdl fn = 0;
+  const pd_dev_target all_pipes{device_id, PD_DEV_PIPE_ALL};
+  const pd_status s = pipe_mgr_get_entry(sess, t.handle, all_pipes, entry_hdl, &key, &act, &fn,
+                                         read_from_hw, 1, 0);
+  if (s != BF_SUCCESS) return s;
+  *out.has_mbr = act.record_kind == PD_RECORD_KIND_MEMBER_REF;
+  *out.has_grp = act.record_kind == PD_RECORD_KIND_GROUP_REF;
+  if (*out.has_mbr) *out.mbr_hdl = act.member_hdl;
+  if (*out.has_grp) *out.grp_hdl = act.group_hdl;
+  // A default entry comes back without a key.
+  *out.is_default = key.value_bytes == nullptr || key.num_bytes == 0;
+  if (*out.is_default) {
+    std::memset(out.match_spec, 0, t.match_spec_size);
+  } else {
+    unbuild_key(t, &key, out.match_spec);
+    if (t.ternary() || t.prefix()) unbuild_mask(t, &key, out.match_spec);
+  }
+  if (out.priority) *out.priority = key.priority;
   return BF_SUCCESS;
 }
 

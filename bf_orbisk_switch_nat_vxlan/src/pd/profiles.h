@@ -86,6 +86,48 @@ pd_status group_member_state_set(pd_tbl_hdl sel, const char *function, pd_sess_h
 pd_status group_member_state_get(pd_tbl_hdl sel, pd_sess_hdl sess, uint32_t device_id,
                                  pd_grp_hdl grp_hdl, pd_mbr_hdl mbr_hdl, uint32_t *mbr_state);
 
+// ------------------------------------------------------ indirect entries ---
+
+// The action record of an entry that names a member (Group false) or a group,
+// and the action to write it with, read from the state. The resources the
+// state keeps for it are asked for and not used: no member of this program
+// carries any.
+template <bool Group>
+inline pd_status name_ref(pd_ms_state *state, uint32_t device_id, uint32_t hdl,
+                          pd_action_record &act, pd_act_fn_hdl &fn) {
+  zero_record(act);
+  uint32_t count = 0;
+  pd_resource_index *resources = nullptr;
+  if constexpr (Group) {
+    act.record_kind = PD_RECORD_KIND_GROUP_REF;
+    act.group_hdl = hdl;
+    if (pd_status s = p4_pd_ms_get_grp_act(state, device_id, hdl, &fn)) return s;
+    p4_pd_ms_grp_get_res(state, device_id, hdl, &count, &resources);
+  } else {
+    act.record_kind = PD_RECORD_KIND_MEMBER_REF;
+    act.member_hdl = hdl;
+    if (pd_status s = p4_pd_ms_get_mbr_act(state, device_id, hdl, &fn)) return s;
+    p4_pd_ms_mbr_get_res(state, device_id, hdl, &count, &resources);
+  }
+  return BF_SUCCESS;
+}
+
+// Where an indirect entry read puts what it found; priority is null unless
+// the table is ternary.
+struct IndirectOut {
+  void *match_spec;
+  uint32_t *priority;
+  bool *has_mbr;
+  bool *has_grp;
+  pd_grp_hdl *grp_hdl;
+  pd_mbr_hdl *mbr_hdl;
+  bool *is_default;
+};
+
+// get_entry of an indirect table, across all pipes; the state is not asked.
+pd_status read_indirect_entry(const TableDesc &t, pd_sess_hdl sess, uint32_t device_id,
+                              pd_entry_hdl entry_hdl, bool read_from_hw, const IndirectOut &out);
+
 // Stores a table handle where the pointer is not null; always success.
 inline pd_status table_handle(pd_tbl_hdl hdl, pd_tbl_hdl *out) {
   if (out) *out = hdl;
