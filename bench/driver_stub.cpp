@@ -358,4 +358,9 @@ pd_status p4_pd_ms_mbr_apply_to_grps(pd_ms_state *, uint32_t, pd_mbr_hdl, pd_ms_
 }
 pd_status p4_pd_ms_grp_update_res(uint32_t, pd_mbr_hdl, pd_grp_hdl, void *) { return BF_SUCCESS; }
 
+pd_status pipe_mgr_hitless_ha_restore_virtual_dev_state(pd_sess_hdl, uint32_t, uint32_t, void *,
+                                                        void *, pd_ha_restore_cb) {
+  return BF_SUCCESS;
+}
+
 }  // extern "C"

@@ -91,7 +91,8 @@ def main(lib, root):
                   "register_sel_update_cb"):
             add("groups", "%s%s_%s" % (P, p["name"], s))
     for s in ("init", "cleanup", "dev_remove", "dev_log", "dev_restore", "device_state_cleanup",
-              "action_enum_to_string", "action_string_to_enum"):
+              "action_enum_to_string", "action_string_to_enum", "restore_virtual_dev_state",
+              "ha_restore_state_from_adt_sel"):
         add("frame", P + s)
     add("objects", "bf_drv_hdl")
     add("objects", P + "action_name_strings")
@@ -104,7 +105,7 @@ def main(lib, root):
              "table_get_default_entry_handle": 154, "table_reset_default_entry": 154,
              "idle": 153, "set_property": 154, "get_property": 154, "get_mat_table_handle": 154,
              "register_mat_update_cb": 154,
-             "frame": 8, "objects": 2,
+             "frame": 10, "objects": 2,
              "add_member": 15, "modify_member": 15, "members": 42, "groups": 126,
              "indirect": 48, "indirect_get_entry": 6}
     failed = False

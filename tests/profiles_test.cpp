@@ -3,6 +3,7 @@
 // found by exported name, that read the model's call log for what the driver
 // and the member-selection state were handed, in which order, and what
 // happens after a refusal at each step.
+#include <cjson/cJSON.h>
 #include <dlfcn.h>
 
 #include <string>
@@ -761,6 +762,113 @@ TEST_F(IndirectEntries, EveryTableNamesMembersAndGroupsBothWaysAndReadsThemBack)
     EXPECT_EQ((Args{0, 0, 0xAAAA, 0xBBBB}), (Args{g.has_mbr, g.has_grp, g.grp, g.mbr}));
   }
   EXPECT_EQ(6u, tables);
+}
+
+// -------------------------------------------------- device state and restarts ---
+
+// What the library's device log writes for a device, as text.
+std::string logged(uint32_t device) {
+  cJSON *doc = cJSON_CreateObject();
+  EXPECT_EQ(BF_SUCCESS, p4_pd_orbisk_switch_dev_log(device, doc));
+  char *text = cJSON_PrintUnformatted(doc);
+  std::string out = text;
+  cJSON_free(text);
+  cJSON_Delete(doc);
+  return out;
+}
+
+using Restarts = OnModel;
+
+// Every profile with members of two actions and a group holding two of them,
+// one turned off: the states come back exactly, from the saved document and
+// from the driver's replay, and the member stays off in the driver.
+TEST_F(Restarts, EveryProfileComesBackFromItsLogAndFromTheDriversReplay) {
+  std::vector<Fixture> made;
+  for (std::size_t i = 0; i < kNumProfiles; ++i) {
+    const ProfileDesc &p = kProfiles[i];
+    made.emplace_back(p, 2);
+    Fixture &f = made.back();
+    pd_mbr_hdl last = 0;
+    const TableActionDesc &a = p.actions[p.num_actions - 1];
+    ASSERT_EQ(BF_SUCCESS, add_member(p, a, Spec(*a.action, {}), &last));
+    f.mbrs.push_back(last);
+    ASSERT_EQ(BF_SUCCESS, f.join(f.mbrs[1]));
+    ASSERT_EQ(BF_SUCCESS, f.join(f.mbrs[0]));
+    ASSERT_EQ(BF_SUCCESS, sym<StateSet>(p, "group_member_state_set")(7, kDev, f.grp, f.mbrs[1], 1));
+  }
+  const std::string before = logged(kDev);
+  EXPECT_NE(std::string::npos, before.find("\"mbrs\":[" + std::to_string(made[3].mbrs[1]) + "," +
+                                           std::to_string(made[3].mbrs[0]) + "]"));
+  cJSON *doc = cJSON_Parse(before.c_str());
+  auto emptied = [&] {
+    ASSERT_EQ(BF_SUCCESS, p4_pd_orbisk_switch_dev_remove(kDev));
+    for (const Fixture &f : made) {
+      EXPECT_EQ(0u, orbisk_model_ms_member_count(f.state, kDev) + orbisk_model_ms_group_count(f.state, kDev));
+    }
+  };
+  emptied();
+  ASSERT_EQ(BF_SUCCESS, p4_pd_orbisk_switch_dev_restore(kDev, doc));
+  EXPECT_EQ(before, logged(kDev));
+  cJSON_Delete(doc);
+
+  emptied();
+  orbisk_model_clear_calls();
+  ASSERT_EQ(BF_SUCCESS, p4_pd_orbisk_switch_restore_virtual_dev_state(7, kDev, 1, &made, nullptr));
+  EXPECT_EQ((Args{7, kDev, 1, addr(&made), 0, uint64_t(reinterpret_cast<uintptr_t>(&p4_pd_orbisk_switch_ha_restore_state_from_adt_sel))}),
+            last("pipe_mgr_hitless_ha_restore_virtual_dev_state").args);
+  EXPECT_EQ(before, logged(kDev));
+  // Three members and two memberships a profile hand their resources on.
+  EXPECT_EQ(6u * 5, calls_of("p4_pd_ms_mbr_apply_to_grps"));
+  EXPECT_EQ(6u * 2, calls_of("p4_pd_ms_grp_update_res"));
+  for (const Fixture &f : made) {
+    uint32_t on = 9;
+    ASSERT_EQ(BF_SUCCESS, sym<StateGet>(f.p, "group_member_state_get")(7, kDev, f.grp, f.mbrs[1], &on));
+    EXPECT_EQ(P4_PD_GRP_MBR_STATE_INACTIVE, on);
+  }
+}
+
+TEST_F(Restarts, EachReplayedItemMakesTheLivePathsStateCalls) {
+  using Restore = void (*)(pd_sess_hdl, uint32_t, pd_tbl_hdl, pd_act_fn_hdl, pd_grp_hdl, pd_mbr_hdl, uint32_t);
+  const Restore restore = &p4_pd_orbisk_switch_ha_restore_state_from_adt_sel;
+  for (std::size_t i = 0; i < kNumProfiles; ++i) {
+    const ProfileDesc &p = kProfiles[i];
+    SCOPED_TRACE(p.name);
+    orbisk_model_reset();
+    const uint64_t st = addr(state_of(p));
+    const pd_act_fn_hdl act = p.actions[0].handle, alien = kProfiles[(i + 1) % kNumProfiles].actions[0].handle;
+    const pd_mbr_hdl M = 0x31;
+    const pd_grp_hdl G = 0x42;
+    struct Case {
+      pd_tbl_hdl tbl;
+      pd_act_fn_hdl fn;
+      pd_grp_hdl grp;
+      pd_mbr_hdl mbr;
+      uint32_t flags;
+      Names calls;
+    };
+    const Case cases[] = {
+        {p.sel_hdl, act, 0, M, 1, {}},  // not an action data table
+        {p.adt_hdl, act, 0, M, 1, {"p4_pd_ms_new_mbr", "p4_pd_ms_set_mbr_act", "p4_pd_ms_mbr_apply_to_grps"}},
+        {p.adt_hdl, 0, G, 0, 1, {"p4_pd_ms_new_grp"}},
+        {p.adt_hdl, act, G, M, 0, {"p4_pd_ms_add_mbr_to_grp", "p4_pd_ms_get_mbr_act", "p4_pd_ms_set_grp_act"}},
+        {p.adt_hdl, alien, G, M, 1,
+         {"p4_pd_ms_add_mbr_to_grp", "p4_pd_ms_get_mbr_act", "p4_pd_ms_set_grp_act"}},
+        {p.adt_hdl, act, 0, 0, 1, {"p4_pd_ms_mbr_apply_to_grps"}},
+        {p.adt_hdl, act, G, M + 1, 1, {"p4_pd_ms_add_mbr_to_grp", "p4_pd_ms_get_mbr_act"}},  // unknown member
+    };
+    for (const Case &c : cases) {
+      const size_t mark = orbisk_model_call_count();
+      restore(7, kDev, c.tbl, c.fn, c.grp, c.mbr, c.flags);
+      EXPECT_EQ(c.calls, calls_since(mark)) << c.fn << " " << c.grp << " " << c.mbr;
+    }
+    EXPECT_EQ((Args{7, st, kDev, M}), last("p4_pd_ms_new_mbr").args);
+    EXPECT_EQ((Args{st, kDev, M, act}), last("p4_pd_ms_set_mbr_act").args);
+    EXPECT_EQ((Args{7, st, kDev, G}), last("p4_pd_ms_new_grp").args);
+    // The group takes the member's recorded action, not the one replayed.
+    EXPECT_EQ((Args{st, kDev, G, act}), last("p4_pd_ms_set_grp_act").args);
+    EXPECT_EQ((Args{st, kDev, 0, uint64_t(reinterpret_cast<uintptr_t>(&p4_pd_ms_grp_update_res)), st}),
+              last("p4_pd_ms_mbr_apply_to_grps").args);
+  }
 }
 
 }  // namespace

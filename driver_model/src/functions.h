@@ -79,7 +79,8 @@
   X(p4_pd_ms_set_grp_act)                      \
   X(p4_pd_ms_grp_get_res)                      \
   X(p4_pd_ms_mbr_apply_to_grps)                \
-  X(p4_pd_ms_grp_update_res)
+  X(p4_pd_ms_grp_update_res)                   \
+  X(pipe_mgr_hitless_ha_restore_virtual_dev_state)
 
 namespace orbisk_model {
 

@@ -596,6 +596,39 @@ pd_status pipe_register_sel_update_cb(pd_sess_hdl sess, uint32_t device_id, pd_t
              });
 }
 
+// ------------------------------------------------------- hitless restore ---
+
+pd_status pipe_mgr_hitless_ha_restore_virtual_dev_state(pd_sess_hdl sess, uint32_t device_id,
+                                                        uint32_t restore_flags, void *driver_state,
+                                                        void *reserved,
+                                                        pd_ha_restore_cb callback) {
+  return run(Fn::pipe_mgr_hitless_ha_restore_virtual_dev_state,
+             {arg(sess), arg(device_id), arg(restore_flags), arg(driver_state), arg(reserved),
+              arg(callback)},
+             [&](Model &m) {
+               if (callback == nullptr) return kBad;
+               // Profile by profile: the members, then the groups, then each
+               // group's members in the order they joined. The callback calls
+               // back in, so it runs once the lock is released.
+               for (std::size_t i = 0; i < kNumProfiles; ++i) {
+                 const ProfileDesc &d = kProfiles[i];
+                 const ProfileStore::Profile *p = m.profiles.find(device_id, d);
+                 if (p == nullptr) continue;
+                 auto item = [&](pd_act_fn_hdl fn, pd_grp_hdl grp, pd_mbr_hdl mbr) {
+                   m.notifications.push_back([=, adt = d.adt_hdl] {
+                     callback(sess, device_id, adt, fn, grp, mbr, restore_flags);
+                   });
+                 };
+                 for (const auto &[mbr, x] : p->members) item(x.fn, 0, mbr);
+                 for (const auto &[grp, g] : p->groups) item(0, grp, 0);
+                 for (const auto &[grp, g] : p->groups) {
+                   for (const auto &x : g.members) item(p->members.at(x.mbr).fn, grp, x.mbr);
+                 }
+               }
+               return kOk;
+             });
+}
+
 // ------------------------------------------------------------ controls ---
 
 size_t orbisk_model_member_count(uint32_t device_id, pd_tbl_hdl adt) {

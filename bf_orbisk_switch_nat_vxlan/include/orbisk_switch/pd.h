@@ -1474,6 +1474,20 @@ pd_status p4_pd_orbisk_switch_dev_restore(uint32_t device_id,
     void *cjson_object);
 /* Nothing to release: kept for agents that call it. */
 void p4_pd_orbisk_switch_device_state_cleanup(void);
+/* After a hitless restart: has the driver replay every member, group and membership it holds into ha_restore_state_from_adt_sel. */
+pd_status p4_pd_orbisk_switch_restore_virtual_dev_state(pd_sess_hdl sess_hdl,
+    uint32_t device_id,
+    uint32_t restore_flags,
+    void *driver_state,
+    void *reserved);
+/* Rebuilds one member, group or membership in its profile's member-selection state; a table of no profile is passed over. */
+void p4_pd_orbisk_switch_ha_restore_state_from_adt_sel(pd_sess_hdl sess_hdl,
+    uint32_t device_id,
+    pd_tbl_hdl adt_hdl,
+    pd_act_fn_hdl act_fn_hdl,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t flags);
 /* Full name of an action; NULL past the last. */
 const char * p4_pd_orbisk_switch_action_enum_to_string(uint32_t action);
 /* Action of a full name; P4_PD_ORBISK_SWITCH_ACTION_COUNT for none. */

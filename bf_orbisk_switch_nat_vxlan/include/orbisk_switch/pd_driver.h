@@ -209,6 +209,15 @@ pd_status p4_pd_ms_mbr_apply_to_grps(pd_ms_state *state, uint32_t device_id, pd_
 pd_status p4_pd_ms_grp_update_res(uint32_t device_id, pd_mbr_hdl mbr_hdl, pd_grp_hdl grp_hdl,
                                   void *aux);
 
+/* Hitless restore: the driver replays, through the callback, every member,
+ * group and membership of the device's action data and selector tables as
+ * the hardware holds them. restore_flags is handed to each item; driver_state
+ * and reserved are the driver's own. */
+pd_status pipe_mgr_hitless_ha_restore_virtual_dev_state(pd_sess_hdl sess, uint32_t device_id,
+                                                        uint32_t restore_flags, void *driver_state,
+                                                        void *reserved,
+                                                        pd_ha_restore_cb callback);
+
 #ifdef __cplusplus
 }
 #endif

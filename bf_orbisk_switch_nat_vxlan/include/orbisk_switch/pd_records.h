@@ -198,6 +198,12 @@ typedef void (*pd_sel_update_cb)(uint32_t device_id, pd_tbl_hdl sel, pd_grp_hdl 
  * member (p4_pd_ms_mbr_apply_to_grps); aux is given through unchanged. */
 typedef pd_status (*pd_ms_grp_fn)(uint32_t device_id, pd_mbr_hdl mbr_hdl, pd_grp_hdl grp_hdl,
                                   void *aux);
+/* One item of a hitless restore: a member (grp_hdl 0), a group (mbr_hdl 0) or
+ * a member of a group, of the profile whose action data table is adt, with
+ * the member's action; flags is the restore's flag word. */
+typedef void (*pd_ha_restore_cb)(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl adt,
+                                 pd_act_fn_hdl fn, pd_grp_hdl grp_hdl, pd_mbr_hdl mbr_hdl,
+                                 uint32_t flags);
 
 #ifdef __cplusplus
 }
