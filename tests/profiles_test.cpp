@@ -760,6 +760,10 @@ TEST_F(IndirectEntries, EveryTableNamesMembersAndGroupsBothWaysAndReadsThemBack)
     orbisk_model_quirk_next_read(PD_RECORD_KIND_DIRECT, -1);
     g = x.get(e, back);
     EXPECT_EQ((Args{0, 0, 0xAAAA, 0xBBBB}), (Args{g.has_mbr, g.has_grp, g.grp, g.mbr}));
+    // Once no entry names it, the group can go.
+    using Delete = pd_status (*)(pd_sess_hdl, uint32_t, pd_entry_hdl);
+    ASSERT_EQ(BF_SUCCESS, sym<Delete>(std::string(t.name) + "_table_delete")(7, kDev, e));
+    EXPECT_EQ(BF_SUCCESS, f.del_group());
   }
   EXPECT_EQ(6u, tables);
 }

@@ -145,9 +145,11 @@ def emit(prog):
         fns = families.profile_functions(p)
         if not fns:
             continue
-        o.append("/* %s: action data table 0x%08x, selector table 0x%08x; entries of %s name its"
-                 % (p.name, p.adt, p.sel, p.match_table))
-        o.append(" * members and groups. Actions: %s. */" % ", ".join(a.name for a in p.actions))
+        o.append("/* %s: action data table 0x%08x, selector table 0x%08x;"
+                 % (p.name, p.adt, p.sel))
+        o.append(" * entries of %s name its members and groups." % p.match_table)
+        o += textwrap.wrap("Actions: %s. */" % ", ".join(a.name for a in p.actions), 78,
+                           initial_indent=" * ", subsequent_indent=" * ")
         for f in fns:
             o.append(f.proto() + ";")
         o.append("")

@@ -17279,8 +17279,9 @@ void unbuild_key_foldedPipeCounters(const pd_match_record *key,
 /* Action profiles: members, selector groups */
 /* ================================================================== */
 
-/* egrMirrorLagPortActionProfile: action data table 0x02000026, selector table 0x03000003; entries of egressMirrorLagGroup name its
- * members and groups. Actions: setEgrLagMemberSelector, NoAction. */
+/* egrMirrorLagPortActionProfile: action data table 0x02000026, selector table 0x03000003;
+ * entries of egressMirrorLagGroup name its members and groups.
+ * Actions: setEgrLagMemberSelector, NoAction. */
 pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_add_member_with_setEgrLagMemberSelector(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt,
     const p4_pd_orbisk_switch_setEgrLagMemberSelector_action_spec_t *action_spec,
@@ -17402,8 +17403,9 @@ pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_register_sel_update_
     pd_sel_update_cb callback,
     void *cookie);
 
-/* mirrorLagPortActionProfile: action data table 0x0200001d, selector table 0x03000001; entries of ingressMirrorLagGroup name its
- * members and groups. Actions: setLagMemberSelector, NoAction. */
+/* mirrorLagPortActionProfile: action data table 0x0200001d, selector table 0x03000001;
+ * entries of ingressMirrorLagGroup name its members and groups.
+ * Actions: setLagMemberSelector, NoAction. */
 pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_add_member_with_setLagMemberSelector(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt,
     const p4_pd_orbisk_switch_setLagMemberSelector_action_spec_t *action_spec,
@@ -17525,8 +17527,9 @@ pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_register_sel_update_cb(
     pd_sel_update_cb callback,
     void *cookie);
 
-/* foldedPipeActionProfile: action data table 0x02000021, selector table 0x03000002; entries of foldedPipeDest name its
- * members and groups. Actions: setFoldedPipePort, NoAction. */
+/* foldedPipeActionProfile: action data table 0x02000021, selector table 0x03000002;
+ * entries of foldedPipeDest name its members and groups.
+ * Actions: setFoldedPipePort, NoAction. */
 pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_add_member_with_setFoldedPipePort(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt,
     const p4_pd_orbisk_switch_setFoldedPipePort_action_spec_t *action_spec,
@@ -17648,8 +17651,9 @@ pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_register_sel_update_cb(pd_
     pd_sel_update_cb callback,
     void *cookie);
 
-/* ecmpMemberActionProfile: action data table 0x12010003, selector table 0x13010001; entries of ecmpGroup name its
- * members and groups. Actions: setEcmpNextHop, NoAction. */
+/* ecmpMemberActionProfile: action data table 0x12010003, selector table 0x13010001;
+ * entries of ecmpGroup name its members and groups.
+ * Actions: setEcmpNextHop, NoAction. */
 pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_add_member_with_setEcmpNextHop(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt,
     const p4_pd_orbisk_switch_setEcmpNextHop_action_spec_t *action_spec,
@@ -17771,8 +17775,9 @@ pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_register_sel_update_cb(pd_
     pd_sel_update_cb callback,
     void *cookie);
 
-/* tunnelMemberActionProfile: action data table 0x1201000c, selector table 0x13010002; entries of tunnelResolve name its
- * members and groups. Actions: setTunnelEgressInfo, NoAction. */
+/* tunnelMemberActionProfile: action data table 0x1201000c, selector table 0x13010002;
+ * entries of tunnelResolve name its members and groups.
+ * Actions: setTunnelEgressInfo, NoAction. */
 pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_add_member_with_setTunnelEgressInfo(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt,
     const p4_pd_orbisk_switch_setTunnelEgressInfo_action_spec_t *action_spec,
@@ -17894,8 +17899,10 @@ pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_register_sel_update_cb(p
     pd_sel_update_cb callback,
     void *cookie);
 
-/* lagPortActionProfile: action data table 0x1201000e, selector table 0x13010003; entries of lagGroup name its
- * members and groups. Actions: setLagPort, setPhysicalPort, setTunnelInfo, invalidateUcastEgressPort, fixL2SubintfAlignment. */
+/* lagPortActionProfile: action data table 0x1201000e, selector table 0x13010003;
+ * entries of lagGroup name its members and groups.
+ * Actions: setLagPort, setPhysicalPort, setTunnelInfo,
+ * invalidateUcastEgressPort, fixL2SubintfAlignment. */
 pd_status p4_pd_orbisk_switch_lagPortActionProfile_add_member_with_setLagPort(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt,
     const p4_pd_orbisk_switch_setLagPort_action_spec_t *action_spec,
