@@ -875,4 +875,51 @@ TEST_F(Restarts, EachReplayedItemMakesTheLivePathsStateCalls) {
   }
 }
 
+// The model's refusals of load-balancing input: each its own status, and the
+// driver's tables and the state as they were.
+TEST_F(Groups, TheModelRefusesWhatNoDriverCouldHoldAndChangesNothing) {
+  const ProfileDesc &ecmp = profile("ecmpMemberActionProfile"), &lag = profile("lagPortActionProfile");
+  Fixture e(ecmp, 2), l(lag, 1);
+  ASSERT_EQ(BF_SUCCESS, e.join(e.mbrs[0]));
+  const pd_act_fn_hdl lag_fn = lag.actions[0].handle, ecmp_fn = ecmp.actions[0].handle;
+  pd_grp_hdl grp = 0;
+  struct Refusal {
+    const char *what;
+    pd_status want;
+    pd_status got;
+  };
+  const Refusal refusals[] = {
+      {"another profile's member", ORBISK_MODEL_NO_SUCH_MEMBER,
+       pipe_mgr_sel_grp_mbr_add(7, kDev, ecmp.sel_hdl, e.grp, lag_fn, l.mbrs[0], 0)},
+      {"another profile's group", ORBISK_MODEL_NO_SUCH_GROUP,
+       pipe_mgr_sel_grp_mbr_add(7, kDev, lag.sel_hdl, e.grp, lag_fn, l.mbrs[0], 0)},
+      {"a member under another action", ORBISK_MODEL_NO_SUCH_ACTION,
+       pipe_mgr_sel_grp_mbr_add(7, kDev, ecmp.sel_hdl, e.grp, ecmp.actions[1].handle, e.mbrs[1], 0)},
+      {"a member the group does not hold", ORBISK_MODEL_NOT_IN_GROUP,
+       pipe_mgr_sel_grp_mbr_del(7, kDev, ecmp.sel_hdl, e.grp, e.mbrs[1], 0)},
+      {"a group of no size", ORBISK_MODEL_BAD_RECORD,
+       pipe_mgr_sel_grp_add(7, {kDev, 0}, ecmp.sel_hdl, 0, 0, 0, &grp, 0)},
+      {"a match table as a profile", ORBISK_MODEL_NO_SUCH_TABLE,
+       pipe_mgr_sel_grp_add(7, {kDev, 0}, table("ecmpGroup").handle, 0, 4, 0, &grp, 0)},
+      {"a member of a device without it", ORBISK_MODEL_NO_SUCH_MEMBER,
+       pipe_mgr_adt_ent_del(7, kDev + 1, ecmp.adt_hdl, e.mbrs[1], 0)},
+      {"a member in a group", ORBISK_MODEL_MEMBER_IN_USE, pipe_mgr_adt_ent_del(7, kDev, ecmp.adt_hdl, e.mbrs[0], 0)},
+      {"the state: a member it does not hold", ORBISK_MODEL_NO_SUCH_MEMBER,
+       p4_pd_ms_add_mbr_to_grp(7, e.state, kDev, l.mbrs[0], e.grp)},
+      {"the state: a member twice", ORBISK_MODEL_MEMBER_IN_GROUP,
+       p4_pd_ms_add_mbr_to_grp(7, e.state, kDev, e.mbrs[0], e.grp)},
+  };
+  for (const Refusal &r : refusals) EXPECT_EQ(r.want, r.got) << r.what;
+  EXPECT_EQ(0u, grp);  // refused adds leave the out place alone
+  EXPECT_EQ((Args{2, 1, 1, 2, 1}),
+            (Args{orbisk_model_member_count(kDev, ecmp.adt_hdl), orbisk_model_group_count(kDev, ecmp.sel_hdl),
+                  orbisk_model_member_count(kDev, lag.adt_hdl), orbisk_model_ms_member_count(e.state, kDev),
+                  orbisk_model_ms_group_count(e.state, kDev)}));
+  // A saved document whose group names a member the state would not hold.
+  cJSON *doc = cJSON_Parse(R"({"members":[{"mbr":1,"act":1}],"groups":[{"grp":2,"act":1,"mbrs":[3]}]})");
+  EXPECT_EQ(ORBISK_MODEL_BAD_RECORD, p4_pd_ms_restore_state(kDev, e.state, doc));
+  cJSON_Delete(doc);
+  EXPECT_EQ(ecmp_fn, orbisk_model_ms_member_action(e.state, kDev, e.mbrs[0]));
+}
+
 }  // namespace
