@@ -171,6 +171,71 @@ BENCH_OUT_OF_LINE pd_status reference_meter_set_stormControlMeter(pd_sess_hdl se
   return pipe_mgr_mat_ent_set_resource(sess, dev_id, 0x01000030u, entry_hdl, &rec, 1, 0);
 }
 
+
+// The three load-balancing hot paths written out by hand in the same way:
+// the records and the state calls a caller must make, nothing else.
+pd_ms_state *g_ecmp_state = nullptr;  // the stub's state, as init gets it
+
+BENCH_OUT_OF_LINE pd_status reference_ecmp_add_member_setEcmpNextHop(
+    pd_sess_hdl sess, pd_dev_target tgt, const p4_pd_orbisk_switch_setEcmpNextHop_action_spec_t *as,
+    pd_mbr_hdl *mbr_hdl) {
+  uint8_t data[5];
+  data[0] = as->action_nextHopTable;
+  data[1] = uint8_t(as->action_nextHop >> 24);
+  data[2] = uint8_t(as->action_nextHop >> 16);
+  data[3] = uint8_t(as->action_nextHop >> 8);
+  data[4] = uint8_t(as->action_nextHop);
+  pd_action_record act;
+  std::memset(&act, 0, sizeof act);
+  act.num_valid_bits = 40;
+  act.num_bytes = 5;
+  act.data_bytes = data;
+  pd_status s = pipe_mgr_adt_ent_add(sess, tgt, 0x12010003u, 0x30000018u, 0, &act, mbr_hdl, 0);
+  if (s != BF_SUCCESS) return s;
+  p4_pd_ms_new_mbr(sess, g_ecmp_state, tgt.device_id, *mbr_hdl);
+  p4_pd_ms_set_mbr_act(g_ecmp_state, tgt.device_id, *mbr_hdl, 0x30000018u);
+  return s;
+}
+
+BENCH_OUT_OF_LINE pd_status reference_ecmpGroup_add_entry_with_selector(
+    pd_sess_hdl sess, pd_dev_target tgt, const p4_pd_orbisk_switch_ecmpGroup_match_spec_t *ms,
+    pd_grp_hdl grp, pd_entry_hdl *entry_hdl) {
+  uint8_t value[2];
+  uint8_t mask[2];
+  value[0] = uint8_t(ms->l3_nextHop >> 8);
+  value[1] = uint8_t(ms->l3_nextHop);
+  mask[0] = 0xFF;
+  mask[1] = 0xFF;
+  pd_match_record key;
+  key.value_bytes = value;
+  key.mask_bytes = mask;
+  key.partition_index = 0;
+  key.priority = 0;
+  key.num_valid_bits = 15;
+  key.num_bytes = 2;
+  key.reserved = 0;
+  pd_action_record act;
+  std::memset(&act, 0, sizeof act);
+  act.record_kind = PD_RECORD_KIND_GROUP_REF;
+  act.group_hdl = grp;
+  pd_act_fn_hdl fn;
+  if (pd_status s = p4_pd_ms_get_grp_act(g_ecmp_state, tgt.device_id, grp, &fn)) return s;
+  uint32_t count;
+  pd_resource_index *res;
+  p4_pd_ms_grp_get_res(g_ecmp_state, tgt.device_id, grp, &count, &res);
+  return pipe_mgr_mat_ent_add(sess, tgt, 0x1101000du, &key, fn, &act, 0, 0, entry_hdl);
+}
+
+BENCH_OUT_OF_LINE pd_status reference_ecmp_add_member_to_group(pd_sess_hdl sess, uint32_t dev,
+                                                               pd_grp_hdl grp, pd_mbr_hdl mbr) {
+  pd_act_fn_hdl fn;
+  if (pd_status s = p4_pd_ms_get_mbr_act(g_ecmp_state, dev, mbr, &fn)) return s;
+  if (pd_status s = pipe_mgr_sel_grp_mbr_add(sess, dev, 0x13010001u, grp, fn, mbr, 0)) return s;
+  p4_pd_ms_add_mbr_to_grp(sess, g_ecmp_state, dev, mbr, grp);
+  p4_pd_ms_set_grp_act(g_ecmp_state, dev, grp, fn);
+  return BF_SUCCESS;
+}
+
 }  // namespace orbisk_bench
 
 namespace {
@@ -366,6 +431,71 @@ pd_status case_meter_set_reference(uint32_t i) {
   return orbisk_bench::reference_meter_set_stormControlMeter(kSess, 0, hdl, &m);
 }
 
+// Load balancing: a member add, an entry naming a group, a member joining a
+// group; each beside its reference.
+pd_status case_ecmp_add_member(uint32_t i) {
+  p4_pd_orbisk_switch_setEcmpNextHop_action_spec_t as;
+  as.action_nextHopTable = uint8_t(i);
+  as.action_nextHop = 0x1000u + i;
+  pd_mbr_hdl mbr = 0;
+  benchmark::DoNotOptimize(as);
+  pd_status s = p4_pd_orbisk_switch_ecmpMemberActionProfile_add_member_with_setEcmpNextHop(
+      kSess, kTarget, &as, &mbr);
+  benchmark::DoNotOptimize(mbr);
+  return s;
+}
+
+pd_status case_ecmp_add_member_reference(uint32_t i) {
+  p4_pd_orbisk_switch_setEcmpNextHop_action_spec_t as;
+  as.action_nextHopTable = uint8_t(i);
+  as.action_nextHop = 0x1000u + i;
+  pd_mbr_hdl mbr = 0;
+  benchmark::DoNotOptimize(as);
+  pd_status s = orbisk_bench::reference_ecmp_add_member_setEcmpNextHop(kSess, kTarget, &as, &mbr);
+  benchmark::DoNotOptimize(mbr);
+  return s;
+}
+
+pd_status case_ecmpGroup_add_entry_with_selector(uint32_t i) {
+  p4_pd_orbisk_switch_ecmpGroup_match_spec_t ms;
+  ms.l3_nextHop = uint16_t(i & 0x7FFFu);
+  pd_grp_hdl grp = 1 + (i & 0xFu);
+  pd_entry_hdl hdl = 0;
+  benchmark::DoNotOptimize(ms);
+  benchmark::DoNotOptimize(grp);
+  pd_status s = p4_pd_orbisk_switch_ecmpGroup_add_entry_with_selector(kSess, kTarget, &ms, grp, &hdl);
+  benchmark::DoNotOptimize(hdl);
+  return s;
+}
+
+pd_status case_ecmpGroup_add_entry_with_selector_reference(uint32_t i) {
+  p4_pd_orbisk_switch_ecmpGroup_match_spec_t ms;
+  ms.l3_nextHop = uint16_t(i & 0x7FFFu);
+  pd_grp_hdl grp = 1 + (i & 0xFu);
+  pd_entry_hdl hdl = 0;
+  benchmark::DoNotOptimize(ms);
+  benchmark::DoNotOptimize(grp);
+  pd_status s = orbisk_bench::reference_ecmpGroup_add_entry_with_selector(kSess, kTarget, &ms, grp, &hdl);
+  benchmark::DoNotOptimize(hdl);
+  return s;
+}
+
+pd_status case_ecmp_add_member_to_group(uint32_t i) {
+  pd_grp_hdl grp = 1 + (i & 0xFu);
+  pd_mbr_hdl mbr = 1 + i;
+  benchmark::DoNotOptimize(grp);
+  benchmark::DoNotOptimize(mbr);
+  return p4_pd_orbisk_switch_ecmpMemberActionProfile_add_member_to_group(kSess, 0, grp, mbr);
+}
+
+pd_status case_ecmp_add_member_to_group_reference(uint32_t i) {
+  pd_grp_hdl grp = 1 + (i & 0xFu);
+  pd_mbr_hdl mbr = 1 + i;
+  benchmark::DoNotOptimize(grp);
+  benchmark::DoNotOptimize(mbr);
+  return orbisk_bench::reference_ecmp_add_member_to_group(kSess, 0, grp, mbr);
+}
+
 // A flow's five fields, hashed: protocol, source and destination address,
 // source and destination port, 104 bits in all.
 constexpr uint32_t kFlowWidths[5] = {8, 32, 32, 16, 16};
@@ -467,6 +597,12 @@ constexpr Case kCases[] = {
     make_case<case_counter_read_reference>("counter_read_l2DmacClassifyCount_reference", "resource"),
     make_case<case_meter_set>("meter_set_stormControlMeter", "resource"),
     make_case<case_meter_set_reference>("meter_set_stormControlMeter_reference", "resource"),
+    make_case<case_ecmp_add_member>("ecmp_add_member", "write"),
+    make_case<case_ecmp_add_member_reference>("ecmp_add_member_reference", "write"),
+    make_case<case_ecmpGroup_add_entry_with_selector>("ecmpGroup_add_sel", "write"),
+    make_case<case_ecmpGroup_add_entry_with_selector_reference>("ecmpGroup_add_sel_reference", "write"),
+    make_case<case_ecmp_add_member_to_group>("ecmp_add_to_group", "write"),
+    make_case<case_ecmp_add_member_to_group_reference>("ecmp_add_to_group_reference", "write"),
     make_case<case_hash_5_fields>("calculate_hash_value_5_fields", "hash"),
     make_case<case_hash_5_fields_reference>("calculate_hash_value_5_fields_reference", "hash"),
 };
@@ -523,6 +659,9 @@ int loop_main(const char *argv0, const char *name, const char *count) {
 }  // namespace
 
 int main(int argc, char **argv) {
+  // The profiles' states are set up as an agent's would be.
+  p4_pd_orbisk_switch_init();
+  orbisk_bench::g_ecmp_state = p4_pd_ms_init_state();
   if (!read_path_decodes()) {
     std::fprintf(stderr, "%s: l2Lookup get_entry does not decode the driver's answer\n", argv[0]);
     return 1;

@@ -20,8 +20,13 @@ COLLECTED = re.compile(r"^==\d+== Collected : (\d+)$", re.M)
 HEAP_USAGE = re.compile(r"total heap usage: ([\d,]+) allocs")
 LOOP_LINE = re.compile(r"^case (\S+) calls (\d+) allocations (\S+) failures (\d+)$", re.M)
 
-REFERENCE = "l2Lookup_add_reference"
-LIBRARY = "l2Lookup_add"
+# Each library case beside its hand-written reference.
+PAIRS = [("l2Lookup_add", "l2Lookup_add_reference"),
+         ("ecmp_add_member", "ecmp_add_member_reference"),
+         ("ecmpGroup_add_sel", "ecmpGroup_add_sel_reference"),
+         ("ecmp_add_to_group", "ecmp_add_to_group_reference"),
+         ("counter_read_l2DmacClassifyCount", "counter_read_l2DmacClassifyCount_reference"),
+         ("meter_set_stormControlMeter", "meter_set_stormControlMeter_reference")]
 FLOOR = "driver_call_only"
 # Kinds of case that must not allocate: write paths, schema text, counter and
 # meter calls.
@@ -108,13 +113,13 @@ def main():
           f"and memcheck allocs(2M) - allocs(M), M = {args.memcheck_calls}")
     print()
     floor = per_call.get(FLOOR)
-    head = f"{'case':<24} {'kind':<6} {'Ir/call':>9}"
+    head = f"{'case':<28} {'kind':<6} {'Ir/call':>9}"
     if floor is not None:
         head += f" {'Ir/call - floor':>16}"
     head += f" {'allocs (own)':>13} {'allocs (memcheck)':>18}"
     print(head)
     for case, kind, ir, native, heap in rows:
-        line = f"{case:<24} {kind:<6} {ir:>9.1f}"
+        line = f"{case:<28} {kind:<6} {ir:>9.1f}"
         if floor is not None:
             # The floor is that of an add; a read's driver call does more.
             shown = case != FLOOR and kind == "write"
@@ -122,12 +127,14 @@ def main():
         line += f" {native:>13} {heap:>18}"
         print(line)
 
-    if LIBRARY in per_call and REFERENCE in per_call:
-        lib, ref = per_call[LIBRARY], per_call[REFERENCE]
-        print()
-        print(f"{LIBRARY} / {REFERENCE}: {lib / ref:.3f} (per call, floor included)")
-        if floor is not None and ref > floor:
-            print(f"{LIBRARY} / {REFERENCE}: {(lib - floor) / (ref - floor):.3f} "
+    print()
+    for library, reference in PAIRS:
+        if library not in per_call or reference not in per_call:
+            continue
+        lib, ref = per_call[library], per_call[reference]
+        print(f"{library} / {reference}: {lib / ref:.3f} (per call, floor included)")
+        if library == "l2Lookup_add" and floor is not None and ref > floor:
+            print(f"{library} / {reference}: {(lib - floor) / (ref - floor):.3f} "
                   f"(packing only, {FLOOR} taken off both)")
 
     if allocating_writes:

@@ -20,6 +20,8 @@ namespace {
 
 // Handle of l2LookupKnownUcast on l2Lookup.
 constexpr pd_act_fn_hdl kL2LookupKnownUcast = 0x200000a6u;
+// Handle of setEcmpNextHop in ecmpMemberActionProfile.
+constexpr pd_act_fn_hdl kSetEcmpNextHop = 0x30000018u;
 
 // Bytes handed back as key value, key mask and action data on a read.
 constexpr uint8_t kReadValue[8] = {0x00, 0x1b, 0x21, 0x3c, 0x4d, 0x5e, 0x00, 0x2a};
@@ -437,5 +439,154 @@ pd_status p4_pd_ms_destroy_txn_state_for_dev(uint32_t) { return BF_SUCCESS; }
 pd_status p4_pd_ms_log_state(uint32_t, pd_ms_state *, void *) { return BF_SUCCESS; }
 
 pd_status p4_pd_ms_restore_state(uint32_t, pd_ms_state *, void *) { return BF_SUCCESS; }
+
+// ------------------------------------------------------- action profiles ---
+// Every member and group runs setEcmpNextHop, so that a state look-up answers
+// as it would for the ECMP profile.
+
+pd_status pipe_mgr_adt_ent_add(pd_sess_hdl, pd_dev_target, pd_tbl_hdl, pd_act_fn_hdl, uint32_t,
+                               pd_action_record *, pd_mbr_hdl *mbr_hdl, uint32_t) {
+  *mbr_hdl = 1;
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_adt_ent_set(pd_sess_hdl, uint32_t, pd_tbl_hdl, pd_mbr_hdl, pd_act_fn_hdl,
+                               pd_action_record *, uint32_t) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_adt_ent_del(pd_sess_hdl, uint32_t, pd_tbl_hdl, pd_mbr_hdl, uint32_t) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_get_action_data_entry(pd_tbl_hdl, pd_dev_target, pd_mbr_hdl,
+                                         pd_action_record *, pd_act_fn_hdl *fn, uint8_t) {
+  *fn = kSetEcmpNextHop;
+  return BF_SUCCESS;
+}
+pd_status pipe_register_adt_update_cb(pd_sess_hdl, uint32_t, pd_tbl_hdl, pd_adt_update_cb,
+                                      void *) {
+  return BF_SUCCESS;
+}
+pd_status p4_pd_ms_new_mbr(pd_sess_hdl, pd_ms_state *, uint32_t, pd_mbr_hdl) { return BF_SUCCESS; }
+pd_status p4_pd_ms_set_mbr_act(pd_ms_state *, uint32_t, pd_mbr_hdl, pd_act_fn_hdl) {
+  return BF_SUCCESS;
+}
+pd_status p4_pd_ms_get_mbr_act(pd_ms_state *, uint32_t, pd_mbr_hdl, pd_act_fn_hdl *fn) {
+  *fn = kSetEcmpNextHop;
+  return BF_SUCCESS;
+}
+pd_status p4_pd_ms_del_mbr(pd_sess_hdl, pd_ms_state *, uint32_t, pd_mbr_hdl) { return BF_SUCCESS; }
+pd_status p4_pd_ms_mbr_get_res(pd_ms_state *, uint32_t, pd_mbr_hdl, uint32_t *count,
+                               pd_resource_index **resources) {
+  *count = 0;
+  *resources = nullptr;
+  return BF_SUCCESS;
+}
+
+pd_status pipe_mgr_sel_grp_add(pd_sess_hdl, pd_dev_target, pd_tbl_hdl, uint32_t, uint32_t, uint32_t,
+                               pd_grp_hdl *grp_hdl, uint32_t) {
+  *grp_hdl = 1;
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_sel_grp_del(pd_sess_hdl, uint32_t, pd_tbl_hdl, pd_grp_hdl, uint32_t) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_sel_grp_mbr_add(pd_sess_hdl, uint32_t, pd_tbl_hdl, pd_grp_hdl, pd_act_fn_hdl,
+                                   pd_mbr_hdl, uint32_t) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_sel_grp_mbr_del(pd_sess_hdl, uint32_t, pd_tbl_hdl, pd_grp_hdl, pd_mbr_hdl,
+                                   uint32_t) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_sel_grp_mbr_enable(pd_sess_hdl, uint32_t, pd_tbl_hdl, pd_grp_hdl, pd_mbr_hdl,
+                                      uint32_t) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_sel_grp_mbr_disable(pd_sess_hdl, uint32_t, pd_tbl_hdl, pd_grp_hdl, pd_mbr_hdl,
+                                       uint32_t) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_sel_grp_mbr_state_get(pd_sess_hdl, uint32_t, pd_tbl_hdl, pd_grp_hdl, pd_mbr_hdl,
+                                         uint32_t *mbr_state) {
+  *mbr_state = 0;
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_sel_grp_mbr_get_from_hash(pd_sess_hdl, uint32_t, pd_tbl_hdl, pd_grp_hdl,
+                                             uint8_t *, uint32_t, pd_mbr_hdl *mbr_hdl) {
+  *mbr_hdl = 1;
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_sel_fallback_mbr_set(pd_sess_hdl, uint32_t, pd_tbl_hdl, pd_mbr_hdl, uint32_t) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_sel_fallback_mbr_reset(pd_sess_hdl, uint32_t, pd_tbl_hdl, uint32_t) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_get_sel_grp_mbr_count(pd_sess_hdl, uint32_t, pd_tbl_hdl, pd_grp_hdl,
+                                         uint32_t *count) {
+  *count = 0;
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_sel_grp_mbrs_get(pd_sess_hdl, uint32_t, pd_tbl_hdl, pd_grp_hdl, uint32_t,
+                                    pd_mbr_hdl *, uint8_t *, uint32_t *written, uint32_t) {
+  *written = 0;
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_get_first_group_member(pd_sess_hdl, pd_tbl_hdl, uint32_t, pd_grp_hdl,
+                                          pd_mbr_hdl *mbr_hdl) {
+  *mbr_hdl = 1;
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_get_next_group_members(pd_sess_hdl, pd_tbl_hdl, uint32_t, pd_grp_hdl, pd_mbr_hdl,
+                                          uint32_t, pd_mbr_hdl *) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_get_word_llp_active_member_count(pd_sess_hdl, uint32_t, pd_tbl_hdl, uint32_t,
+                                                    uint32_t *count) {
+  *count = 0;
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_get_word_llp_active_members(pd_sess_hdl, uint32_t, pd_tbl_hdl, uint32_t,
+                                               uint32_t, pd_mbr_hdl *) {
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_sel_tbl_register_cb(pd_sess_hdl, uint32_t, pd_tbl_hdl, pd_sel_tbl_cb, void *) {
+  return BF_SUCCESS;
+}
+pd_status pipe_register_sel_update_cb(pd_sess_hdl, uint32_t, pd_tbl_hdl, pd_sel_update_cb, void *) {
+  return BF_SUCCESS;
+}
+pd_status p4_pd_ms_new_grp(pd_sess_hdl, pd_ms_state *, uint32_t, pd_grp_hdl) { return BF_SUCCESS; }
+pd_status p4_pd_ms_del_grp(pd_sess_hdl, pd_ms_state *, uint32_t, pd_grp_hdl, uint32_t,
+                           pd_mbr_hdl *) {
+  return BF_SUCCESS;
+}
+pd_status p4_pd_ms_add_mbr_to_grp(pd_sess_hdl, pd_ms_state *, uint32_t, pd_mbr_hdl, pd_grp_hdl) {
+  return BF_SUCCESS;
+}
+pd_status p4_pd_ms_del_mbr_from_grp(pd_sess_hdl, pd_ms_state *, uint32_t, pd_mbr_hdl, pd_grp_hdl) {
+  return BF_SUCCESS;
+}
+pd_status p4_pd_ms_get_grp_act(pd_ms_state *, uint32_t, pd_grp_hdl, pd_act_fn_hdl *fn) {
+  *fn = kSetEcmpNextHop;
+  return BF_SUCCESS;
+}
+pd_status p4_pd_ms_set_grp_act(pd_ms_state *, uint32_t, pd_grp_hdl, pd_act_fn_hdl) {
+  return BF_SUCCESS;
+}
+pd_status p4_pd_ms_grp_get_res(pd_ms_state *, uint32_t, pd_grp_hdl, uint32_t *count,
+                               pd_resource_index **resources) {
+  *count = 0;
+  *resources = nullptr;
+  return BF_SUCCESS;
+}
+pd_status p4_pd_ms_mbr_apply_to_grps(pd_ms_state *, uint32_t, pd_mbr_hdl, pd_ms_grp_fn, void *) {
+  return BF_SUCCESS;
+}
+pd_status p4_pd_ms_grp_update_res(uint32_t, pd_mbr_hdl, pd_grp_hdl, void *) { return BF_SUCCESS; }
+
+pd_status pipe_mgr_hitless_ha_restore_virtual_dev_state(pd_sess_hdl, uint32_t, uint32_t, void *,
+                                                        void *, pd_ha_restore_cb) {
+  return BF_SUCCESS;
+}
 
 }  // extern "C"

@@ -11,12 +11,16 @@
  * Each entry is read back, printed in host form and compared with what was
  * written, and each table's schema text is printed (and read by python3,
  * where it is on the path, as an agent's scripts would read it); then every
- * entry is deleted and each table is checked to be empty. Last, the route is
+ * entry is deleted and each table is checked to be empty. Then the route is
  * added again with an idle time and left without traffic until the driver
- * reports it idle, and is then taken out. It computes the ECMP hash of a
- * flow, and prints a MAC learning digest the driver delivers, then
- * acknowledges it. A failed status ends the program at once, and any
- * difference makes it end with status 1; either is explained on stderr.
+ * reports it idle, and is taken out; traffic dropped on a port is counted
+ * and read back; and a route is balanced over an ECMP group of three next
+ * hops: one is turned off and on, the group read back each time, and the
+ * device's state is logged, removed and restored, the route still resolving
+ * to the same group and members. It computes the ECMP hash of a flow, and
+ * prints a MAC learning digest the driver delivers, then acknowledges it. A
+ * failed status ends the program at once, and any difference makes it end
+ * with status 1; either is explained on stderr.
  *
  * Only the library's interface is used, and the driver model's clock to let
  * time pass. The driver functions it calls come from whatever implements
@@ -31,6 +35,8 @@
 #include <stdio.h>
 #include <stdlib.h>
 #include <string.h>
+
+#include <cjson/cJSON.h>
 
 #include "orbisk_driver_model.h"
 #include "orbisk_switch/pd.h"
@@ -319,6 +325,158 @@ static void show_route(pd_entry_hdl hdl) {
   expect_u32(table, "action_nextHop", a->action_nextHop, ROUTE_NEXT_HOP);
 }
 
+/* ------------------------------------------------------------ ECMP --- */
+
+/* A route in VRF 3 to 10.9.0.0/16 whose next hop is an ECMP group of three
+ * next hops: three members of ecmpMemberActionProfile, a group holding them,
+ * and the ecmpGroup entry that names the group for the route's next hop. */
+#define ECMP_DIP 0x0A090000u /* 10.9.0.0 */
+#define ECMP_PREFIX_LENGTH 16u
+#define ECMP_NEXT_HOP 0x300u /* the route's next hop: the ecmpGroup key */
+#define ECMP_MEMBERS 3
+
+struct ecmp {
+  pd_mbr_hdl mbrs[ECMP_MEMBERS];
+  pd_grp_hdl grp;
+  pd_entry_hdl group_entry;
+  pd_entry_hdl route;
+};
+
+static void build_ecmp(struct ecmp *e) {
+  for (int i = 0; i < ECMP_MEMBERS; ++i) {
+    p4_pd_orbisk_switch_setEcmpNextHop_action_spec_t hop;
+    memset(&hop, 0, sizeof hop);
+    hop.action_nextHopTable = 1;
+    hop.action_nextHop = 100u + (uint32_t)i;
+    must(p4_pd_orbisk_switch_ecmpMemberActionProfile_add_member_with_setEcmpNextHop(
+             SESS, kTarget, &hop, &e->mbrs[i]),
+         "ECMP member add");
+  }
+  must(p4_pd_orbisk_switch_ecmpMemberActionProfile_create_group(SESS, kTarget, 4, &e->grp),
+       "ECMP group create");
+  for (int i = 0; i < ECMP_MEMBERS; ++i) {
+    must(p4_pd_orbisk_switch_ecmpMemberActionProfile_add_member_to_group(SESS, DEVICE, e->grp,
+                                                                         e->mbrs[i]),
+         "ECMP member into group");
+  }
+  p4_pd_orbisk_switch_ecmpGroup_match_spec_t key = {ECMP_NEXT_HOP};
+  must(p4_pd_orbisk_switch_ecmpGroup_add_entry_with_selector(SESS, kTarget, &key, e->grp,
+                                                             &e->group_entry),
+       "ecmpGroup add");
+  p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec_t match;
+  p4_pd_orbisk_switch_setNextHop_action_spec_t action;
+  memset(&match, 0, sizeof match);
+  memset(&action, 0, sizeof action);
+  match.l3Info_vrfId = ROUTE_VRF;
+  match.ingIpv4_dip = ECMP_DIP;
+  match.ingIpv4_dip_prefix_length = ECMP_PREFIX_LENGTH;
+  action.action_nextHop = ECMP_NEXT_HOP;
+  must(p4_pd_orbisk_switch_ipv4ShortMaskLpm_table_add_with_setNextHop(SESS, kTarget, &match,
+                                                                      &action, &e->route),
+       "ECMP route add");
+}
+
+/* Follows the route to its group and prints the group's members, each with
+ * its next hop and whether it is on; `off` is the member expected off, or
+ * -1 for none. */
+static void show_ecmp(const struct ecmp *e, int off) {
+  static const char *const table = "ecmpGroup";
+  p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec_t match;
+  p4_pd_orbisk_switch_action_spec_u action;
+  bool is_default = true;
+  memset(&match, 0, sizeof match);
+  memset(&action, 0, sizeof action);
+  must(p4_pd_orbisk_switch_ipv4ShortMaskLpm_get_entry(SESS, DEVICE, e->route, false, &match, NULL,
+                                                      &action, NULL, &is_default),
+       "ECMP route get_entry");
+  expect_u32("ipv4ShortMaskLpm", "action_nextHop", action.setNextHop.action_nextHop,
+             ECMP_NEXT_HOP);
+
+  p4_pd_orbisk_switch_ecmpGroup_match_spec_t key = {0};
+  bool has_mbr = true, has_grp = false;
+  pd_grp_hdl grp = 0;
+  pd_mbr_hdl mbr = 0;
+  must(p4_pd_orbisk_switch_ecmpGroup_get_entry(SESS, DEVICE, e->group_entry, false, &key, &has_mbr,
+                                               &has_grp, &grp, &mbr, &is_default),
+       "ecmpGroup get_entry");
+  expect_u32(table, "l3_nextHop", key.l3_nextHop, ECMP_NEXT_HOP);
+  expect_u32(table, "has_grp", has_grp, 1);
+  expect_u32(table, "has_mbr", has_mbr, 0);
+  expect_u32(table, "grp_hdl", grp, e->grp);
+  printf("route 10.9.0.0/16 -> next hop 0x%x -> group 0x%08" PRIx32 "\n", ECMP_NEXT_HOP, grp);
+
+  uint32_t count = 0;
+  must(p4_pd_orbisk_switch_ecmpMemberActionProfile_get_selector_group_member_count(SESS, DEVICE,
+                                                                                  grp, &count),
+       "ECMP group member count");
+  expect_u32(table, "group members", count, ECMP_MEMBERS);
+  pd_mbr_hdl walk[ECMP_MEMBERS];
+  must(p4_pd_orbisk_switch_ecmpMemberActionProfile_get_first_group_member(SESS, DEVICE, grp,
+                                                                          &walk[0]),
+       "ECMP first group member");
+  must(p4_pd_orbisk_switch_ecmpMemberActionProfile_get_next_group_members(
+           SESS, DEVICE, grp, walk[0], ECMP_MEMBERS - 1, &walk[1]),
+       "ECMP next group members");
+  for (int i = 0; i < ECMP_MEMBERS; ++i) {
+    p4_pd_orbisk_switch_action_specs_t hop;
+    uint32_t state = 9;
+    memset(&hop, 0, sizeof hop);
+    expect_u32(table, "member", walk[i], e->mbrs[i]);
+    must(p4_pd_orbisk_switch_ecmpMemberActionProfile_get_member(SESS, DEVICE, walk[i], false, &hop),
+         "ECMP member read");
+    must(p4_pd_orbisk_switch_ecmpMemberActionProfile_group_member_state_get(SESS, DEVICE, grp,
+                                                                           walk[i], &state),
+         "ECMP member state");
+    printf("  member 0x%08" PRIx32 ": %s next hop %" PRIu32 ", %s\n", walk[i],
+           p4_pd_orbisk_switch_action_enum_to_string(hop.name),
+           hop.u.setEcmpNextHop.action_nextHop, state == P4_PD_GRP_MBR_STATE_ACTIVE ? "on" : "off");
+    expect_u32(table, "member action", hop.name, p4_pd_orbisk_switch_setEcmpNextHop);
+    expect_u32(table, "member next hop", hop.u.setEcmpNextHop.action_nextHop, 100u + (uint32_t)i);
+    expect_u32(table, "member state", state,
+               i == off ? P4_PD_GRP_MBR_STATE_INACTIVE : P4_PD_GRP_MBR_STATE_ACTIVE);
+  }
+}
+
+/* The route over its group, one next hop turned off and on again; then the
+ * device's member-selection state is logged, dropped as the driver drops it
+ * when a device goes, and restored from the log, and the route still
+ * resolves to the same group and members. */
+static void ecmp_route(void) {
+  struct ecmp e;
+  build_ecmp(&e);
+  show_ecmp(&e, -1);
+  must(p4_pd_orbisk_switch_ecmpMemberActionProfile_group_member_state_set(
+           SESS, DEVICE, e.grp, e.mbrs[1], P4_PD_GRP_MBR_STATE_INACTIVE),
+       "ECMP member off");
+  printf("member 0x%08" PRIx32 " turned off\n", e.mbrs[1]);
+  show_ecmp(&e, 1);
+  must(p4_pd_orbisk_switch_ecmpMemberActionProfile_group_member_state_set(
+           SESS, DEVICE, e.grp, e.mbrs[1], P4_PD_GRP_MBR_STATE_ACTIVE),
+       "ECMP member on");
+  printf("member 0x%08" PRIx32 " turned on again\n", e.mbrs[1]);
+  show_ecmp(&e, -1);
+
+  cJSON *saved = cJSON_CreateObject();
+  must(p4_pd_orbisk_switch_dev_log(DEVICE, saved), "device log");
+  must(p4_pd_orbisk_switch_dev_remove(DEVICE), "device remove");
+  /* Without its state the library no longer knows which action the group runs. */
+  pd_entry_hdl refused = 0;
+  p4_pd_orbisk_switch_ecmpGroup_match_spec_t other = {ECMP_NEXT_HOP + 1};
+  if (p4_pd_orbisk_switch_ecmpGroup_add_entry_with_selector(SESS, kTarget, &other, e.grp,
+                                                            &refused) == BF_SUCCESS) {
+    fprintf(stderr, "orbisk_demo: error: a group was named with no state behind it\n");
+    ++g_failures;
+  }
+  must(p4_pd_orbisk_switch_dev_restore(DEVICE, saved), "device restore");
+  cJSON_Delete(saved);
+  printf("device state logged, removed and restored\n");
+  show_ecmp(&e, -1);
+  /* ... and knows it again. */
+  must(p4_pd_orbisk_switch_ecmpGroup_modify_entry_with_selector(SESS, DEVICE, e.group_entry,
+                                                                e.grp),
+       "ecmpGroup modify after restore");
+}
+
 /* ----------------------------------------------------------- ageing --- */
 
 #define ROUTE_TTL_MS 30000u
@@ -584,6 +742,7 @@ int main(void) {
 
   age_out_route();
   count_drops();
+  ecmp_route();
   ecmp_hash();
   learn_mac();
 

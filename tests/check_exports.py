@@ -44,6 +44,13 @@ def main(lib, root):
                 add("unbuild_mask", "unbuild_mask_" + n)
         if direct:
             add("get_entry", "%s%s_get_entry" % (P, n))
+        else:
+            add("indirect_get_entry", "%s%s_get_entry" % (P, n))
+            for s in ("add_entry", "add_entry_with_selector", "modify_entry",
+                      "modify_entry_with_selector", "modify_entry_by_match_spec",
+                      "modify_entry_with_selector_by_match_spec", "set_default_entry",
+                      "set_default_entry_with_selector"):
+                add("indirect", "%s%s_%s" % (P, n, s))
         # Schema text and widths.
         add("table_schema", "%s%s_schema" % (P, n))
         add("supports_entry_priority", "%s%s_supports_entry_priority" % (P, n))
@@ -78,8 +85,26 @@ def main(lib, root):
     for p in program["profiles"]:
         add("profile_schema", "%s%s_schema" % (P, p["name"]))
     add("cli_schema", P + "cli_schema")
+    for p in program["profiles"]:
+        for a in p["actions"]:
+            add("add_member", "%s%s_add_member_with_%s" % (P, p["name"], a["name"]))
+            add("modify_member", "%s%s_modify_member_with_%s" % (P, p["name"], a["name"]))
+        for s in ("del_member", "get_member", "get_first_member", "get_next_members",
+                  "get_act_prof_entry_count", "get_adt_table_handle", "register_adt_update_cb"):
+            add("members", "%s%s_%s" % (P, p["name"], s))
+        for s in ("create_group", "del_group", "add_member_to_group", "del_member_from_group",
+                  "group_member_state_set", "group_member_state_get", "group_member_get_from_hash",
+                  "set_dynamic_action_selection_fallback_member",
+                  "reset_dynamic_action_selection_fallback_member", "get_first_group",
+                  "get_next_groups", "get_first_group_member", "get_next_group_members",
+                  "get_selector_group_count", "get_selector_group_member_count",
+                  "get_word_llp_active_member_count", "get_word_llp_active_members",
+                  "get_sel_table_handle", "register_callback", "sel_track_updates",
+                  "register_sel_update_cb"):
+            add("groups", "%s%s_%s" % (P, p["name"], s))
     for s in ("init", "cleanup", "dev_remove", "dev_log", "dev_restore", "device_state_cleanup",
-              "action_enum_to_string", "action_string_to_enum"):
+              "action_enum_to_string", "action_string_to_enum", "restore_virtual_dev_state",
+              "ha_restore_state_from_adt_sel"):
         add("frame", P + s)
     for c in program["counters"]:
         for s in ("counter_read_", "counter_write_", "counter_hw_sync_"):
@@ -129,11 +154,13 @@ def main(lib, root):
              "table_get_default_entry_handle": 154, "table_reset_default_entry": 154,
              "idle": 153, "set_property": 154, "get_property": 154, "get_mat_table_handle": 154,
              "register_mat_update_cb": 154,
-             "frame": 8, "objects": 2,
+             "frame": 10, "objects": 2,
              "table_schema": 154, "match_spec_schema": 136, "action_schema": 296,
              "profile_schema": 6, "cli_schema": 1, "field_width": 487,
              "supports_entry_priority": 154,
              "counter": 51, "meter": 16, "meter_generic": 5, "register": 28, "register_generic": 9,
+             "add_member": 15, "modify_member": 15, "members": 42, "groups": 126,
+             "indirect": 48, "indirect_get_entry": 6,
              "hash_calc": 120, "pvs": 70, "digest": 9, "snapshot": 4}
     failed = False
     for k, v in known.items():

@@ -318,6 +318,24 @@ extern "C" {
 /* Pipes of every device. */
 #define ORBISK_MODEL_PIPES 4
 
+/* Action profiles. An action data or selector table handle that is no
+ * profile's is ORBISK_MODEL_NO_SUCH_TABLE; an action the profile does not
+ * have is ORBISK_MODEL_NO_SUCH_ACTION. Member and group handles are the
+ * profile's own: one of another profile is unknown here. */
+/* No member of that handle in the profile (driver or member-selection state). */
+#define ORBISK_MODEL_NO_SUCH_MEMBER ((pd_status)0x110)
+/* No group of that handle in the profile. */
+#define ORBISK_MODEL_NO_SUCH_GROUP ((pd_status)0x111)
+/* A delete of a member that a group holds or an entry names. */
+#define ORBISK_MODEL_MEMBER_IN_USE ((pd_status)0x112)
+/* A delete of a group that an entry names. */
+#define ORBISK_MODEL_GROUP_IN_USE ((pd_status)0x113)
+/* A member added to a group that holds its maximum size. */
+#define ORBISK_MODEL_GROUP_FULL ((pd_status)0x114)
+/* A member added to a group that holds it already. */
+#define ORBISK_MODEL_MEMBER_IN_GROUP ((pd_status)0x115)
+/* A member that the group does not hold. */
+#define ORBISK_MODEL_NOT_IN_GROUP ((pd_status)0x116)
 /* Hash calculations, value sets, digests and snapshots. */
 /* The hash handle is no hash calculation of the program. */
 #define ORBISK_MODEL_NO_SUCH_HASH ((pd_status)0x130)
@@ -379,7 +397,8 @@ pd_status orbisk_model_set_next_handle(uint32_t device_id, pd_tbl_hdl tbl, pd_en
 pd_status orbisk_model_fail(const char *function, uint32_t nth, pd_status status);
 
 /* Makes the next successful pipe_mgr_get_entry or
- * pipe_mgr_table_get_default_entry answer with this record_kind and/or this
+ * pipe_mgr_table_get_default_entry (or a member read, pipe_mgr_get_action_data_entry,
+ * its action handle only) answer with this record_kind and/or this
  * action handle in place of the stored ones; -1 leaves either as stored.
  * For checking how a client copes with an answer it did not expect. */
 void orbisk_model_quirk_next_read(int record_kind, int64_t act_fn);
@@ -533,6 +552,14 @@ size_t orbisk_model_ms_group_count(pd_ms_state *state, uint32_t device_id);
 pd_act_fn_hdl orbisk_model_ms_member_action(pd_ms_state *state, uint32_t device_id,
                                             pd_mbr_hdl mbr);
 
+/* ------------------------------------------------------- action profiles --- */
+
+/* Members in a profile's action data table of a device (adt its handle); 0
+ * for an unknown table. */
+size_t orbisk_model_member_count(uint32_t device_id, pd_tbl_hdl adt);
+/* Groups in a profile's selector table of a device (sel its handle); 0 for an
+ * unknown table. */
+size_t orbisk_model_group_count(uint32_t device_id, pd_tbl_hdl sel);
 /* ------------------------------------------------ hash calculations --- */
 
 /* The model's hash algorithms, by the program's algorithm handles: zlib's

@@ -95,7 +95,45 @@
   X(p4_pd_ms_destroy_state_for_dev)            \
   X(p4_pd_ms_destroy_txn_state_for_dev)        \
   X(p4_pd_ms_log_state)                        \
-  X(p4_pd_ms_restore_state)
+  X(p4_pd_ms_restore_state)                    \
+  X(pipe_mgr_adt_ent_add)                      \
+  X(pipe_mgr_adt_ent_set)                      \
+  X(pipe_mgr_adt_ent_del)                      \
+  X(pipe_mgr_get_action_data_entry)            \
+  X(pipe_register_adt_update_cb)               \
+  X(p4_pd_ms_new_mbr)                          \
+  X(p4_pd_ms_set_mbr_act)                      \
+  X(p4_pd_ms_get_mbr_act)                      \
+  X(p4_pd_ms_del_mbr)                          \
+  X(p4_pd_ms_mbr_get_res)                      \
+  X(pipe_mgr_sel_grp_add)                      \
+  X(pipe_mgr_sel_grp_del)                      \
+  X(pipe_mgr_sel_grp_mbr_add)                  \
+  X(pipe_mgr_sel_grp_mbr_del)                  \
+  X(pipe_mgr_sel_grp_mbr_enable)               \
+  X(pipe_mgr_sel_grp_mbr_disable)              \
+  X(pipe_mgr_sel_grp_mbr_state_get)            \
+  X(pipe_mgr_sel_grp_mbr_get_from_hash)        \
+  X(pipe_mgr_sel_fallback_mbr_set)             \
+  X(pipe_mgr_sel_fallback_mbr_reset)           \
+  X(pipe_mgr_get_sel_grp_mbr_count)            \
+  X(pipe_mgr_sel_grp_mbrs_get)                 \
+  X(pipe_mgr_get_first_group_member)           \
+  X(pipe_mgr_get_next_group_members)           \
+  X(pipe_mgr_get_word_llp_active_member_count) \
+  X(pipe_mgr_get_word_llp_active_members)      \
+  X(pipe_mgr_sel_tbl_register_cb)              \
+  X(pipe_register_sel_update_cb)               \
+  X(p4_pd_ms_new_grp)                          \
+  X(p4_pd_ms_del_grp)                          \
+  X(p4_pd_ms_add_mbr_to_grp)                   \
+  X(p4_pd_ms_del_mbr_from_grp)                 \
+  X(p4_pd_ms_get_grp_act)                      \
+  X(p4_pd_ms_set_grp_act)                      \
+  X(p4_pd_ms_grp_get_res)                      \
+  X(p4_pd_ms_mbr_apply_to_grps)                \
+  X(p4_pd_ms_grp_update_res)                   \
+  X(pipe_mgr_hitless_ha_restore_virtual_dev_state)
 
 namespace orbisk_model {
 

@@ -366,6 +366,19 @@ MatchTable *TableStore::find(uint32_t device_id, const TableDesc &t) {
   return it == devices_.end() ? nullptr : it->second[std::size_t(&t - kTables)].get();
 }
 
+bool TableStore::names_ref(uint32_t device_id, const TableDesc &t, uint8_t kind, uint32_t hdl) {
+  const MatchTable *table = find(device_id, t);
+  if (table == nullptr) return false;
+  auto names = [&](const ActionView &a) {
+    return a.kind == kind && (kind == PD_RECORD_KIND_MEMBER_REF ? a.member : a.group) == hdl;
+  };
+  if (names(table->default_action.view())) return true;
+  for (pd_entry_hdl h = table->next(0); h != 0; h = table->next(h)) {
+    if (names(table->action(table->find(h)))) return true;
+  }
+  return false;
+}
+
 MatchTable &TableStore::make(uint32_t device_id, const TableDesc &t) {
   Tables &tables = devices_[device_id];
   if (tables.empty()) tables.resize(orbisk::pd::kNumTables);

@@ -235,6 +235,10 @@ class TableStore final : public Store {
     return out;
   }
 
+  // Whether an entry or the default of table t names this member
+  // (PD_RECORD_KIND_MEMBER_REF) or group (PD_RECORD_KIND_GROUP_REF).
+  bool names_ref(uint32_t device_id, const TableDesc &t, uint8_t kind, uint32_t hdl);
+
   // A read quirk armed for the next successful entry or default read; -1
   // leaves the kind or the action as stored.
   int quirk_kind = -1;

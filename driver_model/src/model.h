@@ -121,4 +121,15 @@ pd_status run(Fn fn, std::initializer_list<uint64_t> args, Body &&body) {
   return run(fn, args, Passing{}, std::forward<Body>(body));
 }
 
+// The handles of a profile's action data table (its members) or selector
+// table (its groups) on a device, in order, for the generic walks and counts;
+// false when tbl is neither (profile_store.cpp).
+bool profile_handles(Model &m, uint32_t device_id, pd_tbl_hdl tbl, std::vector<uint32_t> &out);
+
+// For an action record that names a member or group of table t's profile:
+// that it exists on the device and that fn is an action of the profile.
+// Success for every other record (profile_store.cpp).
+pd_status check_ref(Model &m, uint32_t device_id, const orbisk::pd::TableDesc &t, pd_act_fn_hdl fn,
+                    const pd_action_record &act);
+
 }  // namespace orbisk_model

@@ -95,6 +95,7 @@ pd_status pipe_mgr_mat_ent_add(pd_sess_hdl sess, pd_dev_target target, pd_tbl_hd
                if (entry_hdl == nullptr) return kBad;
                if (pd_status s = check_key(*d, key)) return s;
                if (pd_status s = check_action(*d, fn, act, false)) return s;
+               if (pd_status s = check_ref(m, target.device_id, *d, fn, *act)) return s;
                MatchTable *t = m.tables.find(target.device_id, *d);
                uint32_t hash = 0;
                if (t != nullptr) {
@@ -122,6 +123,7 @@ pd_status pipe_mgr_mat_ent_set_action(pd_sess_hdl sess, uint32_t device_id, pd_t
                const TableDesc *d = find_table(tbl);
                if (d == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
                if (pd_status s = check_action(*d, fn, act, false)) return s;
+               if (pd_status s = check_ref(m, device_id, *d, fn, *act)) return s;
                MatchTable *t = m.tables.find(device_id, *d);
                const MatchTable::Entry e = t ? t->find(entry_hdl) : MatchTable::Entry{};
                if (e.head == nullptr) return ORBISK_MODEL_NO_SUCH_ENTRY;
@@ -142,6 +144,7 @@ pd_status pipe_mgr_mat_ent_set_action_by_match_spec(pd_sess_hdl sess, pd_dev_tar
                if (d == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
                if (pd_status s = check_key(*d, key)) return s;
                if (pd_status s = check_action(*d, fn, act, false)) return s;
+               if (pd_status s = check_ref(m, target.device_id, *d, fn, *act)) return s;
                MatchTable *t = m.tables.find(target.device_id, *d);
                const pd_entry_hdl hdl = t ? t->find(*key) : 0;
                if (hdl == 0) return ORBISK_MODEL_NO_SUCH_ENTRY;
@@ -209,6 +212,12 @@ pd_status pipe_mgr_get_entry_count(pd_sess_hdl sess, pd_dev_target target, pd_tb
   return run(Fn::pipe_mgr_get_entry_count,
              {arg(sess), arg(target), arg(tbl), arg(read_from_hw), arg(count)}, [&](Model &m) {
                const TableDesc *d = find_table(tbl);
+               std::vector<uint32_t> handles;
+               if (d == nullptr && profile_handles(m, target.device_id, tbl, handles)) {
+                 if (count == nullptr) return kBad;
+                 *count = uint32_t(handles.size());
+                 return kOk;
+               }
                if (d == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
                if (count == nullptr) return kBad;
                const MatchTable *t = m.tables.find(target.device_id, *d);
@@ -222,6 +231,13 @@ pd_status pipe_mgr_get_first_entry_handle(pd_sess_hdl sess, pd_tbl_hdl tbl, pd_d
   return run(Fn::pipe_mgr_get_first_entry_handle,
              {arg(sess), arg(tbl), arg(target), arg(entry_hdl)}, [&](Model &m) {
                const TableDesc *d = find_table(tbl);
+               std::vector<uint32_t> handles;
+               if (d == nullptr && profile_handles(m, target.device_id, tbl, handles)) {
+                 if (entry_hdl == nullptr) return kBad;
+                 if (handles.empty()) return ORBISK_MODEL_NO_SUCH_ENTRY;
+                 *entry_hdl = handles.front();
+                 return kOk;
+               }
                if (d == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
                if (entry_hdl == nullptr) return kBad;
                const MatchTable *t = m.tables.find(target.device_id, *d);
@@ -238,6 +254,17 @@ pd_status pipe_mgr_get_next_entry_handles(pd_sess_hdl sess, pd_tbl_hdl tbl, pd_d
              {arg(sess), arg(tbl), arg(target), arg(entry_hdl), arg(count), arg(next_hdls)},
              [&](Model &m) {
                const TableDesc *d = find_table(tbl);
+               std::vector<uint32_t> handles;
+               if (d == nullptr && profile_handles(m, target.device_id, tbl, handles)) {
+                 if (count != 0 && next_hdls == nullptr) return kBad;
+                 auto it = std::find(handles.begin(), handles.end(), entry_hdl);
+                 if (it == handles.end()) return ORBISK_MODEL_NO_SUCH_ENTRY;
+                 for (uint32_t i = 0; i < count; ++i) {
+                   if (it != handles.end()) ++it;
+                   next_hdls[i] = it != handles.end() ? *it : ORBISK_MODEL_NO_HANDLE;
+                 }
+                 return kOk;
+               }
                if (d == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
                if (count != 0 && next_hdls == nullptr) return kBad;
                const MatchTable *t = m.tables.find(target.device_id, *d);
@@ -308,6 +335,7 @@ pd_status pipe_mgr_mat_default_entry_set(pd_sess_hdl sess, pd_dev_target target,
                if (d == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
                if (entry_hdl == nullptr) return kBad;
                if (pd_status s = check_action(*d, fn, act, true)) return s;
+               if (pd_status s = check_ref(m, target.device_id, *d, fn, *act)) return s;
                m.tables.make(target.device_id, *d).default_action = DefaultAction::of(fn, *act);
                *entry_hdl = ORBISK_MODEL_DEFAULT_ENTRY_HDL;
                return kOk;
@@ -399,6 +427,7 @@ size_t orbisk_model_device_count(void) {
     m.idle.add_devices(devices);
     m.resources.add_devices(devices);
     m.properties.add_devices(devices);
+    m.profiles.add_devices(devices);
     return devices.size();
   });
 }

@@ -19,6 +19,7 @@
 #include <unordered_set>
 #include <vector>
 
+#include "descriptors.h"
 #include "functions.h"
 #include "public_api.h"
 
@@ -107,11 +108,13 @@ class AllocationStore final : public Store {
 
 }  // namespace orbisk_model
 
-// A member-selection state: per device, what each member and group names.
+// A member-selection state: per device, what each member and group names,
+// and each group's members (in the order they were added).
 struct pd_ms_state {
   struct Device {
     std::map<pd_mbr_hdl, pd_act_fn_hdl> members;
-    std::map<pd_grp_hdl, pd_act_fn_hdl> groups;
+    std::map<pd_grp_hdl, pd_act_fn_hdl> groups;  // 0 until the group has had a member
+    std::map<pd_grp_hdl, std::vector<pd_mbr_hdl>> group_members;
   };
   std::map<uint32_t, Device> devices;
 };
@@ -137,22 +140,52 @@ class MsStore final : public Store {
 // library import. They are empty until then but take part in every reset and
 // device drop, so a new service only fills its store.
 
-// Action data and selector tables of the action profiles: per device and
-// profile, the members (action and data) and the groups (their members).
+// Action data and selector tables of the action profiles (profile_store.cpp):
+// per device and profile, the members (action and data), the groups (their
+// maximum size and members, each enabled or not), the fallback member and
+// the update callbacks. Member and group handles carry their profile's
+// number in the top byte, so a handle of another profile is never found.
 class ProfileStore final : public Store {
  public:
   struct Member {
     pd_act_fn_hdl fn = 0;
+    uint16_t bits = 0;
     std::vector<uint8_t> data;
+    std::set<pd_grp_hdl> groups;  // the groups that hold it
+  };
+  struct GroupMember {
+    pd_mbr_hdl mbr;
+    bool enabled;
+  };
+  struct Group {
+    uint32_t max_size = 0;
+    std::vector<GroupMember> members;  // in the order they were added
   };
   struct Profile {
     std::map<pd_mbr_hdl, Member> members;
-    std::map<pd_grp_hdl, std::vector<pd_mbr_hdl>> groups;
+    std::map<pd_grp_hdl, Group> groups;
+    uint32_t next_mbr = 1;
+    uint32_t next_grp = 1;
+    pd_mbr_hdl fallback = 0;  // 0 for none
+    pd_adt_update_cb adt_cb = nullptr;
+    void *adt_cookie = nullptr;
+    pd_sel_tbl_cb sel_cb = nullptr;
+    void *sel_cookie = nullptr;
+    pd_sel_update_cb sel_update_cb = nullptr;
+    void *sel_update_cookie = nullptr;
   };
   void clear() override;
   void drop_device(uint32_t device_id) override;
-  std::map<std::pair<uint32_t, uint32_t>, Profile> profiles;  // by device, profile handle
+  // Adds the devices it keeps state for.
+  void add_devices(std::set<uint32_t> &devices) const;
+  Profile *find(uint32_t device_id, const orbisk::pd::ProfileDesc &p);
+  Profile &make(uint32_t device_id, const orbisk::pd::ProfileDesc &p);
+  std::map<std::pair<uint32_t, uint32_t>, Profile> profiles;  // by device, action data table
 };
+
+// The profile whose action data table / selector table has this handle, or null.
+const orbisk::pd::ProfileDesc *profile_of_adt(pd_tbl_hdl adt);
+const orbisk::pd::ProfileDesc *profile_of_sel(pd_tbl_hdl sel);
 
 // Counters, meters and registers (resource_store.cpp), per device. A counter
 // cell is named by its table handle (a direct counter's match table, an

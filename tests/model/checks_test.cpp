@@ -16,9 +16,17 @@ pd_status add_any(const TableDesc &t, Key &k, pd_dev_target dev = kDev0) {
   while (!t.indirect() && !a->entry_use) ++a;
   Act act(*a->action, 1);
   if (t.indirect()) {
+    // A member of the profile to name: its last action has no data.
+    const orbisk::pd::ProfileDesc &p = *t.profile;
+    pd_action_record data{};
+    uint8_t none[1];
+    data.data_bytes = none;
+    pd_mbr_hdl mbr = 0;
+    EXPECT_EQ(BF_SUCCESS, pipe_mgr_adt_ent_add(kSess, dev, p.adt_hdl, p.actions[p.num_actions - 1].handle,
+                                               0, &data, &mbr, 0));
     act.rec = pd_action_record{};
     act.rec.record_kind = PD_RECORD_KIND_MEMBER_REF;
-    act.rec.member_hdl = 7;
+    act.rec.member_hdl = mbr;
   }
   pd_entry_hdl hdl = 0x5555;
   const pd_status s = add(t.handle, k, a->handle, act, &hdl, dev);

@@ -90,13 +90,19 @@ TEST_F(Entries, ProfileTableEntriesNameMembers) {
   Key k(ecmp, 3);
   Act a(0, 0, 0);
   a.rec.record_kind = PD_RECORD_KIND_GROUP_REF;
-  a.rec.group_hdl = 77;
+  pd_grp_hdl grp = 0;
+  ASSERT_EQ(BF_SUCCESS, pipe_mgr_sel_grp_add(kSess, kDev0, ecmp.profile->sel_hdl, 0, 4, 0, &grp, 0));
+  // A group that is not there is refused, and so is the group's deletion while named.
+  a.rec.group_hdl = grp + 1;
   pd_entry_hdl hdl = 0;
+  EXPECT_EQ(ORBISK_MODEL_NO_SUCH_GROUP, add(ecmp.handle, k, ecmp.actions[0].handle, a, &hdl));
+  a.rec.group_hdl = grp;
   ASSERT_EQ(BF_SUCCESS, add(ecmp.handle, k, ecmp.actions[0].handle, a, &hdl));
+  EXPECT_EQ(ORBISK_MODEL_GROUP_IN_USE, pipe_mgr_sel_grp_del(kSess, 0, ecmp.profile->sel_hdl, grp, 0));
   Read r(2);
   ASSERT_EQ(BF_SUCCESS, r.get(ecmp.handle, hdl));
   EXPECT_EQ(PD_RECORD_KIND_GROUP_REF, r.act.record_kind);
-  EXPECT_EQ(77u, r.act.group_hdl);
+  EXPECT_EQ(grp, r.act.group_hdl);
   EXPECT_EQ(0u, r.act.num_bytes);
 }
 

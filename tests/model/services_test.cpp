@@ -266,7 +266,7 @@ TEST_F(MemberSelection, LogAndRestoreRoundTrip) {
   ASSERT_EQ(BF_SUCCESS, p4_pd_ms_log_state(0, from, doc));
   char *text = cJSON_PrintUnformatted(doc);
   EXPECT_EQ(R"({"members":[{"mbr":10,"act":)" + a0 + R"(},{"mbr":11,"act":)" + a1 + R"(}],)" +
-                R"("groups":[{"grp":5,"act":)" + a0 + "}]}",
+                R"("groups":[{"grp":5,"act":)" + a0 + R"(,"mbrs":[]}]})",
             text);
   cJSON_free(text);
 

@@ -203,6 +203,7 @@ class Profile:
         self.adt = int(d["action_data_table"], 16)
         self.sel = int(d["selector_table"], 16)
         self.match_table = d["match_table"]
+        self.index = None
         self.actions = []
         for a in d["actions"]:
             act = program.action(a["name"], a["enum"], a["params"])
@@ -262,7 +263,7 @@ class Program:
                 self.tables.append(Table(t, doc["area"], area, self))
         self.profiles = [Profile(p, self) for p in prog["profiles"]]
         for i, p in enumerate(self.profiles):
-            p.index = i  # place in the descriptors
+            p.index = i  # place in the descriptors' kProfiles
         self.resources = {}
         for cls in ("counter", "meter", "register"):
             for d in prog[cls + "s"]:

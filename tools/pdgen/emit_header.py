@@ -28,9 +28,9 @@ INTRO = """\
  *  - Every record and string lives on the caller's stack for one call; the
  *    driver copies what it keeps. Nothing is allocated on a write.
  *
- * Families, for <t> a table, <a> an action of it, <f> a key field of it,
- * <r> an action profile or, in the resources' families, a counter, meter or
- * register:"""
+ * Families, for <t> a table, <a> an action of it or of a profile, <f> a key
+ * field of a table, <r> an action profile or, in the resources' families, a
+ * counter, meter or register:"""
 
 
 def family_list():
@@ -175,14 +175,22 @@ def emit(prog):
         for f in families.table_functions(t):
             o.append(f.proto() + ";")
         o.append("")
-    o.append("/* --------------------------------------------- action profiles --- */")
+    o.append("/* " + "=" * 66 + " */")
+    o.append("/* Action profiles: members, selector groups */")
+    o.append("/* " + "=" * 66 + " */")
     o.append("")
-    for r in prog.profiles:
-        o.append("/* %s: action data table 0x%08x, selector table 0x%08x, for %s */" % (
-            r.name, r.adt, r.sel, r.match_table))
-        for f in families.profile_functions(r):
+    for p in prog.profiles:
+        fns = families.profile_functions(p)
+        if not fns:
+            continue
+        o.append("/* %s: action data table 0x%08x, selector table 0x%08x;"
+                 % (p.name, p.adt, p.sel))
+        o.append(" * entries of %s name its members and groups." % p.match_table)
+        o += textwrap.wrap("Actions: %s. */" % ", ".join(a.name for a in p.actions), 78,
+                           initial_indent=" * ", subsequent_indent=" * ")
+        for f in fns:
             o.append(f.proto() + ";")
-    o.append("")
+        o.append("")
     o += resource_sections(prog)
     o.append("/* ------------------------------------ action data read back --- */")
     o.append("")

@@ -62,6 +62,16 @@ def table_sources(prog, group):
     return out
 
 
+def profile_sources(prog, group):
+    """A group's functions of the action profiles, in one source."""
+    blocks = []
+    for p in prog.profiles:
+        fns = [f for f in families.profile_functions(p) if f.kind in group.FAMILIES]
+        if fns:
+            blocks.append(["// " + p.name] + [line for f in fns for line in definition(f)])
+    return {"pd_%s_profiles.cpp" % group_name(group): source(group, None, blocks)} if blocks else {}
+
+
 def action_sources(prog, group):
     blocks = []
     for a in prog.actions:
@@ -73,15 +83,6 @@ def action_sources(prog, group):
             b += definition(f)
         blocks.append(b)
     return {"pd_%s_actions.cpp" % group_name(group): source(group, None, blocks)} if blocks else {}
-
-
-def profile_sources(prog, group):
-    blocks = []
-    for r in prog.profiles:
-        fns = [f for f in families.profile_functions(r) if f.kind in group.FAMILIES]
-        if fns:
-            blocks.append(["// " + r.name] + [line for f in fns for line in definition(f)])
-    return {"pd_%s_profiles.cpp" % group_name(group): source(group, None, blocks)} if blocks else {}
 
 
 def resource_sources(prog, group):
@@ -124,8 +125,8 @@ def emit(prog):
         if hasattr(group, "files"):
             out.update(group.files(prog))
         out.update(table_sources(prog, group))
-        out.update(action_sources(prog, group))
         out.update(profile_sources(prog, group))
+        out.update(action_sources(prog, group))
         out.update(resource_sources(prog, group))
         out.update(item_sources(prog, group))
     return out

@@ -18,24 +18,46 @@
  *  - Every record and string lives on the caller's stack for one call; the
  *    driver copies what it keeps. Nothing is allocated on a write.
  *
- * Families, for <t> a table, <a> an action of it, <f> a key field of it,
- * <r> an action profile or, in the resources' families, a counter, meter or
- * register:
+ * Families, for <t> a table, <a> an action of it or of a profile, <f> a key
+ * field of a table, <r> an action profile or, in the resources' families, a
+ * counter, meter or register:
  *  <t>_table_add_with_<a>(sess, target, match spec, [priority], [action
  *      spec], [meter spec], [ttl], out entry handle): adds an entry. A NULL
  *      meter spec ends the process; the index of a counter or meter cell goes
  *      to the driver as its low 16 bits.
+ *  <t>_add_entry(sess, target, match spec, [priority], member handle, out
+ *      entry handle): adds an entry that names a member.
+ *  <t>_add_entry_with_selector(sess, target, match spec, [priority], group
+ *      handle, out entry handle): adds an entry that names a group, written
+ *      with the group's action of the moment.
  *  <t>_table_modify_with_<a>(sess, device id, entry handle, [action spec],
  *      [meter spec]): replaces an entry's action and its data. A cell index
  *      goes whole; a NULL meter spec sends the meter's slot untagged.
+ *  <t>_modify_entry(sess, device id, entry handle, member handle): points an
+ *      entry at a member, whatever it named before.
  *  <t>_table_modify_with_<a>_by_match_spec(sess, target, match spec,
  *      [priority], [action spec], [meter spec]): the same for the entry with
  *      this key.
+ *  <t>_modify_entry_with_selector(sess, device id, entry handle, group
+ *      handle): points it at a group.
+ *  <t>_modify_entry_by_match_spec(sess, target, match spec, [priority],
+ *      member handle): the same by key, at a member.
+ *  <t>_modify_entry_with_selector_by_match_spec(sess, target, match spec,
+ *      [priority], group handle): the same by key, at a group.
+ *  <t>_set_default_entry(sess, target, member handle, out entry handle): the
+ *      default entry names a member.
  *  <t>_table_delete(sess, device id, entry handle): deletes an entry.
+ *  <t>_set_default_entry_with_selector(sess, target, group handle, out entry
+ *      handle): the default entry names a group.
  *  <t>_table_delete_by_match_spec(sess, target, match spec, [priority]):
  *      deletes the entry with this key.
  *  <t>_match_spec_to_entry_hdl(sess, target, match spec, [priority], out):
  *      finds the handle of the entry with this key.
+ *  <t>_get_entry(sess, device id, entry handle, read from hardware, [out
+ *      match spec], [out priority], out has-member, out has-group, out group
+ *      handle, out member handle, out is-default): reads an entry back across
+ *      all pipes: which member or group it names (flags member first, handles
+ *      group first); neither flag for anything else.
  *  <t>_get_entry(sess, device id, entry handle, read from hardware, [out
  *      match spec], [out priority], out action name or NULL, out action spec,
  *      out action enum or NULL, [out is-default]): reads an entry back across
@@ -90,11 +112,84 @@
  *  <t>_<f>_width(): the key field's width in bits.
  *  <t>_supports_entry_priority(): 1 when the table's key has a mask field,
  *      else 0.
+ *  <r>_schema(out text): writes the profile's action tuples as schema text
+ *      and a NUL; its length.
+ *  <r>_add_member_with_<a>(sess, target, [action spec], out member handle):
+ *      adds a member running the action; the member-selection state learns it
+ *      only when the driver accepted it.
+ *  <r>_modify_member_with_<a>(sess, device id, member handle, [action spec]):
+ *      new data for a member of this action; 0xFFFFFFFF, driver untouched,
+ *      for a member of another action.
+ *  <r>_del_member(sess, device id, member handle): deletes a member; the
+ *      state forgets it only when the driver did.
+ *  <r>_get_member(sess, device id, member handle, read from hardware, out
+ *      action spec): reads a member back, its action by enum; the parameters
+ *      of an action without any are left as they were. Status 15 for an
+ *      action the profile does not have.
+ *  <r>_get_first_member(sess, target, out member handle): the first member's
+ *      handle.
+ *  <r>_get_next_members(sess, target, member handle, count, out member
+ *      handles): the handles of up to count members after this one.
+ *  <r>_get_act_prof_entry_count(sess, target, out count): the number of
+ *      members.
+ *  <r>_get_adt_table_handle(out table handle): the action data table's
+ *      handle, where the pointer is not NULL; always 0.
+ *  <r>_register_adt_update_cb(sess, device id, update callback, cookie): the
+ *      callback told of each member added, changed or deleted.
+ *  <r>_create_group(sess, target, maximum group size, out group handle):
+ *      makes an empty group of at most max_grp_size members; it runs no
+ *      action until its first member comes.
+ *  <r>_del_group(sess, device id, group handle): deletes a group: its members
+ *      are read first, for the state to unhook them. 2 when out of memory;
+ *      after the driver deleted it, the state's status.
+ *  <r>_add_member_to_group(sess, device id, group handle, member handle):
+ *      adds a member; the group runs the action of the member added last. A
+ *      member the state does not know never reaches the driver.
+ *  <r>_del_member_from_group(sess, device id, group handle, member handle):
+ *      removes a member; the group's action stays.
+ *  <r>_group_member_state_set(sess, device id, group handle, member handle,
+ *      member state): turns a member on (P4_PD_GRP_MBR_STATE_ACTIVE) or off
+ *      (_INACTIVE) in a group; any other state ends the process.
+ *  <r>_group_member_state_get(sess, device id, group handle, member handle,
+ *      out member state): reads it; a state the library does not know is not
+ *      written.
+ *  <r>_group_member_get_from_hash(sess, device id, group handle, hash bytes,
+ *      hash length, out member handle): the member the hash picks in a group.
+ *  <r>_set_dynamic_action_selection_fallback_member(sess, device id, member
+ *      handle): the member used where a group has none active, for the whole
+ *      selector table.
+ *  <r>_reset_dynamic_action_selection_fallback_member(sess, device id): no
+ *      fallback member.
+ *  <r>_get_first_group(sess, target, out group handle): the first group's
+ *      handle.
+ *  <r>_get_next_groups(sess, target, group handle, count, out group handles):
+ *      the handles of up to count groups after this one.
+ *  <r>_get_first_group_member(sess, device id, group handle, out member
+ *      handle): a group's first member.
+ *  <r>_get_next_group_members(sess, device id, group handle, member handle,
+ *      count, out member handles): up to count members of the group after
+ *      this one.
+ *  <r>_get_selector_group_count(sess, target, out count): the number of
+ *      groups.
+ *  <r>_get_selector_group_member_count(sess, device id, group handle, out
+ *      count): the number of a group's members.
+ *  <r>_get_word_llp_active_member_count(sess, device id, word number, out
+ *      count): the number of members active in one word of the selector
+ *      table, as the driver's low-level view has them.
+ *  <r>_get_word_llp_active_members(sess, device id, word number, count, out
+ *      member handles): up to count of those members.
+ *  <r>_get_sel_table_handle(out table handle): the selector table's handle,
+ *      where the pointer is not NULL; always 0.
+ *  <r>_register_callback(sess, device id, member state callback, cookie): the
+ *      callback told of each member turned on or off.
+ *  <r>_sel_track_updates(device id, member state callback, cookie): the same,
+ *      without a session.
+ *  <r>_register_sel_update_cb(sess, device id, update callback, cookie): the
+ *      callback told of each group made or deleted and each member added or
+ *      removed.
  *  <a>_schema(): the action tuple: a constant NUL-terminated text.
  *  unbuild_action_spec_<a>(action record, [resources], [count], out action
  *      spec): an action record's data into an action spec.
- *  <r>_schema(out text): writes the profile's action tuples as schema text
- *      and a NUL; its length.
  *  counter_read_<r>(sess, [device id], [target], [entry handle], [index],
  *      flags, out value): reads a counter cell, from the chip first when bit
  *      0 of the flags is set; untouched on failure.
@@ -1540,6 +1635,20 @@ pd_status p4_pd_orbisk_switch_dev_restore(uint32_t device_id,
     void *cjson_object);
 /* Nothing to release: kept for agents that call it. */
 void p4_pd_orbisk_switch_device_state_cleanup(void);
+/* After a hitless restart: has the driver replay every member, group and membership it holds into ha_restore_state_from_adt_sel. */
+pd_status p4_pd_orbisk_switch_restore_virtual_dev_state(pd_sess_hdl sess_hdl,
+    uint32_t device_id,
+    uint32_t restore_flags,
+    void *driver_state,
+    void *reserved);
+/* Rebuilds one member, group or membership in its profile's member-selection state; a table of no profile is passed over. */
+void p4_pd_orbisk_switch_ha_restore_state_from_adt_sel(pd_sess_hdl sess_hdl,
+    uint32_t device_id,
+    pd_tbl_hdl adt_hdl,
+    pd_act_fn_hdl act_fn_hdl,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t flags);
 /* Full name of an action; NULL past the last. */
 const char *p4_pd_orbisk_switch_action_enum_to_string(uint32_t action);
 /* Action of a full name; P4_PD_ORBISK_SWITCH_ACTION_COUNT for none. */
@@ -6537,9 +6646,43 @@ int p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_supports_entry_priority(void);
 typedef struct p4_pd_orbisk_switch_ecmpGroup_match_spec {
   uint16_t l3_nextHop;
 } p4_pd_orbisk_switch_ecmpGroup_match_spec_t;
+pd_status p4_pd_orbisk_switch_ecmpGroup_add_entry(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_ecmpGroup_match_spec_t *match_spec,
+    pd_mbr_hdl mbr_hdl,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_ecmpGroup_add_entry_with_selector(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_ecmpGroup_match_spec_t *match_spec,
+    pd_grp_hdl grp_hdl,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_ecmpGroup_modify_entry(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_ecmpGroup_modify_entry_with_selector(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_grp_hdl grp_hdl);
+pd_status p4_pd_orbisk_switch_ecmpGroup_modify_entry_by_match_spec(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_ecmpGroup_match_spec_t *match_spec,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_ecmpGroup_modify_entry_with_selector_by_match_spec(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_ecmpGroup_match_spec_t *match_spec,
+    pd_grp_hdl grp_hdl);
+pd_status p4_pd_orbisk_switch_ecmpGroup_set_default_entry(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl mbr_hdl,
+    pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_ecmpGroup_table_delete(pd_sess_hdl sess_hdl,
     uint32_t dev_id,
     pd_entry_hdl entry_hdl);
+pd_status p4_pd_orbisk_switch_ecmpGroup_set_default_entry_with_selector(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_grp_hdl grp_hdl,
+    pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_ecmpGroup_table_delete_by_match_spec(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt,
     const p4_pd_orbisk_switch_ecmpGroup_match_spec_t *match_spec);
@@ -6547,6 +6690,16 @@ pd_status p4_pd_orbisk_switch_ecmpGroup_match_spec_to_entry_hdl(pd_sess_hdl sess
     pd_dev_target dev_tgt,
     const p4_pd_orbisk_switch_ecmpGroup_match_spec_t *match_spec,
     pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_ecmpGroup_get_entry(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    p4_pd_orbisk_switch_ecmpGroup_match_spec_t *match_spec,
+    bool *has_mbr,
+    bool *has_grp,
+    pd_grp_hdl *grp_hdl,
+    pd_mbr_hdl *mbr_hdl,
+    bool *is_default);
 pd_status p4_pd_orbisk_switch_ecmpGroup_get_entry_count(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt,
     uint32_t *count);
@@ -6849,9 +7002,47 @@ typedef struct p4_pd_orbisk_switch_lagGroup_match_spec {
   uint32_t egrMd_egrL2AintfUnresolved;
   uint32_t egrMd_egrL2AintfUnresolved_mask;
 } p4_pd_orbisk_switch_lagGroup_match_spec_t;
+pd_status p4_pd_orbisk_switch_lagGroup_add_entry(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_lagGroup_match_spec_t *match_spec,
+    uint32_t priority,
+    pd_mbr_hdl mbr_hdl,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_lagGroup_add_entry_with_selector(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_lagGroup_match_spec_t *match_spec,
+    uint32_t priority,
+    pd_grp_hdl grp_hdl,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_lagGroup_modify_entry(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_lagGroup_modify_entry_with_selector(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_grp_hdl grp_hdl);
+pd_status p4_pd_orbisk_switch_lagGroup_modify_entry_by_match_spec(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_lagGroup_match_spec_t *match_spec,
+    uint32_t priority,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_lagGroup_modify_entry_with_selector_by_match_spec(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_lagGroup_match_spec_t *match_spec,
+    uint32_t priority,
+    pd_grp_hdl grp_hdl);
+pd_status p4_pd_orbisk_switch_lagGroup_set_default_entry(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl mbr_hdl,
+    pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_lagGroup_table_delete(pd_sess_hdl sess_hdl,
     uint32_t dev_id,
     pd_entry_hdl entry_hdl);
+pd_status p4_pd_orbisk_switch_lagGroup_set_default_entry_with_selector(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_grp_hdl grp_hdl,
+    pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_lagGroup_table_delete_by_match_spec(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt,
     const p4_pd_orbisk_switch_lagGroup_match_spec_t *match_spec,
@@ -6861,6 +7052,17 @@ pd_status p4_pd_orbisk_switch_lagGroup_match_spec_to_entry_hdl(pd_sess_hdl sess_
     const p4_pd_orbisk_switch_lagGroup_match_spec_t *match_spec,
     uint32_t priority,
     pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_lagGroup_get_entry(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    p4_pd_orbisk_switch_lagGroup_match_spec_t *match_spec,
+    uint32_t *priority,
+    bool *has_mbr,
+    bool *has_grp,
+    pd_grp_hdl *grp_hdl,
+    pd_mbr_hdl *mbr_hdl,
+    bool *is_default);
 pd_status p4_pd_orbisk_switch_lagGroup_get_entry_count(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt,
     uint32_t *count);
@@ -9179,9 +9381,43 @@ int p4_pd_orbisk_switch_tunnelL2Info_supports_entry_priority(void);
 typedef struct p4_pd_orbisk_switch_tunnelResolve_match_spec {
   uint16_t egrMd_tunnelNextHop;
 } p4_pd_orbisk_switch_tunnelResolve_match_spec_t;
+pd_status p4_pd_orbisk_switch_tunnelResolve_add_entry(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_tunnelResolve_match_spec_t *match_spec,
+    pd_mbr_hdl mbr_hdl,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_tunnelResolve_add_entry_with_selector(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_tunnelResolve_match_spec_t *match_spec,
+    pd_grp_hdl grp_hdl,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_tunnelResolve_modify_entry(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_tunnelResolve_modify_entry_with_selector(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_grp_hdl grp_hdl);
+pd_status p4_pd_orbisk_switch_tunnelResolve_modify_entry_by_match_spec(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_tunnelResolve_match_spec_t *match_spec,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_tunnelResolve_modify_entry_with_selector_by_match_spec(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_tunnelResolve_match_spec_t *match_spec,
+    pd_grp_hdl grp_hdl);
+pd_status p4_pd_orbisk_switch_tunnelResolve_set_default_entry(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl mbr_hdl,
+    pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_tunnelResolve_table_delete(pd_sess_hdl sess_hdl,
     uint32_t dev_id,
     pd_entry_hdl entry_hdl);
+pd_status p4_pd_orbisk_switch_tunnelResolve_set_default_entry_with_selector(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_grp_hdl grp_hdl,
+    pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_tunnelResolve_table_delete_by_match_spec(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt,
     const p4_pd_orbisk_switch_tunnelResolve_match_spec_t *match_spec);
@@ -9189,6 +9425,16 @@ pd_status p4_pd_orbisk_switch_tunnelResolve_match_spec_to_entry_hdl(pd_sess_hdl 
     pd_dev_target dev_tgt,
     const p4_pd_orbisk_switch_tunnelResolve_match_spec_t *match_spec,
     pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_tunnelResolve_get_entry(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    p4_pd_orbisk_switch_tunnelResolve_match_spec_t *match_spec,
+    bool *has_mbr,
+    bool *has_grp,
+    pd_grp_hdl *grp_hdl,
+    pd_mbr_hdl *mbr_hdl,
+    bool *is_default);
 pd_status p4_pd_orbisk_switch_tunnelResolve_get_entry_count(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt,
     uint32_t *count);
@@ -13953,9 +14199,43 @@ int p4_pd_orbisk_switch_ingressMirrorSession_supports_entry_priority(void);
 typedef struct p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec {
   uint16_t ingMirrorMd_mirrorSession;
 } p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_t;
+pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_add_entry(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_t *match_spec,
+    pd_mbr_hdl mbr_hdl,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_add_entry_with_selector(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_t *match_spec,
+    pd_grp_hdl grp_hdl,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_modify_entry(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_modify_entry_with_selector(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_grp_hdl grp_hdl);
+pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_modify_entry_by_match_spec(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_t *match_spec,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_modify_entry_with_selector_by_match_spec(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_t *match_spec,
+    pd_grp_hdl grp_hdl);
+pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_set_default_entry(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl mbr_hdl,
+    pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_table_delete(pd_sess_hdl sess_hdl,
     uint32_t dev_id,
     pd_entry_hdl entry_hdl);
+pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_set_default_entry_with_selector(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_grp_hdl grp_hdl,
+    pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_table_delete_by_match_spec(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt,
     const p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_t *match_spec);
@@ -13963,6 +14243,16 @@ pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_to_entry_hdl(pd_s
     pd_dev_target dev_tgt,
     const p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_t *match_spec,
     pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_get_entry(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_t *match_spec,
+    bool *has_mbr,
+    bool *has_grp,
+    pd_grp_hdl *grp_hdl,
+    pd_mbr_hdl *mbr_hdl,
+    bool *is_default);
 pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_get_entry_count(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt,
     uint32_t *count);
@@ -14317,9 +14607,43 @@ int p4_pd_orbisk_switch_egressMirrorSession_supports_entry_priority(void);
 typedef struct p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec {
   uint16_t egrMirrorMd_mirrorSession;
 } p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_t;
+pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_add_entry(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_t *match_spec,
+    pd_mbr_hdl mbr_hdl,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_add_entry_with_selector(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_t *match_spec,
+    pd_grp_hdl grp_hdl,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_modify_entry(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_modify_entry_with_selector(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_grp_hdl grp_hdl);
+pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_modify_entry_by_match_spec(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_t *match_spec,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_modify_entry_with_selector_by_match_spec(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_t *match_spec,
+    pd_grp_hdl grp_hdl);
+pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_set_default_entry(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl mbr_hdl,
+    pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_table_delete(pd_sess_hdl sess_hdl,
     uint32_t dev_id,
     pd_entry_hdl entry_hdl);
+pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_set_default_entry_with_selector(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_grp_hdl grp_hdl,
+    pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_table_delete_by_match_spec(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt,
     const p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_t *match_spec);
@@ -14327,6 +14651,16 @@ pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_to_entry_hdl(pd_se
     pd_dev_target dev_tgt,
     const p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_t *match_spec,
     pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_get_entry(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_t *match_spec,
+    bool *has_mbr,
+    bool *has_grp,
+    pd_grp_hdl *grp_hdl,
+    pd_mbr_hdl *mbr_hdl,
+    bool *is_default);
 pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_get_entry_count(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt,
     uint32_t *count);
@@ -17730,9 +18064,47 @@ typedef struct p4_pd_orbisk_switch_foldedPipeDest_match_spec {
   uint16_t ig_intr_md_ingress_port;
   uint16_t ig_intr_md_ingress_port_mask;
 } p4_pd_orbisk_switch_foldedPipeDest_match_spec_t;
+pd_status p4_pd_orbisk_switch_foldedPipeDest_add_entry(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_foldedPipeDest_match_spec_t *match_spec,
+    uint32_t priority,
+    pd_mbr_hdl mbr_hdl,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeDest_add_entry_with_selector(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_foldedPipeDest_match_spec_t *match_spec,
+    uint32_t priority,
+    pd_grp_hdl grp_hdl,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeDest_modify_entry(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeDest_modify_entry_with_selector(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    pd_grp_hdl grp_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeDest_modify_entry_by_match_spec(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_foldedPipeDest_match_spec_t *match_spec,
+    uint32_t priority,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeDest_modify_entry_with_selector_by_match_spec(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_foldedPipeDest_match_spec_t *match_spec,
+    uint32_t priority,
+    pd_grp_hdl grp_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeDest_set_default_entry(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl mbr_hdl,
+    pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_foldedPipeDest_table_delete(pd_sess_hdl sess_hdl,
     uint32_t dev_id,
     pd_entry_hdl entry_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeDest_set_default_entry_with_selector(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_grp_hdl grp_hdl,
+    pd_entry_hdl *entry_hdl);
 pd_status p4_pd_orbisk_switch_foldedPipeDest_table_delete_by_match_spec(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt,
     const p4_pd_orbisk_switch_foldedPipeDest_match_spec_t *match_spec,
@@ -17742,6 +18114,17 @@ pd_status p4_pd_orbisk_switch_foldedPipeDest_match_spec_to_entry_hdl(pd_sess_hdl
     const p4_pd_orbisk_switch_foldedPipeDest_match_spec_t *match_spec,
     uint32_t priority,
     pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeDest_get_entry(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    p4_pd_orbisk_switch_foldedPipeDest_match_spec_t *match_spec,
+    uint32_t *priority,
+    bool *has_mbr,
+    bool *has_grp,
+    pd_grp_hdl *grp_hdl,
+    pd_mbr_hdl *mbr_hdl,
+    bool *is_default);
 pd_status p4_pd_orbisk_switch_foldedPipeDest_get_entry_count(pd_sess_hdl sess_hdl,
     pd_dev_target dev_tgt,
     uint32_t *count);
@@ -17987,20 +18370,778 @@ int p4_pd_orbisk_switch_foldedPipeCounters_ig_intr_md_for_tm_ucast_egress_port_w
 int p4_pd_orbisk_switch_foldedPipeCounters_ingMd_foldedPipeQid_width(void);
 int p4_pd_orbisk_switch_foldedPipeCounters_supports_entry_priority(void);
 
-/* --------------------------------------------- action profiles --- */
+/* ================================================================== */
+/* Action profiles: members, selector groups */
+/* ================================================================== */
 
-/* egrMirrorLagPortActionProfile: action data table 0x02000026, selector table 0x03000003, for egressMirrorLagGroup */
+/* egrMirrorLagPortActionProfile: action data table 0x02000026, selector table 0x03000003;
+ * entries of egressMirrorLagGroup name its members and groups.
+ * Actions: setEgrLagMemberSelector, NoAction. */
 int p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_schema(char *out);
-/* mirrorLagPortActionProfile: action data table 0x0200001d, selector table 0x03000001, for ingressMirrorLagGroup */
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_add_member_with_setEgrLagMemberSelector(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_setEgrLagMemberSelector_action_spec_t *action_spec,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_modify_member_with_setEgrLagMemberSelector(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl,
+    const p4_pd_orbisk_switch_setEgrLagMemberSelector_action_spec_t *action_spec);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_add_member_with_NoAction(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_modify_member_with_NoAction(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_del_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_get_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl,
+    bool read_from_hw,
+    p4_pd_orbisk_switch_action_specs_t *action_spec);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_get_first_member(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_get_next_members(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t count,
+    pd_mbr_hdl *next_mbr_hdls);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_get_act_prof_entry_count(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_get_adt_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_register_adt_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_adt_update_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_create_group(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t max_grp_size,
+    pd_grp_hdl *grp_hdl);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_del_group(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_add_member_to_group(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_del_member_from_group(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_group_member_state_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t mbr_state);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_group_member_state_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t *mbr_state);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_group_member_get_from_hash(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    uint8_t *hash,
+    uint32_t hash_len,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_set_dynamic_action_selection_fallback_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_reset_dynamic_action_selection_fallback_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_get_first_group(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_grp_hdl *grp_hdl);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_get_next_groups(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_grp_hdl grp_hdl,
+    uint32_t count,
+    pd_grp_hdl *next_grp_hdls);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_get_first_group_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_get_next_group_members(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t count,
+    pd_mbr_hdl *next_mbr_hdls);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_get_selector_group_count(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_get_selector_group_member_count(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_get_word_llp_active_member_count(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t word_index,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_get_word_llp_active_members(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t word_index,
+    uint32_t count,
+    pd_mbr_hdl *next_mbr_hdls);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_get_sel_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_register_callback(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_sel_tbl_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_sel_track_updates(uint32_t dev_id,
+    pd_sel_tbl_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_register_sel_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_sel_update_cb callback,
+    void *cookie);
+
+/* mirrorLagPortActionProfile: action data table 0x0200001d, selector table 0x03000001;
+ * entries of ingressMirrorLagGroup name its members and groups.
+ * Actions: setLagMemberSelector, NoAction. */
 int p4_pd_orbisk_switch_mirrorLagPortActionProfile_schema(char *out);
-/* foldedPipeActionProfile: action data table 0x02000021, selector table 0x03000002, for foldedPipeDest */
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_add_member_with_setLagMemberSelector(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_setLagMemberSelector_action_spec_t *action_spec,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_modify_member_with_setLagMemberSelector(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl,
+    const p4_pd_orbisk_switch_setLagMemberSelector_action_spec_t *action_spec);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_add_member_with_NoAction(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_modify_member_with_NoAction(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_del_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_get_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl,
+    bool read_from_hw,
+    p4_pd_orbisk_switch_action_specs_t *action_spec);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_get_first_member(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_get_next_members(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t count,
+    pd_mbr_hdl *next_mbr_hdls);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_get_act_prof_entry_count(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_get_adt_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_register_adt_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_adt_update_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_create_group(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t max_grp_size,
+    pd_grp_hdl *grp_hdl);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_del_group(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_add_member_to_group(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_del_member_from_group(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_group_member_state_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t mbr_state);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_group_member_state_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t *mbr_state);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_group_member_get_from_hash(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    uint8_t *hash,
+    uint32_t hash_len,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_set_dynamic_action_selection_fallback_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_reset_dynamic_action_selection_fallback_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_get_first_group(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_grp_hdl *grp_hdl);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_get_next_groups(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_grp_hdl grp_hdl,
+    uint32_t count,
+    pd_grp_hdl *next_grp_hdls);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_get_first_group_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_get_next_group_members(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t count,
+    pd_mbr_hdl *next_mbr_hdls);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_get_selector_group_count(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_get_selector_group_member_count(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_get_word_llp_active_member_count(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t word_index,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_get_word_llp_active_members(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t word_index,
+    uint32_t count,
+    pd_mbr_hdl *next_mbr_hdls);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_get_sel_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_register_callback(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_sel_tbl_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_sel_track_updates(uint32_t dev_id,
+    pd_sel_tbl_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_register_sel_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_sel_update_cb callback,
+    void *cookie);
+
+/* foldedPipeActionProfile: action data table 0x02000021, selector table 0x03000002;
+ * entries of foldedPipeDest name its members and groups.
+ * Actions: setFoldedPipePort, NoAction. */
 int p4_pd_orbisk_switch_foldedPipeActionProfile_schema(char *out);
-/* ecmpMemberActionProfile: action data table 0x12010003, selector table 0x13010001, for ecmpGroup */
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_add_member_with_setFoldedPipePort(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_setFoldedPipePort_action_spec_t *action_spec,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_modify_member_with_setFoldedPipePort(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl,
+    const p4_pd_orbisk_switch_setFoldedPipePort_action_spec_t *action_spec);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_add_member_with_NoAction(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_modify_member_with_NoAction(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_del_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_get_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl,
+    bool read_from_hw,
+    p4_pd_orbisk_switch_action_specs_t *action_spec);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_get_first_member(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_get_next_members(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t count,
+    pd_mbr_hdl *next_mbr_hdls);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_get_act_prof_entry_count(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_get_adt_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_register_adt_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_adt_update_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_create_group(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t max_grp_size,
+    pd_grp_hdl *grp_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_del_group(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_add_member_to_group(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_del_member_from_group(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_group_member_state_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t mbr_state);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_group_member_state_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t *mbr_state);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_group_member_get_from_hash(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    uint8_t *hash,
+    uint32_t hash_len,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_set_dynamic_action_selection_fallback_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_reset_dynamic_action_selection_fallback_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_get_first_group(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_grp_hdl *grp_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_get_next_groups(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_grp_hdl grp_hdl,
+    uint32_t count,
+    pd_grp_hdl *next_grp_hdls);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_get_first_group_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_get_next_group_members(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t count,
+    pd_mbr_hdl *next_mbr_hdls);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_get_selector_group_count(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_get_selector_group_member_count(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_get_word_llp_active_member_count(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t word_index,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_get_word_llp_active_members(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t word_index,
+    uint32_t count,
+    pd_mbr_hdl *next_mbr_hdls);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_get_sel_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_register_callback(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_sel_tbl_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_sel_track_updates(uint32_t dev_id,
+    pd_sel_tbl_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_register_sel_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_sel_update_cb callback,
+    void *cookie);
+
+/* ecmpMemberActionProfile: action data table 0x12010003, selector table 0x13010001;
+ * entries of ecmpGroup name its members and groups.
+ * Actions: setEcmpNextHop, NoAction. */
 int p4_pd_orbisk_switch_ecmpMemberActionProfile_schema(char *out);
-/* tunnelMemberActionProfile: action data table 0x1201000c, selector table 0x13010002, for tunnelResolve */
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_add_member_with_setEcmpNextHop(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_setEcmpNextHop_action_spec_t *action_spec,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_modify_member_with_setEcmpNextHop(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl,
+    const p4_pd_orbisk_switch_setEcmpNextHop_action_spec_t *action_spec);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_add_member_with_NoAction(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_modify_member_with_NoAction(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_del_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_get_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl,
+    bool read_from_hw,
+    p4_pd_orbisk_switch_action_specs_t *action_spec);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_get_first_member(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_get_next_members(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t count,
+    pd_mbr_hdl *next_mbr_hdls);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_get_act_prof_entry_count(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_get_adt_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_register_adt_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_adt_update_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_create_group(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t max_grp_size,
+    pd_grp_hdl *grp_hdl);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_del_group(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_add_member_to_group(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_del_member_from_group(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_group_member_state_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t mbr_state);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_group_member_state_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t *mbr_state);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_group_member_get_from_hash(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    uint8_t *hash,
+    uint32_t hash_len,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_set_dynamic_action_selection_fallback_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_reset_dynamic_action_selection_fallback_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_get_first_group(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_grp_hdl *grp_hdl);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_get_next_groups(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_grp_hdl grp_hdl,
+    uint32_t count,
+    pd_grp_hdl *next_grp_hdls);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_get_first_group_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_get_next_group_members(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t count,
+    pd_mbr_hdl *next_mbr_hdls);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_get_selector_group_count(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_get_selector_group_member_count(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_get_word_llp_active_member_count(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t word_index,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_get_word_llp_active_members(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t word_index,
+    uint32_t count,
+    pd_mbr_hdl *next_mbr_hdls);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_get_sel_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_register_callback(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_sel_tbl_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_sel_track_updates(uint32_t dev_id,
+    pd_sel_tbl_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_register_sel_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_sel_update_cb callback,
+    void *cookie);
+
+/* tunnelMemberActionProfile: action data table 0x1201000c, selector table 0x13010002;
+ * entries of tunnelResolve name its members and groups.
+ * Actions: setTunnelEgressInfo, NoAction. */
 int p4_pd_orbisk_switch_tunnelMemberActionProfile_schema(char *out);
-/* lagPortActionProfile: action data table 0x1201000e, selector table 0x13010003, for lagGroup */
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_add_member_with_setTunnelEgressInfo(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_setTunnelEgressInfo_action_spec_t *action_spec,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_modify_member_with_setTunnelEgressInfo(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl,
+    const p4_pd_orbisk_switch_setTunnelEgressInfo_action_spec_t *action_spec);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_add_member_with_NoAction(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_modify_member_with_NoAction(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_del_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_get_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl,
+    bool read_from_hw,
+    p4_pd_orbisk_switch_action_specs_t *action_spec);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_get_first_member(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_get_next_members(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t count,
+    pd_mbr_hdl *next_mbr_hdls);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_get_act_prof_entry_count(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_get_adt_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_register_adt_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_adt_update_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_create_group(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t max_grp_size,
+    pd_grp_hdl *grp_hdl);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_del_group(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_add_member_to_group(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_del_member_from_group(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_group_member_state_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t mbr_state);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_group_member_state_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t *mbr_state);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_group_member_get_from_hash(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    uint8_t *hash,
+    uint32_t hash_len,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_set_dynamic_action_selection_fallback_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_reset_dynamic_action_selection_fallback_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_get_first_group(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_grp_hdl *grp_hdl);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_get_next_groups(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_grp_hdl grp_hdl,
+    uint32_t count,
+    pd_grp_hdl *next_grp_hdls);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_get_first_group_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_get_next_group_members(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t count,
+    pd_mbr_hdl *next_mbr_hdls);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_get_selector_group_count(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_get_selector_group_member_count(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_get_word_llp_active_member_count(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t word_index,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_get_word_llp_active_members(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t word_index,
+    uint32_t count,
+    pd_mbr_hdl *next_mbr_hdls);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_get_sel_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_register_callback(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_sel_tbl_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_sel_track_updates(uint32_t dev_id,
+    pd_sel_tbl_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_register_sel_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_sel_update_cb callback,
+    void *cookie);
+
+/* lagPortActionProfile: action data table 0x1201000e, selector table 0x13010003;
+ * entries of lagGroup name its members and groups.
+ * Actions: setLagPort, setPhysicalPort, setTunnelInfo,
+ * invalidateUcastEgressPort, fixL2SubintfAlignment. */
 int p4_pd_orbisk_switch_lagPortActionProfile_schema(char *out);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_add_member_with_setLagPort(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    const p4_pd_orbisk_switch_setLagPort_action_spec_t *action_spec,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_modify_member_with_setLagPort(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl,
+    const p4_pd_orbisk_switch_setLagPort_action_spec_t *action_spec);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_add_member_with_setPhysicalPort(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_modify_member_with_setPhysicalPort(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_add_member_with_setTunnelInfo(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_modify_member_with_setTunnelInfo(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_add_member_with_invalidateUcastEgressPort(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_modify_member_with_invalidateUcastEgressPort(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_add_member_with_fixL2SubintfAlignment(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_modify_member_with_fixL2SubintfAlignment(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_del_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_get_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl,
+    bool read_from_hw,
+    p4_pd_orbisk_switch_action_specs_t *action_spec);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_get_first_member(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_get_next_members(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t count,
+    pd_mbr_hdl *next_mbr_hdls);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_get_act_prof_entry_count(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_get_adt_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_register_adt_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_adt_update_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_create_group(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t max_grp_size,
+    pd_grp_hdl *grp_hdl);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_del_group(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_add_member_to_group(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_del_member_from_group(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_group_member_state_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t mbr_state);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_group_member_state_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t *mbr_state);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_group_member_get_from_hash(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    uint8_t *hash,
+    uint32_t hash_len,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_set_dynamic_action_selection_fallback_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_reset_dynamic_action_selection_fallback_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_get_first_group(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_grp_hdl *grp_hdl);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_get_next_groups(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_grp_hdl grp_hdl,
+    uint32_t count,
+    pd_grp_hdl *next_grp_hdls);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_get_first_group_member(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl *mbr_hdl);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_get_next_group_members(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t count,
+    pd_mbr_hdl *next_mbr_hdls);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_get_selector_group_count(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_get_selector_group_member_count(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_grp_hdl grp_hdl,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_get_word_llp_active_member_count(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t word_index,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_get_word_llp_active_members(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t word_index,
+    uint32_t count,
+    pd_mbr_hdl *next_mbr_hdls);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_get_sel_table_handle(pd_tbl_hdl *tbl_hdl);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_register_callback(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_sel_tbl_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_sel_track_updates(uint32_t dev_id,
+    pd_sel_tbl_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_register_sel_update_cb(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_sel_update_cb callback,
+    void *cookie);
 
 /* ------------------------------------------------------------------ */
 /* counters, meters and registers */

@@ -261,6 +261,117 @@ pd_status p4_pd_ms_destroy_txn_state_for_dev(uint32_t device_id);
 pd_status p4_pd_ms_log_state(uint32_t device_id, pd_ms_state *state, void *cjson_object);
 pd_status p4_pd_ms_restore_state(uint32_t device_id, pd_ms_state *state, void *cjson_object);
 
+/* Action profiles: action data tables (members). The fifth argument of
+ * pipe_mgr_adt_ent_add and every flags word are 0 from this library. A read
+ * of a member fills the action record's data part (num_valid_bits, num_bytes,
+ * data_bytes, with num_bytes the room offered) and takes no session. */
+pd_status pipe_mgr_adt_ent_add(pd_sess_hdl sess, pd_dev_target target, pd_tbl_hdl adt,
+                               pd_act_fn_hdl fn, uint32_t reserved, pd_action_record *act,
+                               pd_mbr_hdl *mbr_hdl, uint32_t flags);
+pd_status pipe_mgr_adt_ent_set(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl adt,
+                               pd_mbr_hdl mbr_hdl, pd_act_fn_hdl fn, pd_action_record *act,
+                               uint32_t flags);
+pd_status pipe_mgr_adt_ent_del(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl adt,
+                               pd_mbr_hdl mbr_hdl, uint32_t flags);
+pd_status pipe_mgr_get_action_data_entry(pd_tbl_hdl adt, pd_dev_target target, pd_mbr_hdl mbr_hdl,
+                                         pd_action_record *act, pd_act_fn_hdl *fn,
+                                         uint8_t read_from_hw);
+pd_status pipe_register_adt_update_cb(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl adt,
+                                      pd_adt_update_cb callback, void *cookie);
+
+/* Member-selection service: what each member of a profile runs. */
+pd_status p4_pd_ms_new_mbr(pd_sess_hdl sess, pd_ms_state *state, uint32_t device_id,
+                           pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_ms_set_mbr_act(pd_ms_state *state, uint32_t device_id, pd_mbr_hdl mbr_hdl,
+                               pd_act_fn_hdl fn);
+pd_status p4_pd_ms_get_mbr_act(pd_ms_state *state, uint32_t device_id, pd_mbr_hdl mbr_hdl,
+                               pd_act_fn_hdl *fn);
+pd_status p4_pd_ms_del_mbr(pd_sess_hdl sess, pd_ms_state *state, uint32_t device_id,
+                           pd_mbr_hdl mbr_hdl);
+pd_status p4_pd_ms_mbr_get_res(pd_ms_state *state, uint32_t device_id, pd_mbr_hdl mbr_hdl,
+                               uint32_t *count, pd_resource_index **resources);
+
+/* Selector tables (groups). The fourth argument of pipe_mgr_sel_grp_add is 0
+ * and its sixth 0xDEADBEEF from this library, and every flags word is 0. A
+ * member state is P4_PD_GRP_MBR_STATE_*; the state bytes of
+ * pipe_mgr_sel_grp_mbrs_get are the driver's. */
+pd_status pipe_mgr_sel_grp_add(pd_sess_hdl sess, pd_dev_target target, pd_tbl_hdl sel,
+                               uint32_t reserved, uint32_t max_size, uint32_t cookie,
+                               pd_grp_hdl *grp_hdl, uint32_t flags);
+pd_status pipe_mgr_sel_grp_del(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl sel,
+                               pd_grp_hdl grp_hdl, uint32_t flags);
+pd_status pipe_mgr_sel_grp_mbr_add(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl sel,
+                                   pd_grp_hdl grp_hdl, pd_act_fn_hdl fn, pd_mbr_hdl mbr_hdl,
+                                   uint32_t flags);
+pd_status pipe_mgr_sel_grp_mbr_del(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl sel,
+                                   pd_grp_hdl grp_hdl, pd_mbr_hdl mbr_hdl, uint32_t flags);
+pd_status pipe_mgr_sel_grp_mbr_enable(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl sel,
+                                      pd_grp_hdl grp_hdl, pd_mbr_hdl mbr_hdl, uint32_t flags);
+pd_status pipe_mgr_sel_grp_mbr_disable(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl sel,
+                                       pd_grp_hdl grp_hdl, pd_mbr_hdl mbr_hdl, uint32_t flags);
+pd_status pipe_mgr_sel_grp_mbr_state_get(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl sel,
+                                         pd_grp_hdl grp_hdl, pd_mbr_hdl mbr_hdl,
+                                         uint32_t *mbr_state);
+pd_status pipe_mgr_sel_grp_mbr_get_from_hash(pd_sess_hdl sess, uint32_t device_id,
+                                             pd_tbl_hdl sel, pd_grp_hdl grp_hdl,
+                                             uint8_t *hash, uint32_t hash_len,
+                                             pd_mbr_hdl *mbr_hdl);
+pd_status pipe_mgr_sel_fallback_mbr_set(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl sel,
+                                        pd_mbr_hdl mbr_hdl, uint32_t flags);
+pd_status pipe_mgr_sel_fallback_mbr_reset(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl sel,
+                                          uint32_t flags);
+pd_status pipe_mgr_get_sel_grp_mbr_count(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl sel,
+                                         pd_grp_hdl grp_hdl, uint32_t *count);
+pd_status pipe_mgr_sel_grp_mbrs_get(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl sel,
+                                    pd_grp_hdl grp_hdl, uint32_t capacity, pd_mbr_hdl *mbr_hdls,
+                                    uint8_t *mbr_states, uint32_t *written, uint32_t flags);
+pd_status pipe_mgr_get_first_group_member(pd_sess_hdl sess, pd_tbl_hdl sel, uint32_t device_id,
+                                          pd_grp_hdl grp_hdl, pd_mbr_hdl *mbr_hdl);
+pd_status pipe_mgr_get_next_group_members(pd_sess_hdl sess, pd_tbl_hdl sel, uint32_t device_id,
+                                          pd_grp_hdl grp_hdl, pd_mbr_hdl mbr_hdl, uint32_t count,
+                                          pd_mbr_hdl *next_mbr_hdls);
+pd_status pipe_mgr_get_word_llp_active_member_count(pd_sess_hdl sess, uint32_t device_id,
+                                                    pd_tbl_hdl sel, uint32_t word_index,
+                                                    uint32_t *count);
+pd_status pipe_mgr_get_word_llp_active_members(pd_sess_hdl sess, uint32_t device_id,
+                                               pd_tbl_hdl sel, uint32_t word_index,
+                                               uint32_t count, pd_mbr_hdl *mbr_hdls);
+pd_status pipe_mgr_sel_tbl_register_cb(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl sel,
+                                       pd_sel_tbl_cb callback, void *cookie);
+pd_status pipe_register_sel_update_cb(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl sel,
+                                      pd_sel_update_cb callback, void *cookie);
+
+/* Member-selection service: groups, their members and their action. Note
+ * that the member handle stands before the group handle here. */
+pd_status p4_pd_ms_new_grp(pd_sess_hdl sess, pd_ms_state *state, uint32_t device_id,
+                           pd_grp_hdl grp_hdl);
+pd_status p4_pd_ms_del_grp(pd_sess_hdl sess, pd_ms_state *state, uint32_t device_id,
+                           pd_grp_hdl grp_hdl, uint32_t num_mbrs, pd_mbr_hdl *mbr_hdls);
+pd_status p4_pd_ms_add_mbr_to_grp(pd_sess_hdl sess, pd_ms_state *state, uint32_t device_id,
+                                  pd_mbr_hdl mbr_hdl, pd_grp_hdl grp_hdl);
+pd_status p4_pd_ms_del_mbr_from_grp(pd_sess_hdl sess, pd_ms_state *state, uint32_t device_id,
+                                    pd_mbr_hdl mbr_hdl, pd_grp_hdl grp_hdl);
+pd_status p4_pd_ms_get_grp_act(pd_ms_state *state, uint32_t device_id, pd_grp_hdl grp_hdl,
+                               pd_act_fn_hdl *fn);
+pd_status p4_pd_ms_set_grp_act(pd_ms_state *state, uint32_t device_id, pd_grp_hdl grp_hdl,
+                               pd_act_fn_hdl fn);
+pd_status p4_pd_ms_grp_get_res(pd_ms_state *state, uint32_t device_id, pd_grp_hdl grp_hdl,
+                               uint32_t *count, pd_resource_index **resources);
+pd_status p4_pd_ms_mbr_apply_to_grps(pd_ms_state *state, uint32_t device_id, pd_mbr_hdl mbr_hdl,
+                                     pd_ms_grp_fn fn, void *aux);
+/* Brings a group's resources in line with a member's; aux is the state. */
+pd_status p4_pd_ms_grp_update_res(uint32_t device_id, pd_mbr_hdl mbr_hdl, pd_grp_hdl grp_hdl,
+                                  void *aux);
+
+/* Hitless restore: the driver replays, through the callback, every member,
+ * group and membership of the device's action data and selector tables as
+ * the hardware holds them. restore_flags is handed to each item; driver_state
+ * and reserved are the driver's own. */
+pd_status pipe_mgr_hitless_ha_restore_virtual_dev_state(pd_sess_hdl sess, uint32_t device_id,
+                                                        uint32_t restore_flags, void *driver_state,
+                                                        void *reserved,
+                                                        pd_ha_restore_cb callback);
+
 #ifdef __cplusplus
 }
 #endif

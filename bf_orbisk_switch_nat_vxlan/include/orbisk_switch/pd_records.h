@@ -218,6 +218,30 @@ PD_STATIC_ASSERT(offsetof(pd_register_query, data) == 8, "data at 8");
 typedef void (*pd_stat_sync_cb)(uint32_t device_id, void *cookie);
 typedef void (*pd_register_sync_cb)(uint32_t device_id, void *cookie);
 
+/* update_type values of an action data or selector table update. */
+#define PD_PROFILE_UPDATE_ADD 0u
+#define PD_PROFILE_UPDATE_MODIFY 1u
+#define PD_PROFILE_UPDATE_DELETE 2u
+/* A member of an action profile was added, given new data, or deleted. */
+typedef void (*pd_adt_update_cb)(uint32_t device_id, pd_tbl_hdl adt, pd_mbr_hdl mbr_hdl,
+                                 uint32_t update_type, void *cookie);
+/* A member of a selector group was turned on or off (active 1 or 0). */
+typedef void (*pd_sel_tbl_cb)(uint32_t device_id, pd_tbl_hdl sel, pd_grp_hdl grp_hdl,
+                              pd_mbr_hdl mbr_hdl, uint32_t active, void *cookie);
+/* A selector group was made or deleted (mbr_hdl 0), or a member was added to
+ * or removed from one. */
+typedef void (*pd_sel_update_cb)(uint32_t device_id, pd_tbl_hdl sel, pd_grp_hdl grp_hdl,
+                                 pd_mbr_hdl mbr_hdl, uint32_t update_type, void *cookie);
+/* What the member-selection service applies to each group that holds a
+ * member (p4_pd_ms_mbr_apply_to_grps); aux is given through unchanged. */
+typedef pd_status (*pd_ms_grp_fn)(uint32_t device_id, pd_mbr_hdl mbr_hdl, pd_grp_hdl grp_hdl,
+                                  void *aux);
+/* One item of a hitless restore: a member (grp_hdl 0), a group (mbr_hdl 0) or
+ * a member of a group, of the profile whose action data table is adt, with
+ * the member's action; flags is the restore's flag word. */
+typedef void (*pd_ha_restore_cb)(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl adt,
+                                 pd_act_fn_hdl fn, pd_grp_hdl grp_hdl, pd_mbr_hdl mbr_hdl,
+                                 uint32_t flags);
 /* The driver's form of a hash field attribute: 32 bytes. The library fills
  * input_field, the same plus one in field_id, attr_type and the low 32 bits
  * of value; the two reserved words are 0. */

@@ -159,6 +159,11 @@ PD_STATIC_ASSERT(offsetof(pd_parser_target, parser_id) == 12, "parser_id at 12")
 /* Opaque member-selection state of one action profile. */
 typedef struct pd_ms_state pd_ms_state;
 
+/* State of a member inside a selector group: active (chosen by the hash) or
+ * not. Any other value given to group_member_state_set ends the process. */
+#define P4_PD_GRP_MBR_STATE_ACTIVE 0u
+#define P4_PD_GRP_MBR_STATE_INACTIVE 1u
+
 #ifdef __cplusplus
 }
 #endif

@@ -5,12 +5,19 @@
 #include <cstring>
 
 #include "assertions.h"
+#include "descriptors.h"
 #include "export.h"
 #include "orbisk_switch/pd.h"
 #include "orbisk_switch/pd_driver.h"
 #include "pd_frame.h"
 
 using namespace orbisk::pd;
+
+// The one driver function whose address the library takes rather than calls:
+// an address is bound when the library loads, not at the first call, so it
+// is weak, and an agent that loads the library without a driver (to look up
+// action names only) still loads.
+#pragma weak p4_pd_ms_grp_update_res
 
 extern "C" {
 PD_EXPORT_DATA uint32_t bf_drv_hdl = 0;
@@ -66,6 +73,53 @@ PD_EXPORT pd_status p4_pd_orbisk_switch_dev_restore(uint32_t device_id, void *js
 }
 
 PD_EXPORT void p4_pd_orbisk_switch_device_state_cleanup(void) {}
+
+PD_EXPORT pd_status p4_pd_orbisk_switch_restore_virtual_dev_state(pd_sess_hdl sess_hdl,
+                                                                  uint32_t device_id,
+                                                                  uint32_t restore_flags,
+                                                                  void *driver_state,
+                                                                  void *reserved) {
+  return pipe_mgr_hitless_ha_restore_virtual_dev_state(sess_hdl, device_id, restore_flags,
+                                                       driver_state, reserved,
+                                                       p4_pd_orbisk_switch_ha_restore_state_from_adt_sel);
+}
+
+// The state is rebuilt with the calls the live paths make: a member and its
+// action, a group, a member joining a group (the group taking the member's
+// recorded action, not the one replayed), then the member's resources handed
+// to every group that holds it.
+PD_EXPORT void p4_pd_orbisk_switch_ha_restore_state_from_adt_sel(pd_sess_hdl sess_hdl,
+                                                                 uint32_t device_id,
+                                                                 pd_tbl_hdl adt_hdl,
+                                                                 pd_act_fn_hdl act_fn_hdl,
+                                                                 pd_grp_hdl grp_hdl,
+                                                                 pd_mbr_hdl mbr_hdl,
+                                                                 uint32_t flags) {
+  const ProfileDesc *p = nullptr;
+  pd_ms_state *state = nullptr;
+  for (std::size_t i = 0; i < kNumProfiles; ++i) {
+    if (kProfiles[i].adt_hdl == adt_hdl) {
+      p = &kProfiles[i];
+      state = *kProfileSlots[i].state;
+    }
+  }
+  if (p == nullptr) return;
+  if (grp_hdl == 0 && mbr_hdl != 0) {
+    p4_pd_ms_new_mbr(sess_hdl, state, device_id, mbr_hdl);
+    p4_pd_ms_set_mbr_act(state, device_id, mbr_hdl, act_fn_hdl);
+  } else if (mbr_hdl == 0 && grp_hdl != 0) {
+    p4_pd_ms_new_grp(sess_hdl, state, device_id, grp_hdl);
+  } else if (mbr_hdl != 0 && grp_hdl != 0) {
+    p4_pd_ms_add_mbr_to_grp(sess_hdl, state, device_id, mbr_hdl, grp_hdl);
+    pd_act_fn_hdl recorded = 0;
+    if (p4_pd_ms_get_mbr_act(state, device_id, mbr_hdl, &recorded) != BF_SUCCESS) return;
+    p4_pd_ms_set_grp_act(state, device_id, grp_hdl, recorded);
+  }
+  bool of_profile = false;
+  for (uint16_t i = 0; i < p->num_actions; ++i) of_profile |= p->actions[i].handle == act_fn_hdl;
+  if (flags == 0 || !of_profile) return;
+  p4_pd_ms_mbr_apply_to_grps(state, device_id, mbr_hdl, p4_pd_ms_grp_update_res, state);
+}
 
 PD_EXPORT const char *p4_pd_orbisk_switch_action_enum_to_string(uint32_t action) {
   if (action >= P4_PD_ORBISK_SWITCH_ACTION_COUNT) return nullptr;

@@ -28,7 +28,7 @@ EXPORTED_OBJECTS = [o for g in GROUPS for o in getattr(g, "EXPORTED_OBJECTS", []
 
 
 # The families whose functions are not a table's.
-NOT_OF_TABLES = ("action", "profile", "program", "resource", "service", "item")
+NOT_OF_TABLES = ("action", "profile", "profile_action", "program", "resource", "service", "item")
 
 
 def table_functions(t):
@@ -38,12 +38,13 @@ def table_functions(t):
 
 
 def documented_families():
-    """The table, action and profile families, in the order of a table's
-    declarations (those of an action, then of a profile, then of resources,
-    last), for the header's family list."""
+    """The table, profile, action and resource families, in the order of a
+    table's declarations (those of a profile, of an action, then of the
+    resources, last), for the header's family list."""
     table = sorted((f for f in FAMILIES if f.each not in NOT_OF_TABLES), key=lambda f: f.place)
-    return (table + [f for f in FAMILIES if f.each == "action"]
-            + [f for f in FAMILIES if f.each == "profile"]
+    profile = sorted((f for f in FAMILIES if f.each in ("profile", "profile_action")),
+                     key=lambda f: f.place)
+    return (table + profile + [f for f in FAMILIES if f.each == "action"]
             + [f for f in FAMILIES if f.each in ("resource", "service")])
 
 
@@ -70,14 +71,16 @@ def item_sections(prog):
     return out
 
 
+def profile_functions(p):
+    """Every exported function of action profile p, in the order of its declarations."""
+    keyed = [kf for f in FAMILIES if f.each in ("profile", "profile_action")
+             for kf in f.profile_functions(p)]
+    return [fn for _, fn in sorted(keyed, key=lambda kf: kf[0])]
+
+
 def action_functions(a):
     """Every exported function of one action of the program (not of a table)."""
     return [f.fn(a=a) for f in FAMILIES if f.each == "action" and f.when(a)]
-
-
-def profile_functions(r):
-    """Every exported function of one action profile."""
-    return [f.fn(r=r) for f in FAMILIES if f.each == "profile" and f.when(r)]
 
 
 def unbuild_action_fn(a):
@@ -104,10 +107,10 @@ def all_functions(prog):
         fns += resource_functions(prog, r)
     for t in prog.tables:
         fns += table_functions(t)
+    for p in prog.profiles:
+        fns += profile_functions(p)
     for a in prog.actions:
         fns += action_functions(a)
-    for r in prog.profiles:
-        fns += profile_functions(r)
     for _, ifns in item_sections(prog):
         fns += ifns
     return fns

@@ -71,6 +71,7 @@ class Fn:
                  field=None, profile=None, resource=None):
         self.resource = resource
         self.name = name
+        self.profile = profile
         self.result = result
         self.args = args
         self.family = family
@@ -110,8 +111,10 @@ class Family:
              per action a table allows as an entry's or as its default;
              'field': one per key field of a table (not its mask or prefix
              length); 'action': one per action of the program; 'profile': one
-             per action profile; 'program': one; 'resource': one per counter,
-             meter or register ({r} its name, and its Args' functions get the
+             per action profile ({r} its name, and its Args' functions get the
+             profile in place of the table); 'profile_action': one per action
+             of a profile; 'program': one; 'resource': one per counter, meter
+             or register ({r} its name, and its Args' functions get the
              resource in place of the table); 'service': one, declared with
              the resources
     when     which tables (or, for 'action', which actions, for 'profile',
@@ -148,13 +151,13 @@ class Family:
             name = self.name.format(p=PREFIX, a=a.name)
             args = [x for arg in self.args for x in arg.resolve(None, a)]
             return Fn(name, self.result, args, self.id, action=a, kind=self)
+        if self.each in ("profile", "profile_action"):
+            name = self.name.format(p=PREFIX, r=r.name, a=a.name if a else "")
+            args = [x for arg in self.args for x in arg.resolve(r, a)]
+            return Fn(name, self.result, args, self.id, action=a, kind=self, profile=r)
         if self.each in ("program", "service"):
             args = [x for arg in self.args for x in arg.resolve(None, None)]
             return Fn(self.name.format(p=PREFIX), self.result, args, self.id, kind=self)
-        if self.each == "profile":
-            args = [x for arg in self.args for x in arg.resolve(None, None)]
-            return Fn(self.name.format(p=PREFIX, r=r.name), self.result, args, self.id, kind=self,
-                      profile=r)
         name = self.name.format(p=PREFIX, t=t.name, a=a.name if a else "",
                                 f=self.field_name(f) if f else "")
         args = [x for arg in self.args for x in arg.resolve(t, a)]
@@ -172,6 +175,12 @@ class Family:
         use = "entry" if self.each == "entry_action" else "default"
         return [((self.place[0], i, self.place[1]), self.fn(t, a))
                 for i, a in enumerate(t.actions) if getattr(a, use)]
+
+    def profile_functions(self, p):
+        """(sort key, Fn) for every function of this family on profile p."""
+        if self.each == "profile":
+            return [((self.place[0], -1, self.place[1]), self.fn(r=p))] if self.when(p) else []
+        return [((self.place[0], i, self.place[1]), self.fn(a=a, r=p)) for i, a in enumerate(p.actions)]
 
     def pattern(self):
         """The name as the documentation shows it."""

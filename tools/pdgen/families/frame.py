@@ -21,6 +21,17 @@ FAMILIES = [
     program("dev_log", [DEVICE, JSON], "Writes a device's member-selection state into a JSON object."),
     program("dev_restore", [DEVICE, JSON], "Reads a device's member-selection state back from one."),
     program("device_state_cleanup", [], "Nothing to release: kept for agents that call it.", result="void"),
+    program("restore_virtual_dev_state",
+            [Arg("pd_sess_hdl", "sess_hdl", "sess"), DEVICE, Arg("uint32_t", "restore_flags", "flags"),
+             Arg("void *", "driver_state", "driver state"), Arg("void *", "reserved", "reserved")],
+            "After a hitless restart: has the driver replay every member, group and membership "
+            "it holds into ha_restore_state_from_adt_sel."),
+    program("ha_restore_state_from_adt_sel",
+            [Arg("pd_sess_hdl", "sess_hdl", "sess"), DEVICE, Arg("pd_tbl_hdl", "adt_hdl", "action data table"),
+             Arg("pd_act_fn_hdl", "act_fn_hdl", "action"), Arg("pd_grp_hdl", "grp_hdl", "group"),
+             Arg("pd_mbr_hdl", "mbr_hdl", "member"), Arg("uint32_t", "flags", "flags")],
+            "Rebuilds one member, group or membership in its profile's member-selection state; "
+            "a table of no profile is passed over.", result="void"),
     program("action_enum_to_string", [Arg("uint32_t", "action", "action")],
             "Full name of an action; NULL past the last.", result="const char *"),
     program("action_string_to_enum", [Arg("const char *", "name", "name")],
@@ -41,7 +52,9 @@ def files(prog):
          "struct ProfileSlot {", "  const char *name;", "  pd_ms_state **state;", "};",
          "// Every profile's, in the order of creation.",
          "extern const ProfileSlot kProfileSlots[%d];" % len(prog.profiles), "",
-         "}  // namespace orbisk::pd", ""]
+         "}  // namespace orbisk::pd", "",
+         "// Each profile's state by itself, for the functions of one profile."] + [
+         "extern pd_ms_state *pd_ms_slot_%s;" % p.state_slot for p in prog.profiles] + [""]
     c = ["// Generated from the catalogue. Do not edit.", '#include "export.h"', '#include "pd_frame.h"', "",
          "using namespace orbisk::pd;", ""]
     return {"pd_frame.h": "\n".join(h), "pd_frame.cpp": "\n".join(c + action_names(prog) + profile_slots(prog))}
