@@ -17,9 +17,10 @@
  * and read back; and a route is balanced over an ECMP group of three next
  * hops: one is turned off and on, the group read back each time, and the
  * device's state is logged, removed and restored, the route still resolving
- * to the same group and members. A failed status ends the program at once,
- * and any difference makes it end with status 1; either is explained on
- * stderr.
+ * to the same group and members. It computes the ECMP hash of a flow, and
+ * prints a MAC learning digest the driver delivers, then acknowledges it. A
+ * failed status ends the program at once, and any difference makes it end
+ * with status 1; either is explained on stderr.
  *
  * Only the library's interface is used, and the driver model's clock to let
  * time pass. The driver functions it calls come from whatever implements
@@ -570,6 +571,96 @@ static void show_schemas(void) {
   }
 }
 
+/* -------------------------------------------------------- ECMP hash --- */
+
+/* The flow 10.0.0.1:49152 -> 192.168.0.1:443 over TCP, hashed the way the
+ * pipeline's outer IP and L4 hash sees it: protocol, source and destination
+ * address, source and destination port, 104 bits back to back. The model
+ * hashes with the algorithm the calculation uses, started from its seed; the
+ * agent checks the value against the same algorithm run on the bytes the
+ * flow makes. */
+static void ecmp_hash(void) {
+  static const uint32_t widths[5] = {8, 32, 32, 16, 16};
+  const pd_hash_calc_attribute flow[5] = {
+      {0, 0, 6}, {1, 0, 0x0a000001u}, {2, 0, 0xc0a80001u}, {3, 0, 49152}, {4, 0, 443}};
+  static const uint8_t bytes[13] = {6,    0x0a, 0x00, 0x00, 0x01, 0xc0, 0xa8,
+                                    0x00, 0x01, 0xc0, 0x00, 0x01, 0xbb};
+  uint64_t seed = 0;
+  uint8_t hash[4];
+  must(p4_pd_orbisk_switch_hash_calc_hashOuterIpAndL4Hdr_seed_set(SESS, DEVICE, 0x5eed),
+       "hashOuterIpAndL4Hdr seed_set");
+  must(p4_pd_orbisk_switch_hash_calc_hashOuterIpAndL4Hdr_seed_get(SESS, DEVICE, &seed),
+       "hashOuterIpAndL4Hdr seed_get");
+  must(p4_pd_orbisk_switch_hash_calc_hashOuterIpAndL4Hdr_calculate_hash_value(
+           SESS, DEVICE, 5, flow, widths, hash, sizeof hash),
+       "hashOuterIpAndL4Hdr calculate_hash_value");
+  const uint32_t value = (uint32_t)hash[0] << 24 | (uint32_t)hash[1] << 16 |
+                         (uint32_t)hash[2] << 8 | hash[3];
+  expect_u32("hashOuterIpAndL4Hdr", "hash",
+             value, orbisk_model_hash(ORBISK_MODEL_HASH_CRC32, seed, bytes, sizeof bytes));
+  printf("ECMP hash of flow 10.0.0.1:49152 -> 192.168.0.1:443 (tcp), seed 0x%" PRIx64 "\n",
+         seed);
+  print_hex("hashOuterIpAndL4Hdr", value, 8);
+}
+
+/* ---------------------------------------------------- MAC learning --- */
+
+struct learned {
+  int messages;
+  pd_lrn_digest_msg *msg;
+};
+
+/* Called by the driver with each MAC learning message: the entries are read
+ * by field name, wherever the program's layout puts them. */
+static pd_status on_mac_learned(pd_sess_hdl sess, pd_lrn_digest_msg *msg, void *cookie) {
+  struct learned *seen = cookie;
+  (void)sess;
+  ++seen->messages;
+  seen->msg = msg;
+  printf("macLearningDigest message %" PRIu64 ": %u entr%s\n", msg->msg_id,
+         (unsigned)msg->num_entries, msg->num_entries == 1 ? "y" : "ies");
+  for (uint16_t i = 0; i < msg->num_entries; ++i) {
+    uint8_t *entry = msg->entries + (size_t)i * msg->entry_bytes;
+    uint32_t v[4];
+    static const char *const names[4] = {"ingMd_smacOui", "ingMd_smacStation",
+                                         "ingMd_ingL2Domain", "ingMd_ingL2Aintf"};
+    for (int f = 0; f < 4; ++f) {
+      uint32_t size = 0;
+      const uint8_t *p = p4_pd_orbisk_switch_get_digest_entry_field(entry, "macLearningDigest",
+                                                                    names[f], &size);
+      v[f] = 0;
+      for (uint32_t b = 0; b < size; ++b) v[f] = v[f] << 8 | p[b];
+    }
+    print_mac("ingMd_smac", v[0], v[1]);
+    print_u32("ingMd_ingL2Domain", v[2]);
+    print_hex("ingMd_ingL2Aintf", v[3], 5);
+  }
+  return BF_SUCCESS;
+}
+
+/* The agent subscribes to MAC learning with a learning timeout; the model
+ * learns a source MAC as traffic would and delivers it once the timeout is
+ * up; the agent prints it and hands the message back. */
+static void learn_mac(void) {
+  static const char *const digest = "macLearningDigest";
+  struct learned seen = {0, NULL};
+  const uint64_t mac[4] = {0x001b21, 0x3c4d5f, 100, 0x10042};
+  must(p4_pd_orbisk_switch_macLearningDigest_register(SESS, DEVICE, on_mac_learned, &seen),
+       "macLearningDigest register");
+  must(p4_pd_orbisk_switch_set_learning_timeout(SESS, DEVICE, 50), "set_learning_timeout");
+  must(orbisk_model_learn(DEVICE, 0x09000000u, mac, 4), "learn a MAC");
+  expect_u32(digest, "messages before the timeout", (uint32_t)seen.messages, 0);
+  orbisk_model_advance_time(50);
+  expect_u32(digest, "messages once the timeout is up", (uint32_t)seen.messages, 1);
+  if (seen.msg == NULL) return;
+  expect_u32(digest, "unacknowledged", (uint32_t)orbisk_model_digests_unacked(DEVICE, 0x09000000u), 1);
+  must(p4_pd_orbisk_switch_macLearningDigest_notify_ack(SESS, seen.msg), "macLearningDigest notify_ack");
+  expect_u32(digest, "unacknowledged after the ack",
+             (uint32_t)orbisk_model_digests_unacked(DEVICE, 0x09000000u), 0);
+  printf("%s message acknowledged\n", digest);
+  must(p4_pd_orbisk_switch_macLearningDigest_deregister(SESS, DEVICE), "macLearningDigest deregister");
+}
+
 /* ----------------------------------------------------------- counts --- */
 
 typedef pd_status (*count_fn)(pd_sess_hdl, pd_dev_target, uint32_t *);
@@ -652,6 +743,8 @@ int main(void) {
   age_out_route();
   count_drops();
   ecmp_route();
+  ecmp_hash();
+  learn_mac();
 
   must(p4_pd_orbisk_switch_cleanup(), "cleanup");
 

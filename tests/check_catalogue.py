@@ -15,8 +15,10 @@ def main(root):
     tables = []
     for path in sorted(glob.glob(os.path.join(root, "catalogue", "*.json"))):
         if not path.endswith("program.json"):
-            tables += json.load(open(path))["tables"]
+            tables += json.load(open(path)).get("tables", [])
     program = json.load(open(os.path.join(root, "catalogue", "program.json")))
+    services = json.load(open(os.path.join(root, "catalogue", "services.json")))
+    layouts = {l["handle_bit1"]: l["fields"] for l in services["snapshot"]["layouts"]}
     fields = [f for t in tables for f in t.get("fields", [])]
     partners = [f for f in fields if f["match"] in ("ternary", "lpm")]
     kinds = collections.Counter(t["match"] for t in tables)
@@ -40,6 +42,14 @@ def main(root):
         "meters": (len(program["meters"]), 4),
         "registers": (len(program["registers"]), 4),
         "direct counters": (sum(1 for c in program["counters"] if c["kind"] == "direct"), 15),
+        "hash calculations": (len(services["hash_calculations"]), 12),
+        "hash calculations on the second algorithm": (
+            sum(1 for h in services["hash_calculations"] if h["algorithm"] == "0x23000001"), 8),
+        "value sets": (len(services["value_sets"]), 7),
+        "digest fields": (sum(len(d["fields"]) for d in services["digests"]), 13),
+        "snapshot fields, bit 1 clear": (len(layouts[0]), 155),
+        "snapshot fields, bit 1 set": (len(layouts[1]), 81),
+        "snapshot 4-byte fields": (sum(f.endswith(":4") for l in layouts.values() for f in l), 74),
     }
     failed = [k for k, (got, want) in facts.items() if got != want]
     for k in failed:

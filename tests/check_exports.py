@@ -17,7 +17,7 @@ def main(lib, root):
     tables = []
     for path in sorted(glob.glob(os.path.join(root, "catalogue", "*.json"))):
         if not path.endswith("program.json"):
-            tables += json.load(open(path))["tables"]
+            tables += json.load(open(path)).get("tables", [])
     program = json.load(open(os.path.join(root, "catalogue", "program.json")))
     fam = {}
 
@@ -124,6 +124,25 @@ def main(lib, root):
               "hw_sync_indirect", "reset_all_indirect", "range_reset_indirect",
               "write_all_indirect"):
         add("register_generic", P + "register_" + s)
+    services = json.load(open(os.path.join(root, "catalogue", "services.json")))
+    for h in services["hash_calculations"]:
+        for s in ("input_set", "input_get", "algorithm_set", "algorithm_get", "seed_set",
+                  "seed_get", "input_field_attribute_set", "input_field_attribute_count_get",
+                  "input_field_attribute_get", "calculate_hash_value"):
+            add("hash_calc", "%shash_calc_%s_%s" % (P, h["name"], s))
+    for v in services["value_sets"]:
+        for s in ("set_property", "get_property", "entry_add", "entry_modify", "entry_delete",
+                  "entry_get", "entry_handle_get", "entry_get_first_entry_handle",
+                  "entry_get_next_entry_handles", "entry_get_count"):
+            add("pvs", "%spvs_%s_%s" % (P, v["name"], s))
+    for d in services["digests"]:
+        for s in ("register", "deregister", "notify_ack"):
+            add("digest", "%s%s_%s" % (P, d["name"], s))
+    for s in ("set_learning_timeout", "get_digest_entry_size", "get_digest_entry_field"):
+        add("digest", P + s)
+    for s in ("snapshot_create", "snapshot_delete", "snapshot_capture_trigger_set",
+              "snapshot_capture_data_get"):
+        add("snapshot", P + s)
     add("objects", "bf_drv_hdl")
     add("objects", P + "action_name_strings")
 
@@ -141,7 +160,8 @@ def main(lib, root):
              "supports_entry_priority": 154,
              "counter": 51, "meter": 16, "meter_generic": 5, "register": 28, "register_generic": 9,
              "add_member": 15, "modify_member": 15, "members": 42, "groups": 126,
-             "indirect": 48, "indirect_get_entry": 6}
+             "indirect": 48, "indirect_get_entry": 6,
+             "hash_calc": 120, "pvs": 70, "digest": 9, "snapshot": 4}
     failed = False
     for k, v in known.items():
         if len(fam.get(k, ())) != v:

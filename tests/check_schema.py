@@ -56,7 +56,7 @@ def action_shape(a):
 
 def main(dump, root):
     tables = [t for path in sorted(glob.glob(os.path.join(root, "catalogue", "*.json")))
-              if not path.endswith("program.json") for t in json.load(open(path))["tables"]]
+              if not path.endswith("program.json") for t in json.load(open(path)).get("tables", [])]
     program = json.load(open(os.path.join(root, "catalogue", "program.json")))
     profiles = program["profiles"]
     actions = {a["name"]: a for t in tables + profiles for a in t.get("actions", [])}

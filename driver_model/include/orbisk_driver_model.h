@@ -21,6 +21,11 @@
  *   Homes, empty for now, for what later driver services keep: action data
  *     and selector tables per profile and device; digests; snapshots by
  *     device and pipe; placement data.
+ *   Hash calculations, parser value sets, learning digests and snapshots:
+ *     see their sections below.
+ *   Homes, empty for now, for what later driver services keep: action data
+ *     and selector tables per profile and device; counters, meters and
+ *     registers by device, resource handle and pipe; placement data.
  *   What the model knows of the program (tables, key fields and widths,
  *   actions, parameters, resources) comes from the descriptors generated from
  *   the catalogue, the same ones the library is built from.
@@ -187,6 +192,68 @@
  *   (ORBISK_MODEL_NO_SUCH_PIPE), null pointers and room
  *   (ORBISK_MODEL_BAD_RECORD), the index (ORBISK_MODEL_INDEX_PAST_SIZE) or
  *   the entry (ORBISK_MODEL_NO_SUCH_ENTRY). A refused call changes nothing.
+ * Hash calculations
+ *   Per device and hash calculation of the program: the input handle, the
+ *   algorithm handle, the seed and the field attributes (driver records, kept
+ *   as given). Until a write, a calculation reads as the program made it: its
+ *   own input and algorithm, seed 0, no attributes. An input handle other
+ *   than the calculation's own, and an algorithm handle other than the two
+ *   below, is ORBISK_MODEL_NOT_OF_HASH; an unknown calculation is
+ *   ORBISK_MODEL_NO_SUCH_HASH. Attribute reads copy at most the capacity
+ *   offered and answer how many they copied. pipe_mgr_hash_calc_calculate_hash_value
+ *   hashes the stream with the calculation's algorithm and seed
+ *   (orbisk_model_hash) and writes the result's low hash_len bytes, most
+ *   significant first, zeros above its 32 bits. The call log names the
+ *   attribute array "attrs" and the stream "stream".
+ *
+ * Parser value sets
+ *   Per device and value set of the program: entries by handle (given out
+ *   from 1 upward per device and set, never twice), each with its key, mask
+ *   and the scope it was added in (gress, pipe, parser id), and properties by
+ *   number with their value and argument record. A scope in a lookup, a walk
+ *   or a count matches an entry when gress is equal and pipe and parser are
+ *   equal or "all" (pipe 0xFFFF, parser 0xFF) on either side. Refused, and
+ *   nothing changes: an unknown set (ORBISK_MODEL_NO_SUCH_VALUE_SET), a key
+ *   and mask already in the scope (ORBISK_MODEL_ENTRY_EXISTS), an unknown or
+ *   deleted entry handle and a lookup that finds nothing
+ *   (ORBISK_MODEL_NO_SUCH_ENTRY), a null out place (ORBISK_MODEL_BAD_RECORD).
+ *   A property never set reads as 0. Walks go by ascending handle, as a
+ *   table's do (unused slots ORBISK_MODEL_NO_HANDLE). entry_get fills the
+ *   three place outputs it is given (gress, pipe, parser) when not null. The
+ *   call log names the property argument record "args".
+ *
+ * Learning digests
+ *   Per device and digest of the program, one subscription (a later
+ *   registration replaces it); per device a learning timeout (ms of the model
+ *   clock, 0 until set). orbisk_model_learn hands the model one learned
+ *   entry, which it packs in the digest's layout into the pending message of
+ *   that device and digest. With a timeout of 0 the message is delivered at
+ *   once; otherwise when the clock (orbisk_model_advance_time) has moved the
+ *   timeout on since its first entry, or when it holds
+ *   ORBISK_MODEL_DIGEST_MAX_ENTRIES entries. Delivery calls the subscriber's
+ *   callback with its session, the message and its cookie, outside the lock.
+ *   The model owns a delivered message until pipe_mgr_flow_lrn_notify_ack
+ *   hands it back; orbisk_model_digests_unacked counts those still out. A
+ *   deregistration drops the pending entries: they are never delivered.
+ *   A reset or the device's removal takes back its unacknowledged messages.
+ *
+ * Snapshots
+ *   By handle, from bf_snapshot_create to bf_snapshot_delete: device, pipe,
+ *   stages, direction, state, the trigger records as given and the captures.
+ *   Direction 0 is ingress and 1 egress; bit 1 of the handle is set for an
+ *   egress snapshot (the record layout the library picks by it). States:
+ *   created; armed once a trigger is set; triggered by
+ *   orbisk_model_snapshot_trigger, which captures one record per stage from
+ *   start to end, each the trigger value where its mask is set and 0
+ *   elsewhere (the fields a matching packet is known to hold); read once
+ *   captured records have been got. bf_snapshot_capture_phv_fields_dict_size
+ *   answers the captured size (0 before a trigger) and the record size;
+ *   bf_snapshot_capture_get copies the captures into the buffer and fills the
+ *   control record. Refused, and nothing changes: an unknown or deleted
+ *   handle (ORBISK_MODEL_NO_SUCH_SNAPSHOT), a direction above 1 or a start
+ *   stage after the end stage (ORBISK_MODEL_BAD_RECORD), a trigger of a
+ *   snapshot not armed (ORBISK_MODEL_SNAPSHOT_NOT_ARMED). The call log names
+ *   the trigger records "value" and "mask".
  *
  * Notifications
  *   Calls into the clients' callbacks are queued while the model holds its
@@ -269,6 +336,26 @@ extern "C" {
 #define ORBISK_MODEL_MEMBER_IN_GROUP ((pd_status)0x115)
 /* A member that the group does not hold. */
 #define ORBISK_MODEL_NOT_IN_GROUP ((pd_status)0x116)
+/* Hash calculations, value sets, digests and snapshots. */
+/* The hash handle is no hash calculation of the program. */
+#define ORBISK_MODEL_NO_SUCH_HASH ((pd_status)0x130)
+/* An input or algorithm handle the calculation does not have (handle 0
+ * among them). */
+#define ORBISK_MODEL_NOT_OF_HASH ((pd_status)0x131)
+/* The value set handle is no parser value set of the program. */
+#define ORBISK_MODEL_NO_SUCH_VALUE_SET ((pd_status)0x132)
+/* The digest handle is no learning digest of the program. */
+#define ORBISK_MODEL_NO_SUCH_DIGEST ((pd_status)0x133)
+/* No client subscribes to the digest on the device: a deregistration, or
+ * entries learned, with nobody to deliver them to. */
+#define ORBISK_MODEL_NOT_SUBSCRIBED ((pd_status)0x134)
+/* An acknowledgement of a message the model never delivered for that digest,
+ * or one already acknowledged. */
+#define ORBISK_MODEL_NOT_DELIVERED ((pd_status)0x135)
+/* No snapshot has that handle (a deleted one included). */
+#define ORBISK_MODEL_NO_SUCH_SNAPSHOT ((pd_status)0x136)
+/* orbisk_model_snapshot_trigger on a snapshot whose trigger is not set. */
+#define ORBISK_MODEL_SNAPSHOT_NOT_ARMED ((pd_status)0x137)
 
 /* Handle of the default entry of every table. */
 #define ORBISK_MODEL_DEFAULT_ENTRY_HDL ((pd_entry_hdl)0x80000000u)
@@ -473,6 +560,51 @@ size_t orbisk_model_member_count(uint32_t device_id, pd_tbl_hdl adt);
 /* Groups in a profile's selector table of a device (sel its handle); 0 for an
  * unknown table. */
 size_t orbisk_model_group_count(uint32_t device_id, pd_tbl_hdl sel);
+/* ------------------------------------------------ hash calculations --- */
+
+/* The model's hash algorithms, by the program's algorithm handles: zlib's
+ * adler32 and crc32. */
+#define ORBISK_MODEL_HASH_ADLER32 0x23000000u
+#define ORBISK_MODEL_HASH_CRC32 0x23000001u
+
+/* What pipe_mgr_hash_calc_calculate_hash_value computes over a stream for a
+ * calculation with this algorithm and seed: the algorithm started from the
+ * seed's low 32 bits (a seed of 0 starts crc32 at its usual 0 and adler32 at
+ * 0, not its usual 1). 0 for an algorithm the model does not have. */
+uint32_t orbisk_model_hash(uint32_t algorithm_hdl, uint64_t seed, const uint8_t *bytes,
+                           size_t len);
+
+/* -------------------------------------------------- learning digests --- */
+
+/* A pending message is delivered once it holds this many entries. */
+#define ORBISK_MODEL_DIGEST_MAX_ENTRIES 64u
+
+/* One learned entry of a digest, as traffic would make it: one value per
+ * field in entry order, written most significant byte first into the
+ * field's bytes; a field of more than 8 bytes takes its value as words of 8
+ * bytes, most significant word first. ORBISK_MODEL_NO_SUCH_DIGEST,
+ * ORBISK_MODEL_NOT_SUBSCRIBED, and ORBISK_MODEL_BAD_RECORD for the wrong
+ * number of values or a value that does not fit its field; nothing is kept
+ * then. */
+pd_status orbisk_model_learn(uint32_t device_id, uint32_t digest_hdl, const uint64_t *values,
+                             uint32_t num_values);
+/* Messages of a digest on a device delivered and not yet acknowledged; entries
+ * learned and not yet delivered. */
+size_t orbisk_model_digests_unacked(uint32_t device_id, uint32_t digest_hdl);
+size_t orbisk_model_digests_pending(uint32_t device_id, uint32_t digest_hdl);
+
+/* --------------------------------------------------------- snapshots --- */
+
+#define ORBISK_MODEL_SNAPSHOT_NONE 0
+#define ORBISK_MODEL_SNAPSHOT_CREATED 1
+#define ORBISK_MODEL_SNAPSHOT_ARMED 2
+#define ORBISK_MODEL_SNAPSHOT_TRIGGERED 3
+#define ORBISK_MODEL_SNAPSHOT_READ 4
+
+/* A packet matches the trigger of an armed snapshot: its captures are taken. */
+pd_status orbisk_model_snapshot_trigger(uint32_t snapshot_hdl);
+/* ORBISK_MODEL_SNAPSHOT_* of a snapshot; NONE for an unknown handle. */
+int orbisk_model_snapshot_state(uint32_t snapshot_hdl);
 
 #ifdef __cplusplus
 }

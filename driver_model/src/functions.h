@@ -61,6 +61,35 @@
   X(pipe_stful_database_sync)                  \
   X(pipe_stful_direct_ent_query)               \
   X(pipe_stful_direct_database_sync)           \
+  X(pipe_mgr_hash_calc_input_set)              \
+  X(pipe_mgr_hash_calc_input_get)              \
+  X(pipe_mgr_hash_calc_algorithm_set)          \
+  X(pipe_mgr_hash_calc_algorithm_get)          \
+  X(pipe_mgr_hash_calc_seed_set)               \
+  X(pipe_mgr_hash_calc_seed_get)               \
+  X(pipe_mgr_hash_calc_input_field_attribute_set)       \
+  X(pipe_mgr_hash_calc_input_field_attribute_count_get) \
+  X(pipe_mgr_hash_calc_input_field_attribute_get)       \
+  X(pipe_mgr_hash_calc_calculate_hash_value)   \
+  X(pipe_mgr_pvs_set_property)                 \
+  X(pipe_mgr_pvs_get_property)                 \
+  X(pipe_mgr_pvs_entry_add)                    \
+  X(pipe_mgr_pvs_entry_modify)                 \
+  X(pipe_mgr_pvs_entry_delete)                 \
+  X(pipe_mgr_pvs_entry_get)                    \
+  X(pipe_mgr_pvs_entry_handle_get)             \
+  X(pipe_mgr_pvs_entry_get_first)              \
+  X(pipe_mgr_pvs_entry_get_next)               \
+  X(pipe_mgr_pvs_entry_get_count)              \
+  X(pipe_mgr_lrn_digest_notification_register) \
+  X(pipe_mgr_lrn_digest_notification_deregister) \
+  X(pipe_mgr_flow_lrn_notify_ack)              \
+  X(pipe_mgr_flow_lrn_set_timeout)             \
+  X(bf_snapshot_create)                        \
+  X(bf_snapshot_delete)                        \
+  X(bf_snapshot_capture_trigger_set)           \
+  X(bf_snapshot_capture_phv_fields_dict_size)  \
+  X(bf_snapshot_capture_get)                   \
   X(p4_pd_ms_init)                             \
   X(p4_pd_ms_init_state)                       \
   X(p4_pd_ms_destroy_state_for_dev)            \

@@ -219,7 +219,10 @@ pd_status pipe_mgr_idle_time_get_hit_state(pd_sess_hdl sess, uint32_t device_id,
 // ---------------------------------------------------- controls, observers ---
 
 void orbisk_model_advance_time(uint64_t ms) {
-  in_frame([&](Model &m) { m.idle.advance(ms, m.notifications); });
+  in_frame([&](Model &m) {
+    m.idle.advance(ms, m.notifications);
+    m.digests.deliver_due(m.idle.now_ms(), m.notifications);
+  });
 }
 
 uint64_t orbisk_model_now_ms(void) {

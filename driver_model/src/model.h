@@ -36,15 +36,18 @@ struct Model {
   DigestStore digests;
   SnapshotStore snapshots;
   PlacementStore placement;
+  HashStore hashes;
+  ValueSetStore value_sets;
 
   // Callbacks to run once the lock is released, queued by the frame that
   // holds it. A callback may call back into the driver: it runs in a frame
   // of its own.
   std::vector<std::function<void()>> notifications;
 
-  Store *const stores[14] = {&calls,     &faults,     &clients,   &log_lines, &allocations,
+  Store *const stores[16] = {&calls,     &faults,     &clients,   &log_lines, &allocations,
                              &ms,        &tables,     &profiles,  &resources, &idle,
-                             &properties, &digests,   &snapshots, &placement};
+                             &properties, &digests,   &snapshots, &placement, &hashes,
+                             &value_sets};
 
   void reset() {
     for (Store *s : stores) s->clear();

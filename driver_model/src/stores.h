@@ -290,23 +290,6 @@ class PropertyStore final : public Store {
   std::map<std::pair<uint32_t, pd_tbl_hdl>, UpdateCb> update_cbs;
 };
 
-// Digests waiting to be delivered to the client that registered for them,
-// per device and digest handle.
-class DigestStore final : public Store {
- public:
-  void clear() override;
-  void drop_device(uint32_t device_id) override;
-  std::map<std::pair<uint32_t, uint32_t>, std::vector<std::vector<uint8_t>>> pending;
-};
-
-// Snapshots of a pipe's state, per device and pipe.
-class SnapshotStore final : public Store {
- public:
-  void clear() override;
-  void drop_device(uint32_t device_id) override;
-  std::map<std::pair<uint32_t, uint16_t>, std::vector<std::vector<uint8_t>>> snapshots;
-};
-
 // Placement data of match tables: the bytes a client reads out of one
 // device's table and writes into another's, per device and table.
 class PlacementStore final : public Store {
@@ -327,5 +310,93 @@ void erase_device(Map &map, uint32_t device_id) {
     }
   });
 }
+
+// Hash calculations, per device and calculation (hash_store.cpp): the input
+// and algorithm handles, the seed and the field attributes. A calculation
+// without state on a device reads as the program's: its own input and
+// algorithm, seed 0, no attributes.
+class HashStore final : public Store {
+ public:
+  struct Calc {
+    uint32_t input_hdl = 0;
+    uint32_t algorithm_hdl = 0;
+    uint64_t seed = 0;
+    std::vector<pd_hash_calc_driver_attribute> attrs;
+  };
+  void clear() override { calcs.clear(); }
+  void drop_device(uint32_t device_id) override { erase_device(calcs, device_id); }
+  std::map<std::pair<uint32_t, uint32_t>, Calc> calcs;
+};
+
+// Parser value sets, per device and set (value_set_store.cpp): the entries
+// by handle, each with the scope it was added in, and the properties.
+class ValueSetStore final : public Store {
+ public:
+  struct Entry {
+    uint32_t gress, pipe, parser;
+    uint32_t key, mask;
+  };
+  struct Set {
+    std::map<pd_entry_hdl, Entry> entries;
+    pd_entry_hdl next = 1;
+    std::map<uint32_t, std::pair<uint32_t, pd_pvs_property_args>> properties;
+  };
+  void clear() override { sets.clear(); }
+  void drop_device(uint32_t device_id) override { erase_device(sets, device_id); }
+  std::map<std::pair<uint32_t, uint32_t>, Set> sets;
+};
+
+// Learning digests (digest_store.cpp): per device and digest the client's
+// subscription and the entries learned but not yet delivered; per device the
+// learning timeout; and every message delivered and not yet acknowledged,
+// which the model owns until then.
+class DigestStore final : public Store {
+ public:
+  struct Subscription {
+    pd_sess_hdl sess;
+    pd_lrn_digest_cb callback;
+    void *cookie;
+  };
+  struct Pending {
+    std::vector<uint8_t> entries;  // packed, back to back
+    uint16_t count = 0;
+    uint64_t since_ms = 0;         // model clock at the first entry
+  };
+  struct Message {
+    pd_lrn_digest_msg msg;
+    std::vector<uint8_t> entries;
+  };
+  using Key = std::pair<uint32_t, uint32_t>;  // device, digest handle
+  void clear() override;
+  void drop_device(uint32_t device_id) override;
+  // Makes a message of the pending entries of key and queues its delivery.
+  void deliver(const Key &key, std::vector<std::function<void()>> &due);
+  // Delivers every pending message whose device's timeout has run out by now_ms.
+  void deliver_due(uint64_t now_ms, std::vector<std::function<void()>> &due);
+  std::map<Key, Subscription> subscriptions;
+  std::map<Key, Pending> pending;
+  std::map<uint32_t, uint32_t> timeouts;  // ms of the model clock, by device
+  std::map<const pd_lrn_digest_msg *, std::unique_ptr<Message>> delivered;
+  uint64_t next_msg_id = 1;
+};
+
+// Snapshots (snapshot_store.cpp), by handle: where they were created, the
+// stages they span, their state, the trigger records as given, and what a
+// trigger captured.
+class SnapshotStore final : public Store {
+ public:
+  struct Snapshot {
+    uint32_t device_id, pipe;
+    uint8_t start_stage, end_stage;
+    uint32_t direction;
+    int state;  // ORBISK_MODEL_SNAPSHOT_*
+    std::vector<uint8_t> value, mask;
+    std::vector<uint8_t> captures;  // one record per stage once triggered
+  };
+  void clear() override;
+  void drop_device(uint32_t device_id) override;
+  std::map<uint32_t, Snapshot> snapshots;
+  uint32_t next = 1;
+};
 
 }  // namespace orbisk_model

@@ -13,6 +13,9 @@ AREA_FILES = [
     "multicast", "vxlan_tunnels", "nat", "halo", "mirroring", "qos_policing",
     "cpu_mtu_drop", "intf_policy_folded",
 ]
+# Files of the program's services: hash calculations, value sets, digests,
+# the snapshot record.
+SERVICE_FILES = ["services"]
 
 
 def nbytes(bits):
@@ -253,7 +256,7 @@ class Program:
         self._actions = {}
         self.tables = []
         found = sorted(os.path.basename(p)[:-5] for p in glob.glob(os.path.join(cat, "*.json")))
-        assert sorted(AREA_FILES + ["program"]) == found, "unexpected catalogue files: %s" % found
+        assert sorted(AREA_FILES + ["program"] + SERVICE_FILES) == found, "unexpected catalogue files: %s" % found
         for area in AREA_FILES:
             doc = json.load(open(os.path.join(cat, area + ".json")))
             for t in doc["tables"]:
@@ -289,6 +292,7 @@ class Program:
                 a.slot_resource = self.resources[rows[0].resource]
         # Every action name of the enum is used somewhere, with one enum value.
         assert set(self._actions) == set(self.enum_names)
+        self.services = Services(json.load(open(os.path.join(cat, "services.json"))))
 
     def action(self, name, enum, params):
         assert self.enum_of[name] == enum, name
@@ -313,3 +317,86 @@ class Program:
 
     def keyed_tables(self):
         return [t for t in self.tables if t.keyed]
+
+
+# ------------------------------------------------------------ services ---
+
+class HashCalc:
+    def __init__(self, d, algorithms):
+        self.name = d["name"]
+        self.handle = int(d["handle"], 16)
+        self.input = int(d["input"], 16)
+        self.algorithm = int(d["algorithm"], 16)
+        assert self.algorithm in algorithms, self.name
+
+    def describe(self):
+        return "%s: hash 0x%08x, input 0x%08x, algorithm 0x%08x" % (
+            self.name, self.handle, self.input, self.algorithm)
+
+
+class ValueSet:
+    def __init__(self, d):
+        self.name = d["name"]
+        self.handle = int(d["handle"], 16)
+
+    def describe(self):
+        return "%s: value set 0x%08x" % (self.name, self.handle)
+
+
+class DigestField:
+    def __init__(self, d, offset):
+        self.name = d["name"]
+        self.nbytes = d["bytes"]
+        self.offset = offset
+
+
+class Digest:
+    """A learning digest: its handle and the packed layout of one entry
+    (fields back to back, no padding)."""
+
+    def __init__(self, d):
+        self.name = d["name"]
+        self.handle = int(d["handle"], 16)
+        self.fields = []
+        off = 0
+        for f in d["fields"]:
+            self.fields.append(DigestField(f, off))
+            off += f["bytes"]
+        self.entry_bytes = off
+        assert off == d["entry_bytes"], self.name
+        assert len({f.name for f in self.fields}) == len(self.fields), self.name
+
+    def describe(self):
+        return "%s: digest 0x%08x, %d-byte entries: %s" % (
+            self.name, self.handle, self.entry_bytes,
+            ", ".join("%s %d+%d" % (f.name, f.offset, f.nbytes) for f in self.fields))
+
+
+class Services:
+    """Hash calculations, parser value sets, learning digests and the snapshot
+    record's layouts."""
+
+    def __init__(self, d):
+        self.algorithms = {int(a["handle"], 16): a for a in d["hash_algorithms"]}
+        self.hash_calcs = [HashCalc(h, self.algorithms) for h in d["hash_calculations"]]
+        self.value_sets = [ValueSet(v) for v in d["value_sets"]]
+        self.digests = [Digest(g) for g in d["digests"]]
+        snap = d["snapshot"]
+        self.snapshot_bytes = snap["record_bytes"]
+        self.capture_records = snap["capture_records"]
+        # The field lists by bit 1 of a snapshot handle: (offset, width) of
+        # every field that is swapped, each of 2 or 4 bytes, none overlapping.
+        self.snapshot_layouts = [None, None]
+        for lay in snap["layouts"]:
+            fields = [tuple(int(x) for x in f.split(":")) for f in lay["fields"]]
+            covered = set()
+            for off, width in fields:
+                assert width in (2, 4) and off + width <= self.snapshot_bytes, (off, width)
+                span = set(range(off, off + width))
+                assert not covered & span, (off, width)
+                covered |= span
+            self.snapshot_layouts[lay["handle_bit1"]] = fields
+        assert None not in self.snapshot_layouts
+        for group in (self.hash_calcs, self.value_sets, self.digests):
+            assert len({x.name for x in group}) == len(group)
+            assert len({x.handle for x in group}) == len(group)

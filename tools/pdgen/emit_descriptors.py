@@ -193,7 +193,43 @@ def emit(prog):
     o += dense_index("ProfileDesc", "find_profile", "kProfiles",
                      [(p.adt, i) for i, p in enumerate(prog.profiles)])
     assert len(prog.tables) < 0xFF
+    o += services(prog.services)
     o.append("}  // namespace orbisk::pd")
     o.append("")
     return "\n".join(o)
 
+
+
+def services(sv):
+    """Hash calculations, value sets, digests with their fields, the snapshot
+    layouts, and a lookup by handle for the first three."""
+    o = ["const HashCalcDesc kHashCalcs[] = {"]
+    o += ['    {"%s", %s, %s, %s},' % (h.name, hx(h.handle), hx(h.input), hx(h.algorithm))
+          for h in sv.hash_calcs]
+    o += ["};", "const std::size_t kNumHashCalcs = %d;" % len(sv.hash_calcs), ""]
+    o += ["const ValueSetDesc kValueSets[] = {"]
+    o += ['    {"%s", %s},' % (v.name, hx(v.handle)) for v in sv.value_sets]
+    o += ["};", "const std::size_t kNumValueSets = %d;" % len(sv.value_sets), ""]
+    for d in sv.digests:
+        o.append("const DigestFieldDesc kDigestFields_%s[] = {" % d.name)
+        o += ['    {"%s", %d, %d},' % (f.name, f.offset, f.nbytes) for f in d.fields]
+        o += ["};"]
+    o += ["const DigestDesc kDigests[] = {"]
+    o += ['    {"%s", %s, %d, %d, kDigestFields_%s},' % (d.name, hx(d.handle), d.entry_bytes,
+                                                     len(d.fields), d.name) for d in sv.digests]
+    o += ["};", "const std::size_t kNumDigests = %d;" % len(sv.digests), ""]
+    for bit, lay in enumerate(sv.snapshot_layouts):
+        o.append("const SnapshotFieldDesc kSnapshotFields%d[] = {" % bit)
+        for i in range(0, len(lay), 8):
+            o.append("    " + " ".join("{%d, %d}," % f for f in lay[i:i + 8]))
+        o.append("};")
+    o += ["const SnapshotLayoutDesc kSnapshotLayouts[2] = {"]
+    o += ["    {%d, kSnapshotFields%d}," % (len(lay), bit) for bit, lay in enumerate(sv.snapshot_layouts)]
+    o += ["};", ""]
+    for kind, arr, n in (("HashCalc", "kHashCalcs", "hash_calc"), ("ValueSet", "kValueSets", "value_set"),
+                         ("Digest", "kDigests", "digest")):
+        o += ["const %sDesc *find_%s(uint32_t handle) {" % (kind, n),
+              "  for (std::size_t i = 0; i < kNum%ss; ++i) {" % kind,
+              "    if (%s[i].handle == handle) return &%s[i];" % (arr, arr),
+              "  }", "  return nullptr;", "}", ""]
+    return o

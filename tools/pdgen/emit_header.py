@@ -40,6 +40,13 @@ def family_list():
     for fam in families.documented_families():
         o += textwrap.wrap(fam.doc_line(), 78, initial_indent=" *  ", subsequent_indent=" *      ",
                            break_on_hyphens=False)
+    services = families.item_families()
+    if services:
+        o += [" *", " * Services of the program, for <h> a hash calculation, <v> a parser value",
+              " * set and <d> a learning digest:"]
+        for fam in services:
+            o += textwrap.wrap(fam.doc_line(), 78, initial_indent=" *  ", subsequent_indent=" *      ",
+                               break_on_hyphens=False)
     return o + [" */"]
 
 
@@ -189,6 +196,18 @@ def emit(prog):
     o.append("")
     for a in prog.actions:
         for f in families.action_functions(a):
+            o.append(f.proto() + ";")
+    for section, fns in families.item_sections(prog):
+        o.append("")
+        o.append("/* %s */" % (" " + section + " ---").rjust(66, "-"))
+        item = None
+        for f in fns:
+            if f.item is not item:
+                item = f.item
+                o.append("")
+                if item is not None:
+                    o += textwrap.wrap("/* %s */" % item.describe(), 78, subsequent_indent=" * ",
+                                       break_on_hyphens=False)
             o.append(f.proto() + ";")
     o += ["", "#ifdef __cplusplus", "}", "#endif", "", "#endif", ""]
     return "\n".join(o)

@@ -98,6 +98,18 @@ def resource_sources(prog, group):
     return {"pd_%s.cpp" % group_name(group): source(group, None, blocks)} if blocks else {}
 
 
+def item_sources(prog, group):
+    """A group's functions of hash calculations, value sets, digests and
+    snapshots, all in pd_<group>.cpp."""
+    blocks = []
+    for f in group.FAMILIES:
+        if f.each != "item":
+            continue
+        for fn in f.item_functions(prog):
+            blocks.append(definition(fn))
+    return {"pd_%s.cpp" % group_name(group): source(group, None, blocks)} if blocks else {}
+
+
 def emit_version_script(prog):
     names = sorted([f.name for f in families.all_functions(prog)] + families.EXPORTED_OBJECTS)
     o = ["{", "  global:"]
@@ -116,4 +128,5 @@ def emit(prog):
         out.update(profile_sources(prog, group))
         out.update(action_sources(prog, group))
         out.update(resource_sources(prog, group))
+        out.update(item_sources(prog, group))
     return out

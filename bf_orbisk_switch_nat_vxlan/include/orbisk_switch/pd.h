@@ -257,6 +257,76 @@
  *      count): A range of any register back to its initial value.
  *  register_write_all_indirect(sess, target, table handle, element): Every
  *      cell of any register to the caller's element.
+ *
+ * Services of the program, for <h> a hash calculation, <v> a parser value
+ * set and <d> a learning digest:
+ *  <d>_register(sess, device id byte, callback, cookie): the callback the
+ *      driver calls with each message of the digest.
+ *  <d>_deregister(sess, device id byte): ends the subscription.
+ *  <d>_notify_ack(sess, message): hands a delivered message back to the
+ *      driver.
+ *  set_learning_timeout(sess, device id byte, timeout): the device's learning
+ *      timeout, for every digest.
+ *  get_digest_entry_size(digest name): bytes of one entry of the named
+ *      digest; 0 for an unknown name.
+ *  get_digest_entry_field(entry, digest name, field name, out size): the
+ *      named field of an entry and its size in bytes; an unknown digest or
+ *      field name ends the process.
+ *  hash_calc_<h>_input_set(sess, device id, input): selects the input field
+ *      list: 0 is the calculation's own, any other value sends handle 0.
+ *  hash_calc_<h>_input_get(sess, device id, out input): reads it back as 0;
+ *      status 3, out place untouched, when the driver reports another handle
+ *      (a failing driver included).
+ *  hash_calc_<h>_algorithm_set(sess, device id, algorithm): selects the
+ *      algorithm: 0 is the calculation's own, any other value sends handle 0.
+ *  hash_calc_<h>_algorithm_get(sess, device id, out algorithm): reads it back
+ *      as 0; status 3 as for the input.
+ *  hash_calc_<h>_seed_set(sess, device id, seed): sets the seed.
+ *  hash_calc_<h>_seed_get(sess, device id, out seed): reads the seed.
+ *  hash_calc_<h>_input_field_attribute_set(sess, device id, input, count,
+ *      attributes): sets the attributes of count fields.
+ *  hash_calc_<h>_input_field_attribute_count_get(sess, device id, input, out
+ *      count): counts the fields with attributes; status 3 for an input other
+ *      than 0 while the calculation uses its own.
+ *  hash_calc_<h>_input_field_attribute_get(sess, device id, input, capacity,
+ *      out attributes, out count): reads up to capacity of them; the count is
+ *      0 unless the read succeeds; status 3 as for the count.
+ *  hash_calc_<h>_calculate_hash_value(sess, device id, count, attributes,
+ *      field widths, out hash, hash length): hashes the fields' values, first
+ *      field first, as one unbroken big-endian bit string right-aligned in
+ *      whole bytes; a value wider than its width spills into the field before
+ *      it.
+ *  snapshot_create(target, start stage, end stage, direction, out snapshot
+ *      handle): creates a snapshot of the stages from start to end of a
+ *      device's pipe.
+ *  snapshot_delete(snapshot handle): deletes it.
+ *  snapshot_capture_trigger_set(snapshot handle, trigger value, trigger
+ *      mask): arms it with a trigger value and mask, most significant byte
+ *      first; the caller's records are left alone.
+ *  snapshot_capture_data_get(snapshot handle, pipe, out captures, out control
+ *      record, out count): reads up to P4_PD_ORBISK_SWITCH_SNAPSHOT_CAPTURES
+ *      captured records as the driver made them. Status 2 when the library
+ *      cannot allocate, 0x20 for a driver record size below the record's;
+ *      otherwise the capture's status, after the copy.
+ *  pvs_<v>_set_property(sess, device id, property, value, argument): sets a
+ *      driver property of the set.
+ *  pvs_<v>_get_property(sess, device id, property, out value, argument):
+ *      reads one back; 0xFFFFFFFF in the out place on failure.
+ *  pvs_<v>_entry_add(sess, parser target, key, mask, out entry handle): adds
+ *      a key and mask, as they are.
+ *  pvs_<v>_entry_modify(sess, device id, entry handle, key, mask): gives an
+ *      entry a new key and mask.
+ *  pvs_<v>_entry_delete(sess, device id, entry handle): deletes an entry.
+ *  pvs_<v>_entry_get(sess, device id, entry handle, out key, out mask): reads
+ *      an entry's key and mask.
+ *  pvs_<v>_entry_handle_get(sess, parser target, key, mask, out entry
+ *      handle): finds the entry with this key and mask.
+ *  pvs_<v>_entry_get_first_entry_handle(sess, parser target, out entry
+ *      handle): starts a walk of the set.
+ *  pvs_<v>_entry_get_next_entry_handles(sess, parser target, entry handle, n,
+ *      out handles): goes on with a walk: up to n handles after this one.
+ *  pvs_<v>_entry_get_count(sess, parser target, read from hardware, out
+ *      count): counts the set's entries.
  */
 #ifndef ORBISK_SWITCH_PD_H
 #define ORBISK_SWITCH_PD_H
@@ -581,6 +651,16 @@ typedef enum p4_pd_orbisk_switch_action_names {
 /* Room for any text a <t>_schema, <r>_schema or cli_schema writes, its
  * final zero included. */
 #define P4_PD_ORBISK_SWITCH_SCHEMA_MAX 3020
+
+/* The snapshot record: the program's header vector fields, packed with no
+ * alignment, as a trigger value or mask and as one captured record. */
+#define P4_PD_ORBISK_SWITCH_SNAPSHOT_RECORD_BYTES 794
+/* The most captured records one read gives: the caller's array holds as many. */
+#define P4_PD_ORBISK_SWITCH_SNAPSHOT_CAPTURES 20
+typedef struct p4_pd_orbisk_switch_snapshot_record {
+  uint8_t bytes[P4_PD_ORBISK_SWITCH_SNAPSHOT_RECORD_BYTES];
+} p4_pd_orbisk_switch_snapshot_record_t;
+PD_STATIC_ASSERT(sizeof(p4_pd_orbisk_switch_snapshot_record_t) == 794, "the snapshot record is 794 bytes");
 
 /* Full action names, with the prefix, in enum order. */
 extern const char *const p4_pd_orbisk_switch_action_name_strings[296];
@@ -1570,7 +1650,7 @@ void p4_pd_orbisk_switch_ha_restore_state_from_adt_sel(pd_sess_hdl sess_hdl,
     pd_mbr_hdl mbr_hdl,
     uint32_t flags);
 /* Full name of an action; NULL past the last. */
-const char * p4_pd_orbisk_switch_action_enum_to_string(uint32_t action);
+const char *p4_pd_orbisk_switch_action_enum_to_string(uint32_t action);
 /* Action of a full name; P4_PD_ORBISK_SWITCH_ACTION_COUNT for none. */
 p4_pd_orbisk_switch_action_names_t p4_pd_orbisk_switch_action_string_to_enum(const char *name);
 /* Schema text of the table or profile with this handle; "()" and 2 for any other. */
@@ -1654,7 +1734,7 @@ pd_status p4_pd_orbisk_switch_ingressPortMapping_register_mat_update_cb(pd_sess_
     void *cookie);
 void unbuild_key_ingressPortMapping(const pd_match_record *key,
     p4_pd_orbisk_switch_ingressPortMapping_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_ingressPortMapping_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_ingressPortMapping_match_spec_schema(void);
 int p4_pd_orbisk_switch_ingressPortMapping_schema(char *out);
 int p4_pd_orbisk_switch_ingressPortMapping_ig_intr_md_ingress_port_width(void);
 int p4_pd_orbisk_switch_ingressPortMapping_supports_entry_priority(void);
@@ -1788,7 +1868,7 @@ void unbuild_key_l2DomainLookup(const pd_match_record *key,
     p4_pd_orbisk_switch_l2DomainLookup_match_spec_t *match_spec);
 void unbuild_mask_l2DomainLookup(const pd_match_record *key,
     p4_pd_orbisk_switch_l2DomainLookup_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_l2DomainLookup_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_l2DomainLookup_match_spec_schema(void);
 int p4_pd_orbisk_switch_l2DomainLookup_schema(char *out);
 int p4_pd_orbisk_switch_l2DomainLookup_phase0_switchPort_width(void);
 int p4_pd_orbisk_switch_l2DomainLookup_phase0_ingVPort_width(void);
@@ -1883,7 +1963,7 @@ pd_status p4_pd_orbisk_switch_taggedXlatePktToL3_register_mat_update_cb(pd_sess_
     void *cookie);
 void unbuild_key_taggedXlatePktToL3(const pd_match_record *key,
     p4_pd_orbisk_switch_taggedXlatePktToL3_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_taggedXlatePktToL3_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_taggedXlatePktToL3_match_spec_schema(void);
 int p4_pd_orbisk_switch_taggedXlatePktToL3_schema(char *out);
 int p4_pd_orbisk_switch_taggedXlatePktToL3_phase0_ingVPort_width(void);
 int p4_pd_orbisk_switch_taggedXlatePktToL3_vlanHdr_0__vlanId_width(void);
@@ -1975,7 +2055,7 @@ pd_status p4_pd_orbisk_switch_taggedPktToL3_register_mat_update_cb(pd_sess_hdl s
     void *cookie);
 void unbuild_key_taggedPktToL3(const pd_match_record *key,
     p4_pd_orbisk_switch_taggedPktToL3_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_taggedPktToL3_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_taggedPktToL3_match_spec_schema(void);
 int p4_pd_orbisk_switch_taggedPktToL3_schema(char *out);
 int p4_pd_orbisk_switch_taggedPktToL3_vlanHdr_0__vlanId_width(void);
 int p4_pd_orbisk_switch_taggedPktToL3_supports_entry_priority(void);
@@ -2066,7 +2146,7 @@ pd_status p4_pd_orbisk_switch_untaggedPktToL3_register_mat_update_cb(pd_sess_hdl
     void *cookie);
 void unbuild_key_untaggedPktToL3(const pd_match_record *key,
     p4_pd_orbisk_switch_untaggedPktToL3_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_untaggedPktToL3_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_untaggedPktToL3_match_spec_schema(void);
 int p4_pd_orbisk_switch_untaggedPktToL3_schema(char *out);
 int p4_pd_orbisk_switch_untaggedPktToL3_phase0_nativeAintf_width(void);
 int p4_pd_orbisk_switch_untaggedPktToL3_supports_entry_priority(void);
@@ -2246,7 +2326,7 @@ pd_status p4_pd_orbisk_switch_vlanProperties_register_mat_update_cb(pd_sess_hdl 
     void *cookie);
 void unbuild_key_vlanProperties(const pd_match_record *key,
     p4_pd_orbisk_switch_vlanProperties_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_vlanProperties_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_vlanProperties_match_spec_schema(void);
 int p4_pd_orbisk_switch_vlanProperties_schema(char *out);
 int p4_pd_orbisk_switch_vlanProperties_ingMd_ingL2Domain_width(void);
 int p4_pd_orbisk_switch_vlanProperties_supports_entry_priority(void);
@@ -2353,7 +2433,7 @@ void unbuild_key_ingressPortDropCheck(const pd_match_record *key,
     p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_t *match_spec);
 void unbuild_mask_ingressPortDropCheck(const pd_match_record *key,
     p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_schema(void);
 int p4_pd_orbisk_switch_ingressPortDropCheck_schema(char *out);
 int p4_pd_orbisk_switch_ingressPortDropCheck_ig_intr_md_ingress_port_width(void);
 int p4_pd_orbisk_switch_ingressPortDropCheck_ingMd_invalidTunnel_width(void);
@@ -2437,7 +2517,7 @@ pd_status p4_pd_orbisk_switch_ingL2DomainCount_register_mat_update_cb(pd_sess_hd
     void *cookie);
 void unbuild_key_ingL2DomainCount(const pd_match_record *key,
     p4_pd_orbisk_switch_ingL2DomainCount_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_ingL2DomainCount_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_ingL2DomainCount_match_spec_schema(void);
 int p4_pd_orbisk_switch_ingL2DomainCount_schema(char *out);
 int p4_pd_orbisk_switch_ingL2DomainCount_egrMd_decapType_width(void);
 int p4_pd_orbisk_switch_ingL2DomainCount_ingMd_ingL3Aintf_width(void);
@@ -2517,7 +2597,7 @@ pd_status p4_pd_orbisk_switch_egrL2DomainCount_register_mat_update_cb(pd_sess_hd
     void *cookie);
 void unbuild_key_egrL2DomainCount(const pd_match_record *key,
     p4_pd_orbisk_switch_egrL2DomainCount_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_egrL2DomainCount_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_egrL2DomainCount_match_spec_schema(void);
 int p4_pd_orbisk_switch_egrL2DomainCount_schema(char *out);
 int p4_pd_orbisk_switch_egrL2DomainCount_egrMd_decapType_width(void);
 int p4_pd_orbisk_switch_egrL2DomainCount_egrMd_egrL2Domain_width(void);
@@ -2623,7 +2703,7 @@ pd_status p4_pd_orbisk_switch_egressVlanXlate_register_mat_update_cb(pd_sess_hdl
     void *cookie);
 void unbuild_key_egressVlanXlate(const pd_match_record *key,
     p4_pd_orbisk_switch_egressVlanXlate_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_egressVlanXlate_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_egressVlanXlate_match_spec_schema(void);
 int p4_pd_orbisk_switch_egressVlanXlate_schema(char *out);
 int p4_pd_orbisk_switch_egressVlanXlate_eg_intr_md_egress_port_width(void);
 int p4_pd_orbisk_switch_egressVlanXlate_egrMd_egrL2Domain_width(void);
@@ -2812,7 +2892,7 @@ pd_status p4_pd_orbisk_switch_vlanEncap_register_mat_update_cb(pd_sess_hdl sess_
     void *cookie);
 void unbuild_key_vlanEncap(const pd_match_record *key,
     p4_pd_orbisk_switch_vlanEncap_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_vlanEncap_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_vlanEncap_match_spec_schema(void);
 int p4_pd_orbisk_switch_vlanEncap_schema(char *out);
 int p4_pd_orbisk_switch_vlanEncap_egrMd_vlanId_width(void);
 int p4_pd_orbisk_switch_vlanEncap_eg_intr_md_egress_port_width(void);
@@ -3007,7 +3087,7 @@ pd_status p4_pd_orbisk_switch_srcIntfToOvoIntf_register_mat_update_cb(pd_sess_hd
     void *cookie);
 void unbuild_key_srcIntfToOvoIntf(const pd_match_record *key,
     p4_pd_orbisk_switch_srcIntfToOvoIntf_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_srcIntfToOvoIntf_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_srcIntfToOvoIntf_match_spec_schema(void);
 int p4_pd_orbisk_switch_srcIntfToOvoIntf_schema(char *out);
 int p4_pd_orbisk_switch_srcIntfToOvoIntf_egrMd_ingressPort_width(void);
 int p4_pd_orbisk_switch_srcIntfToOvoIntf_supports_entry_priority(void);
@@ -3138,7 +3218,7 @@ pd_status p4_pd_orbisk_switch_egrIntfToOvoIntf_register_mat_update_cb(pd_sess_hd
     void *cookie);
 void unbuild_key_egrIntfToOvoIntf(const pd_match_record *key,
     p4_pd_orbisk_switch_egrIntfToOvoIntf_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_egrIntfToOvoIntf_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_egrIntfToOvoIntf_match_spec_schema(void);
 int p4_pd_orbisk_switch_egrIntfToOvoIntf_schema(char *out);
 int p4_pd_orbisk_switch_egrIntfToOvoIntf_egrMd_egrAintfType_width(void);
 int p4_pd_orbisk_switch_egrIntfToOvoIntf_egrMd_egrAintfPort_width(void);
@@ -3267,7 +3347,7 @@ void unbuild_key_ovoIntfToPhysical(const pd_match_record *key,
     p4_pd_orbisk_switch_ovoIntfToPhysical_match_spec_t *match_spec);
 void unbuild_mask_ovoIntfToPhysical(const pd_match_record *key,
     p4_pd_orbisk_switch_ovoIntfToPhysical_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_ovoIntfToPhysical_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_ovoIntfToPhysical_match_spec_schema(void);
 int p4_pd_orbisk_switch_ovoIntfToPhysical_schema(char *out);
 int p4_pd_orbisk_switch_ovoIntfToPhysical_orbiskCpuHdr_port_width(void);
 int p4_pd_orbisk_switch_ovoIntfToPhysical_orbiskCpuHdr_lane_width(void);
@@ -3384,7 +3464,7 @@ void unbuild_key_egressPortDropCheck(const pd_match_record *key,
     p4_pd_orbisk_switch_egressPortDropCheck_match_spec_t *match_spec);
 void unbuild_mask_egressPortDropCheck(const pd_match_record *key,
     p4_pd_orbisk_switch_egressPortDropCheck_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_egressPortDropCheck_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_egressPortDropCheck_match_spec_schema(void);
 int p4_pd_orbisk_switch_egressPortDropCheck_schema(char *out);
 int p4_pd_orbisk_switch_egressPortDropCheck_eg_intr_md_egress_port_width(void);
 int p4_pd_orbisk_switch_egressPortDropCheck_egrVlanStpCheck_stpBlocked_width(void);
@@ -3480,7 +3560,7 @@ pd_status p4_pd_orbisk_switch_egressSamePortBridgingTest_register_mat_update_cb(
     void *cookie);
 void unbuild_key_egressSamePortBridgingTest(const pd_match_record *key,
     p4_pd_orbisk_switch_egressSamePortBridgingTest_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_egressSamePortBridgingTest_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_egressSamePortBridgingTest_match_spec_schema(void);
 int p4_pd_orbisk_switch_egressSamePortBridgingTest_schema(char *out);
 int p4_pd_orbisk_switch_egressSamePortBridgingTest_egrMd_ingressPortType_width(void);
 int p4_pd_orbisk_switch_egressSamePortBridgingTest_eg_intr_md_egress_port_width(void);
@@ -3618,7 +3698,7 @@ pd_status p4_pd_orbisk_switch_mlagUcastPrune_register_mat_update_cb(pd_sess_hdl 
     void *cookie);
 void unbuild_key_mlagUcastPrune(const pd_match_record *key,
     p4_pd_orbisk_switch_mlagUcastPrune_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_mlagUcastPrune_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_mlagUcastPrune_match_spec_schema(void);
 int p4_pd_orbisk_switch_mlagUcastPrune_schema(char *out);
 int p4_pd_orbisk_switch_mlagUcastPrune_egrMd_egrL2AintfUnresolved_width(void);
 int p4_pd_orbisk_switch_mlagUcastPrune_supports_entry_priority(void);
@@ -3801,7 +3881,7 @@ void unbuild_key_l2DmacClassify(const pd_match_record *key,
     p4_pd_orbisk_switch_l2DmacClassify_match_spec_t *match_spec);
 void unbuild_mask_l2DmacClassify(const pd_match_record *key,
     p4_pd_orbisk_switch_l2DmacClassify_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_l2DmacClassify_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_l2DmacClassify_match_spec_schema(void);
 int p4_pd_orbisk_switch_l2DmacClassify_schema(char *out);
 int p4_pd_orbisk_switch_l2DmacClassify_ig_intr_md_ingress_port_width(void);
 int p4_pd_orbisk_switch_l2DmacClassify_outerEthHdr_dmacOui_width(void);
@@ -3903,7 +3983,7 @@ void unbuild_key_l2SmacCheck(const pd_match_record *key,
     p4_pd_orbisk_switch_l2SmacCheck_match_spec_t *match_spec);
 void unbuild_mask_l2SmacCheck(const pd_match_record *key,
     p4_pd_orbisk_switch_l2SmacCheck_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_l2SmacCheck_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_l2SmacCheck_match_spec_schema(void);
 int p4_pd_orbisk_switch_l2SmacCheck_schema(char *out);
 int p4_pd_orbisk_switch_l2SmacCheck_outerEthHdr_smacOui_width(void);
 int p4_pd_orbisk_switch_l2SmacCheck_outerEthHdr_smacStation_width(void);
@@ -3994,7 +4074,7 @@ pd_status p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_register_mat_update_cb(pd_s
     void *cookie);
 void unbuild_key_l2StaticMacSrcAddrDrop(const pd_match_record *key,
     p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_match_spec_schema(void);
 int p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_schema(char *out);
 int p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_ingMd_smacOui_width(void);
 int p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_ingMd_smacStation_width(void);
@@ -4120,7 +4200,7 @@ pd_status p4_pd_orbisk_switch_l2LearningLookup_register_mat_update_cb(pd_sess_hd
     void *cookie);
 void unbuild_key_l2LearningLookup(const pd_match_record *key,
     p4_pd_orbisk_switch_l2LearningLookup_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_l2LearningLookup_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_l2LearningLookup_match_spec_schema(void);
 int p4_pd_orbisk_switch_l2LearningLookup_schema(char *out);
 int p4_pd_orbisk_switch_l2LearningLookup_ingMd_smacOui_width(void);
 int p4_pd_orbisk_switch_l2LearningLookup_ingMd_smacStation_width(void);
@@ -4252,7 +4332,7 @@ pd_status p4_pd_orbisk_switch_l2Lookup_register_mat_update_cb(pd_sess_hdl sess_h
     void *cookie);
 void unbuild_key_l2Lookup(const pd_match_record *key,
     p4_pd_orbisk_switch_l2Lookup_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_l2Lookup_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_l2Lookup_match_spec_schema(void);
 int p4_pd_orbisk_switch_l2Lookup_schema(char *out);
 int p4_pd_orbisk_switch_l2Lookup_egrMd_dmacOui_width(void);
 int p4_pd_orbisk_switch_l2Lookup_egrMd_dmacStation_width(void);
@@ -4393,7 +4473,7 @@ void unbuild_key_l2LookupMiss(const pd_match_record *key,
     p4_pd_orbisk_switch_l2LookupMiss_match_spec_t *match_spec);
 void unbuild_mask_l2LookupMiss(const pd_match_record *key,
     p4_pd_orbisk_switch_l2LookupMiss_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_l2LookupMiss_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_l2LookupMiss_match_spec_schema(void);
 int p4_pd_orbisk_switch_l2LookupMiss_schema(char *out);
 int p4_pd_orbisk_switch_l2LookupMiss_ig_intr_md_ingress_port_width(void);
 int p4_pd_orbisk_switch_l2LookupMiss_egrMd_dmacOui_width(void);
@@ -4477,7 +4557,7 @@ pd_status p4_pd_orbisk_switch_l2ForwardParams_register_mat_update_cb(pd_sess_hdl
     void *cookie);
 void unbuild_key_l2ForwardParams(const pd_match_record *key,
     p4_pd_orbisk_switch_l2ForwardParams_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_l2ForwardParams_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_l2ForwardParams_match_spec_schema(void);
 int p4_pd_orbisk_switch_l2ForwardParams_schema(char *out);
 int p4_pd_orbisk_switch_l2ForwardParams_outerEthHdr_width(void);
 int p4_pd_orbisk_switch_l2ForwardParams_supports_entry_priority(void);
@@ -4559,7 +4639,7 @@ pd_status p4_pd_orbisk_switch_l2XRemap_register_mat_update_cb(pd_sess_hdl sess_h
     void *cookie);
 void unbuild_key_l2XRemap(const pd_match_record *key,
     p4_pd_orbisk_switch_l2XRemap_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_l2XRemap_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_l2XRemap_match_spec_schema(void);
 int p4_pd_orbisk_switch_l2XRemap_schema(char *out);
 int p4_pd_orbisk_switch_l2XRemap_ig_intr_md_ingress_port_width(void);
 int p4_pd_orbisk_switch_l2XRemap_supports_entry_priority(void);
@@ -4704,7 +4784,7 @@ void unbuild_key_learningDigestGeneration(const pd_match_record *key,
     p4_pd_orbisk_switch_learningDigestGeneration_match_spec_t *match_spec);
 void unbuild_mask_learningDigestGeneration(const pd_match_record *key,
     p4_pd_orbisk_switch_learningDigestGeneration_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_learningDigestGeneration_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_learningDigestGeneration_match_spec_schema(void);
 int p4_pd_orbisk_switch_learningDigestGeneration_schema(char *out);
 int p4_pd_orbisk_switch_learningDigestGeneration_learningDigestMd_applicationId_width(void);
 int p4_pd_orbisk_switch_learningDigestGeneration_ingMd_invalidTunnel_width(void);
@@ -4881,7 +4961,7 @@ void unbuild_key_l3DmacCheck(const pd_match_record *key,
     p4_pd_orbisk_switch_l3DmacCheck_match_spec_t *match_spec);
 void unbuild_mask_l3DmacCheck(const pd_match_record *key,
     p4_pd_orbisk_switch_l3DmacCheck_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_l3DmacCheck_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_l3DmacCheck_match_spec_schema(void);
 int p4_pd_orbisk_switch_l3DmacCheck_schema(char *out);
 int p4_pd_orbisk_switch_l3DmacCheck_ingMd_ingL3Aintf_width(void);
 int p4_pd_orbisk_switch_l3DmacCheck_ingMd_dmacOui_width(void);
@@ -4975,7 +5055,7 @@ pd_status p4_pd_orbisk_switch_vrrpMacCheck_register_mat_update_cb(pd_sess_hdl se
     void *cookie);
 void unbuild_key_vrrpMacCheck(const pd_match_record *key,
     p4_pd_orbisk_switch_vrrpMacCheck_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_vrrpMacCheck_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_vrrpMacCheck_match_spec_schema(void);
 int p4_pd_orbisk_switch_vrrpMacCheck_schema(char *out);
 int p4_pd_orbisk_switch_vrrpMacCheck_ingMd_ingL3Aintf_width(void);
 int p4_pd_orbisk_switch_vrrpMacCheck_ingMd_dmacOui_width(void);
@@ -5139,7 +5219,7 @@ pd_status p4_pd_orbisk_switch_ipv4Host_register_mat_update_cb(pd_sess_hdl sess_h
     void *cookie);
 void unbuild_key_ipv4Host(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv4Host_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_ipv4Host_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_ipv4Host_match_spec_schema(void);
 int p4_pd_orbisk_switch_ipv4Host_schema(char *out);
 int p4_pd_orbisk_switch_ipv4Host_l3Info_vrfId_width(void);
 int p4_pd_orbisk_switch_ipv4Host_ingIpv4_dip_width(void);
@@ -5305,7 +5385,7 @@ void unbuild_key_ipv4ShortMaskLpm(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec_t *match_spec);
 void unbuild_mask_ipv4ShortMaskLpm(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec_schema(void);
 int p4_pd_orbisk_switch_ipv4ShortMaskLpm_schema(char *out);
 int p4_pd_orbisk_switch_ipv4ShortMaskLpm_l3Info_vrfId_width(void);
 int p4_pd_orbisk_switch_ipv4ShortMaskLpm_ingIpv4_dip_width(void);
@@ -5432,7 +5512,7 @@ void unbuild_key_ipv4Partition0(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv4Partition0_match_spec_t *match_spec);
 void unbuild_mask_ipv4Partition0(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv4Partition0_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_ipv4Partition0_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_ipv4Partition0_match_spec_schema(void);
 int p4_pd_orbisk_switch_ipv4Partition0_schema(char *out);
 int p4_pd_orbisk_switch_ipv4Partition0_l3Info_vrfId_width(void);
 int p4_pd_orbisk_switch_ipv4Partition0_ingIpv4_dipAndVrf_width(void);
@@ -5598,7 +5678,7 @@ void unbuild_key_ipv4FinalResolve0(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv4FinalResolve0_match_spec_t *match_spec);
 void unbuild_mask_ipv4FinalResolve0(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv4FinalResolve0_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_ipv4FinalResolve0_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_ipv4FinalResolve0_match_spec_schema(void);
 int p4_pd_orbisk_switch_ipv4FinalResolve0_schema(char *out);
 int p4_pd_orbisk_switch_ipv4FinalResolve0_fibV4ResultX_partIdx_width(void);
 int p4_pd_orbisk_switch_ipv4FinalResolve0_ingIpv4_dip_width(void);
@@ -5761,7 +5841,7 @@ pd_status p4_pd_orbisk_switch_ipv6Host_register_mat_update_cb(pd_sess_hdl sess_h
     void *cookie);
 void unbuild_key_ipv6Host(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv6Host_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_ipv6Host_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_ipv6Host_match_spec_schema(void);
 int p4_pd_orbisk_switch_ipv6Host_schema(char *out);
 int p4_pd_orbisk_switch_ipv6Host_l3Info_vrfId_width(void);
 int p4_pd_orbisk_switch_ipv6Host_ingIpv6_dip_width(void);
@@ -5927,7 +6007,7 @@ void unbuild_key_ipv6ShortMaskLpm(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv6ShortMaskLpm_match_spec_t *match_spec);
 void unbuild_mask_ipv6ShortMaskLpm(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv6ShortMaskLpm_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_ipv6ShortMaskLpm_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_ipv6ShortMaskLpm_match_spec_schema(void);
 int p4_pd_orbisk_switch_ipv6ShortMaskLpm_schema(char *out);
 int p4_pd_orbisk_switch_ipv6ShortMaskLpm_l3Info_vrfId_width(void);
 int p4_pd_orbisk_switch_ipv6ShortMaskLpm_ingIpv6_dip_width(void);
@@ -6093,7 +6173,7 @@ void unbuild_key_ipv6Partition(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv6Partition_match_spec_t *match_spec);
 void unbuild_mask_ipv6Partition(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv6Partition_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_ipv6Partition_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_ipv6Partition_match_spec_schema(void);
 int p4_pd_orbisk_switch_ipv6Partition_schema(char *out);
 int p4_pd_orbisk_switch_ipv6Partition_l3Info_vrfId_width(void);
 int p4_pd_orbisk_switch_ipv6Partition_ingIpv6_dip_width(void);
@@ -6259,7 +6339,7 @@ void unbuild_key_ipv6FinalResolve(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv6FinalResolve_match_spec_t *match_spec);
 void unbuild_mask_ipv6FinalResolve(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv6FinalResolve_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_ipv6FinalResolve_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_ipv6FinalResolve_match_spec_schema(void);
 int p4_pd_orbisk_switch_ipv6FinalResolve_schema(char *out);
 int p4_pd_orbisk_switch_ipv6FinalResolve_ingIpv6_fibPartitionIndex_width(void);
 int p4_pd_orbisk_switch_ipv6FinalResolve_ingIpv6_dip_width(void);
@@ -6386,7 +6466,7 @@ void unbuild_key_ipv6LgMaskPartition0(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv6LgMaskPartition0_match_spec_t *match_spec);
 void unbuild_mask_ipv6LgMaskPartition0(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv6LgMaskPartition0_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_ipv6LgMaskPartition0_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_ipv6LgMaskPartition0_match_spec_schema(void);
 int p4_pd_orbisk_switch_ipv6LgMaskPartition0_schema(char *out);
 int p4_pd_orbisk_switch_ipv6LgMaskPartition0_l3Info_vrfId_width(void);
 int p4_pd_orbisk_switch_ipv6LgMaskPartition0_ingIpv6_dip_width(void);
@@ -6552,7 +6632,7 @@ void unbuild_key_ipv6LgMaskFinalResolve0(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_match_spec_t *match_spec);
 void unbuild_mask_ipv6LgMaskFinalResolve0(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_match_spec_schema(void);
 int p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_schema(char *out);
 int p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_fibV6ResultX_partIdx_width(void);
 int p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_ingIpv6_dip_width(void);
@@ -6657,7 +6737,7 @@ pd_status p4_pd_orbisk_switch_ecmpGroup_register_mat_update_cb(pd_sess_hdl sess_
     void *cookie);
 void unbuild_key_ecmpGroup(const pd_match_record *key,
     p4_pd_orbisk_switch_ecmpGroup_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_ecmpGroup_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_ecmpGroup_match_spec_schema(void);
 int p4_pd_orbisk_switch_ecmpGroup_schema(char *out);
 int p4_pd_orbisk_switch_ecmpGroup_l3_nextHop_width(void);
 int p4_pd_orbisk_switch_ecmpGroup_supports_entry_priority(void);
@@ -6748,7 +6828,7 @@ pd_status p4_pd_orbisk_switch_reservedNextHop_register_mat_update_cb(pd_sess_hdl
     void *cookie);
 void unbuild_key_reservedNextHop(const pd_match_record *key,
     p4_pd_orbisk_switch_reservedNextHop_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_reservedNextHop_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_reservedNextHop_match_spec_schema(void);
 int p4_pd_orbisk_switch_reservedNextHop_schema(char *out);
 int p4_pd_orbisk_switch_reservedNextHop_l3_nextHop_width(void);
 int p4_pd_orbisk_switch_reservedNextHop_supports_entry_priority(void);
@@ -6830,7 +6910,7 @@ pd_status p4_pd_orbisk_switch_nextHop0_register_mat_update_cb(pd_sess_hdl sess_h
     void *cookie);
 void unbuild_key_nextHop0(const pd_match_record *key,
     p4_pd_orbisk_switch_nextHop0_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_nextHop0_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_nextHop0_match_spec_schema(void);
 int p4_pd_orbisk_switch_nextHop0_schema(char *out);
 int p4_pd_orbisk_switch_nextHop0_l3_nextHop_width(void);
 int p4_pd_orbisk_switch_nextHop0_supports_entry_priority(void);
@@ -6912,7 +6992,7 @@ pd_status p4_pd_orbisk_switch_routerNextHop0_register_mat_update_cb(pd_sess_hdl 
     void *cookie);
 void unbuild_key_routerNextHop0(const pd_match_record *key,
     p4_pd_orbisk_switch_routerNextHop0_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_routerNextHop0_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_routerNextHop0_match_spec_schema(void);
 int p4_pd_orbisk_switch_routerNextHop0_schema(char *out);
 int p4_pd_orbisk_switch_routerNextHop0_l3_nextHop_width(void);
 int p4_pd_orbisk_switch_routerNextHop0_supports_entry_priority(void);
@@ -7022,7 +7102,7 @@ void unbuild_key_lagGroup(const pd_match_record *key,
     p4_pd_orbisk_switch_lagGroup_match_spec_t *match_spec);
 void unbuild_mask_lagGroup(const pd_match_record *key,
     p4_pd_orbisk_switch_lagGroup_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_lagGroup_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_lagGroup_match_spec_schema(void);
 int p4_pd_orbisk_switch_lagGroup_schema(char *out);
 int p4_pd_orbisk_switch_lagGroup_egrMd_egrL2AintfUnresolved_width(void);
 int p4_pd_orbisk_switch_lagGroup_supports_entry_priority(void);
@@ -7184,7 +7264,7 @@ void unbuild_key_ecmpHashSelection(const pd_match_record *key,
     p4_pd_orbisk_switch_ecmpHashSelection_match_spec_t *match_spec);
 void unbuild_mask_ecmpHashSelection(const pd_match_record *key,
     p4_pd_orbisk_switch_ecmpHashSelection_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_ecmpHashSelection_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_ecmpHashSelection_match_spec_schema(void);
 int p4_pd_orbisk_switch_ecmpHashSelection_schema(char *out);
 int p4_pd_orbisk_switch_ecmpHashSelection_innerL4PortHdr_width(void);
 int p4_pd_orbisk_switch_ecmpHashSelection_innerIpv4Hdr_width(void);
@@ -7368,7 +7448,7 @@ void unbuild_key_lagHashSelection(const pd_match_record *key,
     p4_pd_orbisk_switch_lagHashSelection_match_spec_t *match_spec);
 void unbuild_mask_lagHashSelection(const pd_match_record *key,
     p4_pd_orbisk_switch_lagHashSelection_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_lagHashSelection_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_lagHashSelection_match_spec_schema(void);
 int p4_pd_orbisk_switch_lagHashSelection_schema(char *out);
 int p4_pd_orbisk_switch_lagHashSelection_innerL4PortHdr_width(void);
 int p4_pd_orbisk_switch_lagHashSelection_innerIpv4Hdr_width(void);
@@ -7476,7 +7556,7 @@ pd_status p4_pd_orbisk_switch_hashComputeInnerIpHdr_register_mat_update_cb(pd_se
     void *cookie);
 void unbuild_key_hashComputeInnerIpHdr(const pd_match_record *key,
     p4_pd_orbisk_switch_hashComputeInnerIpHdr_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_hashComputeInnerIpHdr_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_hashComputeInnerIpHdr_match_spec_schema(void);
 int p4_pd_orbisk_switch_hashComputeInnerIpHdr_schema(char *out);
 int p4_pd_orbisk_switch_hashComputeInnerIpHdr_innerIpv4Hdr_width(void);
 int p4_pd_orbisk_switch_hashComputeInnerIpHdr_innerIpv6Hdr_width(void);
@@ -7849,7 +7929,7 @@ pd_status p4_pd_orbisk_switch_ipv4McGroupVlan_register_mat_update_cb(pd_sess_hdl
     void *cookie);
 void unbuild_key_ipv4McGroupVlan(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv4McGroupVlan_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_ipv4McGroupVlan_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_ipv4McGroupVlan_match_spec_schema(void);
 int p4_pd_orbisk_switch_ipv4McGroupVlan_schema(char *out);
 int p4_pd_orbisk_switch_ipv4McGroupVlan_ingIpv4_dip_width(void);
 int p4_pd_orbisk_switch_ipv4McGroupVlan_ingMd_ingL3Aintf_width(void);
@@ -7973,7 +8053,7 @@ pd_status p4_pd_orbisk_switch_ipv4McSourceGroupVlan_register_mat_update_cb(pd_se
     void *cookie);
 void unbuild_key_ipv4McSourceGroupVlan(const pd_match_record *key,
     p4_pd_orbisk_switch_ipv4McSourceGroupVlan_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_ipv4McSourceGroupVlan_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_ipv4McSourceGroupVlan_match_spec_schema(void);
 int p4_pd_orbisk_switch_ipv4McSourceGroupVlan_schema(char *out);
 int p4_pd_orbisk_switch_ipv4McSourceGroupVlan_ingIpv4_sip_width(void);
 int p4_pd_orbisk_switch_ipv4McSourceGroupVlan_ingIpmcSGVLookup_index_width(void);
@@ -8067,7 +8147,7 @@ pd_status p4_pd_orbisk_switch_l2Multicast_register_mat_update_cb(pd_sess_hdl ses
     void *cookie);
 void unbuild_key_l2Multicast(const pd_match_record *key,
     p4_pd_orbisk_switch_l2Multicast_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_l2Multicast_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_l2Multicast_match_spec_schema(void);
 int p4_pd_orbisk_switch_l2Multicast_schema(char *out);
 int p4_pd_orbisk_switch_l2Multicast_egrMd_dmacOui_width(void);
 int p4_pd_orbisk_switch_l2Multicast_egrMd_dmacStation_width(void);
@@ -8258,7 +8338,7 @@ void unbuild_key_finalizeMcResult(const pd_match_record *key,
     p4_pd_orbisk_switch_finalizeMcResult_match_spec_t *match_spec);
 void unbuild_mask_finalizeMcResult(const pd_match_record *key,
     p4_pd_orbisk_switch_finalizeMcResult_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_finalizeMcResult_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_finalizeMcResult_match_spec_schema(void);
 int p4_pd_orbisk_switch_finalizeMcResult_schema(char *out);
 int p4_pd_orbisk_switch_finalizeMcResult_ingIpmc_eValid_width(void);
 int p4_pd_orbisk_switch_finalizeMcResult_ingL2Mc_eValid_width(void);
@@ -8357,7 +8437,7 @@ pd_status p4_pd_orbisk_switch_egressMcRemap_register_mat_update_cb(pd_sess_hdl s
     void *cookie);
 void unbuild_key_egressMcRemap(const pd_match_record *key,
     p4_pd_orbisk_switch_egressMcRemap_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_egressMcRemap_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_egressMcRemap_match_spec_schema(void);
 int p4_pd_orbisk_switch_egressMcRemap_schema(char *out);
 int p4_pd_orbisk_switch_egressMcRemap_eg_intr_md_egress_rid_width(void);
 int p4_pd_orbisk_switch_egressMcRemap_supports_entry_priority(void);
@@ -8509,7 +8589,7 @@ void unbuild_key_mcastPrune(const pd_match_record *key,
     p4_pd_orbisk_switch_mcastPrune_match_spec_t *match_spec);
 void unbuild_mask_mcastPrune(const pd_match_record *key,
     p4_pd_orbisk_switch_mcastPrune_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_mcastPrune_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_mcastPrune_match_spec_schema(void);
 int p4_pd_orbisk_switch_mcastPrune_schema(char *out);
 int p4_pd_orbisk_switch_mcastPrune_egrMd_decapType_width(void);
 int p4_pd_orbisk_switch_mcastPrune_egrMd_routed_width(void);
@@ -8637,7 +8717,7 @@ void unbuild_key_tunnelTermination(const pd_match_record *key,
     p4_pd_orbisk_switch_tunnelTermination_match_spec_t *match_spec);
 void unbuild_mask_tunnelTermination(const pd_match_record *key,
     p4_pd_orbisk_switch_tunnelTermination_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_tunnelTermination_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_tunnelTermination_match_spec_schema(void);
 int p4_pd_orbisk_switch_tunnelTermination_schema(char *out);
 int p4_pd_orbisk_switch_tunnelTermination_outerEthHdr_dmacOui_width(void);
 int p4_pd_orbisk_switch_tunnelTermination_outerEthHdr_dmacStation_width(void);
@@ -8762,7 +8842,7 @@ pd_status p4_pd_orbisk_switch_vxlanL2AintfLookup_register_mat_update_cb(pd_sess_
     void *cookie);
 void unbuild_key_vxlanL2AintfLookup(const pd_match_record *key,
     p4_pd_orbisk_switch_vxlanL2AintfLookup_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_vxlanL2AintfLookup_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_vxlanL2AintfLookup_match_spec_schema(void);
 int p4_pd_orbisk_switch_vxlanL2AintfLookup_schema(char *out);
 int p4_pd_orbisk_switch_vxlanL2AintfLookup_outerIpv4Hdr_sip_width(void);
 int p4_pd_orbisk_switch_vxlanL2AintfLookup_supports_entry_priority(void);
@@ -8872,7 +8952,7 @@ pd_status p4_pd_orbisk_switch_vxlanVniResolution_register_mat_update_cb(pd_sess_
     void *cookie);
 void unbuild_key_vxlanVniResolution(const pd_match_record *key,
     p4_pd_orbisk_switch_vxlanVniResolution_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_vxlanVniResolution_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_vxlanVniResolution_match_spec_schema(void);
 int p4_pd_orbisk_switch_vxlanVniResolution_schema(char *out);
 int p4_pd_orbisk_switch_vxlanVniResolution_ingMd_ingressVniLow_width(void);
 int p4_pd_orbisk_switch_vxlanVniResolution_ingMd_ingressVniHigh_width(void);
@@ -8976,7 +9056,7 @@ void unbuild_key_vxlanVarp(const pd_match_record *key,
     p4_pd_orbisk_switch_vxlanVarp_match_spec_t *match_spec);
 void unbuild_mask_vxlanVarp(const pd_match_record *key,
     p4_pd_orbisk_switch_vxlanVarp_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_vxlanVarp_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_vxlanVarp_match_spec_schema(void);
 int p4_pd_orbisk_switch_vxlanVarp_schema(char *out);
 int p4_pd_orbisk_switch_vxlanVarp_innerEthHdr_dmacOui_width(void);
 int p4_pd_orbisk_switch_vxlanVarp_innerEthHdr_dmacStation_width(void);
@@ -9110,7 +9190,7 @@ pd_status p4_pd_orbisk_switch_tunnelDip0_register_mat_update_cb(pd_sess_hdl sess
     void *cookie);
 void unbuild_key_tunnelDip0(const pd_match_record *key,
     p4_pd_orbisk_switch_tunnelDip0_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_tunnelDip0_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_tunnelDip0_match_spec_schema(void);
 int p4_pd_orbisk_switch_tunnelDip0_schema(char *out);
 int p4_pd_orbisk_switch_tunnelDip0_egrMd_tunnelInfo_width(void);
 int p4_pd_orbisk_switch_tunnelDip0_supports_entry_priority(void);
@@ -9201,7 +9281,7 @@ pd_status p4_pd_orbisk_switch_tunnelVniAndVti_register_mat_update_cb(pd_sess_hdl
     void *cookie);
 void unbuild_key_tunnelVniAndVti(const pd_match_record *key,
     p4_pd_orbisk_switch_tunnelVniAndVti_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_tunnelVniAndVti_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_tunnelVniAndVti_match_spec_schema(void);
 int p4_pd_orbisk_switch_tunnelVniAndVti_schema(char *out);
 int p4_pd_orbisk_switch_tunnelVniAndVti_egrMd_egrL2Domain_width(void);
 int p4_pd_orbisk_switch_tunnelVniAndVti_supports_entry_priority(void);
@@ -9292,7 +9372,7 @@ pd_status p4_pd_orbisk_switch_tunnelL2Info_register_mat_update_cb(pd_sess_hdl se
     void *cookie);
 void unbuild_key_tunnelL2Info(const pd_match_record *key,
     p4_pd_orbisk_switch_tunnelL2Info_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_tunnelL2Info_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_tunnelL2Info_match_spec_schema(void);
 int p4_pd_orbisk_switch_tunnelL2Info_schema(char *out);
 int p4_pd_orbisk_switch_tunnelL2Info_egrMd_tunnelInfo_width(void);
 int p4_pd_orbisk_switch_tunnelL2Info_supports_entry_priority(void);
@@ -9392,7 +9472,7 @@ pd_status p4_pd_orbisk_switch_tunnelResolve_register_mat_update_cb(pd_sess_hdl s
     void *cookie);
 void unbuild_key_tunnelResolve(const pd_match_record *key,
     p4_pd_orbisk_switch_tunnelResolve_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_tunnelResolve_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_tunnelResolve_match_spec_schema(void);
 int p4_pd_orbisk_switch_tunnelResolve_schema(char *out);
 int p4_pd_orbisk_switch_tunnelResolve_egrMd_tunnelNextHop_width(void);
 int p4_pd_orbisk_switch_tunnelResolve_supports_entry_priority(void);
@@ -9585,7 +9665,7 @@ void unbuild_key_encapDecap(const pd_match_record *key,
     p4_pd_orbisk_switch_encapDecap_match_spec_t *match_spec);
 void unbuild_mask_encapDecap(const pd_match_record *key,
     p4_pd_orbisk_switch_encapDecap_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_encapDecap_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_encapDecap_match_spec_schema(void);
 int p4_pd_orbisk_switch_encapDecap_schema(char *out);
 int p4_pd_orbisk_switch_encapDecap_egrMd_decapType_width(void);
 int p4_pd_orbisk_switch_encapDecap_egrMd_encapType_width(void);
@@ -9720,7 +9800,7 @@ pd_status p4_pd_orbisk_switch_decapIngress_register_mat_update_cb(pd_sess_hdl se
     void *cookie);
 void unbuild_key_decapIngress(const pd_match_record *key,
     p4_pd_orbisk_switch_decapIngress_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_decapIngress_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_decapIngress_match_spec_schema(void);
 int p4_pd_orbisk_switch_decapIngress_schema(char *out);
 int p4_pd_orbisk_switch_decapIngress_egrMd_decapType_width(void);
 int p4_pd_orbisk_switch_decapIngress_outerIpv4Hdr_width(void);
@@ -9860,7 +9940,7 @@ void unbuild_key_globalFields(const pd_match_record *key,
     p4_pd_orbisk_switch_globalFields_match_spec_t *match_spec);
 void unbuild_mask_globalFields(const pd_match_record *key,
     p4_pd_orbisk_switch_globalFields_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_globalFields_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_globalFields_match_spec_schema(void);
 int p4_pd_orbisk_switch_globalFields_schema(char *out);
 int p4_pd_orbisk_switch_globalFields_dot1qExists_width(void);
 int p4_pd_orbisk_switch_globalFields_egrMd_decapType_width(void);
@@ -9950,7 +10030,7 @@ pd_status p4_pd_orbisk_switch_ingressNatProfile_register_mat_update_cb(pd_sess_h
     void *cookie);
 void unbuild_key_ingressNatProfile(const pd_match_record *key,
     p4_pd_orbisk_switch_ingressNatProfile_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_ingressNatProfile_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_ingressNatProfile_match_spec_schema(void);
 int p4_pd_orbisk_switch_ingressNatProfile_schema(char *out);
 int p4_pd_orbisk_switch_ingressNatProfile_ingMd_ingL3Aintf_width(void);
 int p4_pd_orbisk_switch_ingressNatProfile_supports_entry_priority(void);
@@ -10055,7 +10135,7 @@ void unbuild_key_staticDnatAcl(const pd_match_record *key,
     p4_pd_orbisk_switch_staticDnatAcl_match_spec_t *match_spec);
 void unbuild_mask_staticDnatAcl(const pd_match_record *key,
     p4_pd_orbisk_switch_staticDnatAcl_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_staticDnatAcl_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_staticDnatAcl_match_spec_schema(void);
 int p4_pd_orbisk_switch_staticDnatAcl_schema(char *out);
 int p4_pd_orbisk_switch_staticDnatAcl_ingIpv4_sip_width(void);
 int p4_pd_orbisk_switch_staticDnatAcl_ingMd_protocol_width(void);
@@ -10190,7 +10270,7 @@ pd_status p4_pd_orbisk_switch_addrPortDnat_register_mat_update_cb(pd_sess_hdl se
     void *cookie);
 void unbuild_key_addrPortDnat(const pd_match_record *key,
     p4_pd_orbisk_switch_addrPortDnat_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_addrPortDnat_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_addrPortDnat_match_spec_schema(void);
 int p4_pd_orbisk_switch_addrPortDnat_schema(char *out);
 int p4_pd_orbisk_switch_addrPortDnat_ingMd_dnatAclId_width(void);
 int p4_pd_orbisk_switch_addrPortDnat_ingIpv4_dip_width(void);
@@ -10299,7 +10379,7 @@ pd_status p4_pd_orbisk_switch_addrOnlyDnat_register_mat_update_cb(pd_sess_hdl se
     void *cookie);
 void unbuild_key_addrOnlyDnat(const pd_match_record *key,
     p4_pd_orbisk_switch_addrOnlyDnat_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_addrOnlyDnat_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_addrOnlyDnat_match_spec_schema(void);
 int p4_pd_orbisk_switch_addrOnlyDnat_schema(char *out);
 int p4_pd_orbisk_switch_addrOnlyDnat_ingMd_dnatAclId_width(void);
 int p4_pd_orbisk_switch_addrOnlyDnat_ingIpv4_dip_width(void);
@@ -10441,7 +10521,7 @@ pd_status p4_pd_orbisk_switch_dynamicDnat1_register_mat_update_cb(pd_sess_hdl se
     void *cookie);
 void unbuild_key_dynamicDnat1(const pd_match_record *key,
     p4_pd_orbisk_switch_dynamicDnat1_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_dynamicDnat1_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_dynamicDnat1_match_spec_schema(void);
 int p4_pd_orbisk_switch_dynamicDnat1_schema(char *out);
 int p4_pd_orbisk_switch_dynamicDnat1_ingMd_protocol_width(void);
 int p4_pd_orbisk_switch_dynamicDnat1_ingIpv4_sip_width(void);
@@ -10528,7 +10608,7 @@ pd_status p4_pd_orbisk_switch_dynamicFullConeCompressDip_register_mat_update_cb(
     void *cookie);
 void unbuild_key_dynamicFullConeCompressDip(const pd_match_record *key,
     p4_pd_orbisk_switch_dynamicFullConeCompressDip_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_dynamicFullConeCompressDip_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_dynamicFullConeCompressDip_match_spec_schema(void);
 int p4_pd_orbisk_switch_dynamicFullConeCompressDip_schema(char *out);
 int p4_pd_orbisk_switch_dynamicFullConeCompressDip_ingIpv4_dip_width(void);
 int p4_pd_orbisk_switch_dynamicFullConeCompressDip_supports_entry_priority(void);
@@ -10653,7 +10733,7 @@ pd_status p4_pd_orbisk_switch_dynamicFullConeDnat_register_mat_update_cb(pd_sess
     void *cookie);
 void unbuild_key_dynamicFullConeDnat(const pd_match_record *key,
     p4_pd_orbisk_switch_dynamicFullConeDnat_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_dynamicFullConeDnat_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_dynamicFullConeDnat_match_spec_schema(void);
 int p4_pd_orbisk_switch_dynamicFullConeDnat_schema(char *out);
 int p4_pd_orbisk_switch_dynamicFullConeDnat_ingMd_ingNatProfile_width(void);
 int p4_pd_orbisk_switch_dynamicFullConeDnat_ingMd_fullConeDipRangeId_width(void);
@@ -10738,7 +10818,7 @@ pd_status p4_pd_orbisk_switch_egressNatProfile_register_mat_update_cb(pd_sess_hd
     void *cookie);
 void unbuild_key_egressNatProfile(const pd_match_record *key,
     p4_pd_orbisk_switch_egressNatProfile_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_egressNatProfile_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_egressNatProfile_match_spec_schema(void);
 int p4_pd_orbisk_switch_egressNatProfile_schema(char *out);
 int p4_pd_orbisk_switch_egressNatProfile_egrMd_egrL2Domain_width(void);
 int p4_pd_orbisk_switch_egressNatProfile_supports_entry_priority(void);
@@ -10843,7 +10923,7 @@ void unbuild_key_staticSnatAcl(const pd_match_record *key,
     p4_pd_orbisk_switch_staticSnatAcl_match_spec_t *match_spec);
 void unbuild_mask_staticSnatAcl(const pd_match_record *key,
     p4_pd_orbisk_switch_staticSnatAcl_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_staticSnatAcl_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_staticSnatAcl_match_spec_schema(void);
 int p4_pd_orbisk_switch_staticSnatAcl_schema(char *out);
 int p4_pd_orbisk_switch_staticSnatAcl_outerIpv4Hdr_dip_width(void);
 int p4_pd_orbisk_switch_staticSnatAcl_ingMd_protocol_width(void);
@@ -10952,7 +11032,7 @@ pd_status p4_pd_orbisk_switch_addrPortSnat_register_mat_update_cb(pd_sess_hdl se
     void *cookie);
 void unbuild_key_addrPortSnat(const pd_match_record *key,
     p4_pd_orbisk_switch_addrPortSnat_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_addrPortSnat_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_addrPortSnat_match_spec_schema(void);
 int p4_pd_orbisk_switch_addrPortSnat_schema(char *out);
 int p4_pd_orbisk_switch_addrPortSnat_ingMd_snatAclId_width(void);
 int p4_pd_orbisk_switch_addrPortSnat_outerIpv4Hdr_sip_width(void);
@@ -11048,7 +11128,7 @@ pd_status p4_pd_orbisk_switch_addrOnlySnat_register_mat_update_cb(pd_sess_hdl se
     void *cookie);
 void unbuild_key_addrOnlySnat(const pd_match_record *key,
     p4_pd_orbisk_switch_addrOnlySnat_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_addrOnlySnat_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_addrOnlySnat_match_spec_schema(void);
 int p4_pd_orbisk_switch_addrOnlySnat_schema(char *out);
 int p4_pd_orbisk_switch_addrOnlySnat_ingMd_snatAclId_width(void);
 int p4_pd_orbisk_switch_addrOnlySnat_outerIpv4Hdr_sip_width(void);
@@ -11158,7 +11238,7 @@ void unbuild_key_dynamicSnatAcl(const pd_match_record *key,
     p4_pd_orbisk_switch_dynamicSnatAcl_match_spec_t *match_spec);
 void unbuild_mask_dynamicSnatAcl(const pd_match_record *key,
     p4_pd_orbisk_switch_dynamicSnatAcl_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_dynamicSnatAcl_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_dynamicSnatAcl_match_spec_schema(void);
 int p4_pd_orbisk_switch_dynamicSnatAcl_schema(char *out);
 int p4_pd_orbisk_switch_dynamicSnatAcl_ingMd_egrNatProfile_width(void);
 int p4_pd_orbisk_switch_dynamicSnatAcl_outerIpv4Hdr_sip_width(void);
@@ -11303,7 +11383,7 @@ pd_status p4_pd_orbisk_switch_dynamicSnat1_register_mat_update_cb(pd_sess_hdl se
     void *cookie);
 void unbuild_key_dynamicSnat1(const pd_match_record *key,
     p4_pd_orbisk_switch_dynamicSnat1_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_dynamicSnat1_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_dynamicSnat1_match_spec_schema(void);
 int p4_pd_orbisk_switch_dynamicSnat1_schema(char *out);
 int p4_pd_orbisk_switch_dynamicSnat1_ingMd_protocol_width(void);
 int p4_pd_orbisk_switch_dynamicSnat1_outerIpv4Hdr_sip_width(void);
@@ -11412,7 +11492,7 @@ void unbuild_key_dynamicNatCount(const pd_match_record *key,
     p4_pd_orbisk_switch_dynamicNatCount_match_spec_t *match_spec);
 void unbuild_mask_dynamicNatCount(const pd_match_record *key,
     p4_pd_orbisk_switch_dynamicNatCount_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_dynamicNatCount_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_dynamicNatCount_match_spec_schema(void);
 int p4_pd_orbisk_switch_dynamicNatCount_schema(char *out);
 int p4_pd_orbisk_switch_dynamicNatCount_ingMd_snatHit_width(void);
 int p4_pd_orbisk_switch_dynamicNatCount_ingMd_dnatHit_width(void);
@@ -11504,7 +11584,7 @@ pd_status p4_pd_orbisk_switch_natTcpFlags_register_mat_update_cb(pd_sess_hdl ses
     void *cookie);
 void unbuild_key_natTcpFlags(const pd_match_record *key,
     p4_pd_orbisk_switch_natTcpFlags_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_natTcpFlags_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_natTcpFlags_match_spec_schema(void);
 int p4_pd_orbisk_switch_natTcpFlags_schema(char *out);
 int p4_pd_orbisk_switch_natTcpFlags_outerTcpHdr_flags_width(void);
 int p4_pd_orbisk_switch_natTcpFlags_supports_entry_priority(void);
@@ -11649,7 +11729,7 @@ void unbuild_key_natCpuTrapAcl(const pd_match_record *key,
     p4_pd_orbisk_switch_natCpuTrapAcl_match_spec_t *match_spec);
 void unbuild_mask_natCpuTrapAcl(const pd_match_record *key,
     p4_pd_orbisk_switch_natCpuTrapAcl_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_natCpuTrapAcl_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_natCpuTrapAcl_match_spec_schema(void);
 int p4_pd_orbisk_switch_natCpuTrapAcl_schema(char *out);
 int p4_pd_orbisk_switch_natCpuTrapAcl_ingMd_natTcpFlags_width(void);
 int p4_pd_orbisk_switch_natCpuTrapAcl_ingMd_ingNatProfile_width(void);
@@ -11756,7 +11836,7 @@ void unbuild_key_natCpuReasonCode(const pd_match_record *key,
     p4_pd_orbisk_switch_natCpuReasonCode_match_spec_t *match_spec);
 void unbuild_mask_natCpuReasonCode(const pd_match_record *key,
     p4_pd_orbisk_switch_natCpuReasonCode_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_natCpuReasonCode_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_natCpuReasonCode_match_spec_schema(void);
 int p4_pd_orbisk_switch_natCpuReasonCode_schema(char *out);
 int p4_pd_orbisk_switch_natCpuReasonCode_outerTcpHdr_width(void);
 int p4_pd_orbisk_switch_natCpuReasonCode_outerTcpHdr_flags_width(void);
@@ -11917,7 +11997,7 @@ void unbuild_key_natChecksumUpdate(const pd_match_record *key,
     p4_pd_orbisk_switch_natChecksumUpdate_match_spec_t *match_spec);
 void unbuild_mask_natChecksumUpdate(const pd_match_record *key,
     p4_pd_orbisk_switch_natChecksumUpdate_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_natChecksumUpdate_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_natChecksumUpdate_match_spec_schema(void);
 int p4_pd_orbisk_switch_natChecksumUpdate_schema(char *out);
 int p4_pd_orbisk_switch_natChecksumUpdate_egrMd_cpuReasonCode_width(void);
 int p4_pd_orbisk_switch_natChecksumUpdate_ingMd_dnatHit_width(void);
@@ -12033,7 +12113,7 @@ pd_status p4_pd_orbisk_switch_egressNatCpuTrapHeader_register_mat_update_cb(pd_s
     void *cookie);
 void unbuild_key_egressNatCpuTrapHeader(const pd_match_record *key,
     p4_pd_orbisk_switch_egressNatCpuTrapHeader_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_egressNatCpuTrapHeader_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_egressNatCpuTrapHeader_match_spec_schema(void);
 int p4_pd_orbisk_switch_egressNatCpuTrapHeader_schema(char *out);
 int p4_pd_orbisk_switch_egressNatCpuTrapHeader_egrMd_natAclIdHi_width(void);
 int p4_pd_orbisk_switch_egressNatCpuTrapHeader_egrMd_natAclIdLo_width(void);
@@ -12130,7 +12210,7 @@ pd_status p4_pd_orbisk_switch_haloPaclCrlId_register_mat_update_cb(pd_sess_hdl s
     void *cookie);
 void unbuild_key_haloPaclCrlId(const pd_match_record *key,
     p4_pd_orbisk_switch_haloPaclCrlId_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_haloPaclCrlId_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_haloPaclCrlId_match_spec_schema(void);
 int p4_pd_orbisk_switch_haloPaclCrlId_schema(char *out);
 int p4_pd_orbisk_switch_haloPaclCrlId_ingMd_v4V6Valid_width(void);
 int p4_pd_orbisk_switch_haloPaclCrlId_ig_intr_md_ingress_port_width(void);
@@ -12223,7 +12303,7 @@ pd_status p4_pd_orbisk_switch_haloRaclCrlId_register_mat_update_cb(pd_sess_hdl s
     void *cookie);
 void unbuild_key_haloRaclCrlId(const pd_match_record *key,
     p4_pd_orbisk_switch_haloRaclCrlId_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_haloRaclCrlId_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_haloRaclCrlId_match_spec_schema(void);
 int p4_pd_orbisk_switch_haloRaclCrlId_schema(char *out);
 int p4_pd_orbisk_switch_haloRaclCrlId_ingMd_v4V6Valid_width(void);
 int p4_pd_orbisk_switch_haloRaclCrlId_ingMd_ingL3Aintf_width(void);
@@ -12337,7 +12417,7 @@ void unbuild_key_haloXformIpv4Sip(const pd_match_record *key,
     p4_pd_orbisk_switch_haloXformIpv4Sip_match_spec_t *match_spec);
 void unbuild_mask_haloXformIpv4Sip(const pd_match_record *key,
     p4_pd_orbisk_switch_haloXformIpv4Sip_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_haloXformIpv4Sip_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_haloXformIpv4Sip_match_spec_schema(void);
 int p4_pd_orbisk_switch_haloXformIpv4Sip_schema(char *out);
 int p4_pd_orbisk_switch_haloXformIpv4Sip_ingIpv4_sip_width(void);
 int p4_pd_orbisk_switch_haloXformIpv4Sip_supports_entry_priority(void);
@@ -12450,7 +12530,7 @@ void unbuild_key_haloXformIpv4Dip(const pd_match_record *key,
     p4_pd_orbisk_switch_haloXformIpv4Dip_match_spec_t *match_spec);
 void unbuild_mask_haloXformIpv4Dip(const pd_match_record *key,
     p4_pd_orbisk_switch_haloXformIpv4Dip_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_haloXformIpv4Dip_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_haloXformIpv4Dip_match_spec_schema(void);
 int p4_pd_orbisk_switch_haloXformIpv4Dip_schema(char *out);
 int p4_pd_orbisk_switch_haloXformIpv4Dip_ingIpv4_dip_width(void);
 int p4_pd_orbisk_switch_haloXformIpv4Dip_supports_entry_priority(void);
@@ -12563,7 +12643,7 @@ void unbuild_key_haloXformIpv6Sip(const pd_match_record *key,
     p4_pd_orbisk_switch_haloXformIpv6Sip_match_spec_t *match_spec);
 void unbuild_mask_haloXformIpv6Sip(const pd_match_record *key,
     p4_pd_orbisk_switch_haloXformIpv6Sip_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_haloXformIpv6Sip_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_haloXformIpv6Sip_match_spec_schema(void);
 int p4_pd_orbisk_switch_haloXformIpv6Sip_schema(char *out);
 int p4_pd_orbisk_switch_haloXformIpv6Sip_ingIpv6_sip_width(void);
 int p4_pd_orbisk_switch_haloXformIpv6Sip_supports_entry_priority(void);
@@ -12676,7 +12756,7 @@ void unbuild_key_haloXformIpv6Dip(const pd_match_record *key,
     p4_pd_orbisk_switch_haloXformIpv6Dip_match_spec_t *match_spec);
 void unbuild_mask_haloXformIpv6Dip(const pd_match_record *key,
     p4_pd_orbisk_switch_haloXformIpv6Dip_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_haloXformIpv6Dip_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_haloXformIpv6Dip_match_spec_schema(void);
 int p4_pd_orbisk_switch_haloXformIpv6Dip_schema(char *out);
 int p4_pd_orbisk_switch_haloXformIpv6Dip_ingIpv6_dip_width(void);
 int p4_pd_orbisk_switch_haloXformIpv6Dip_supports_entry_priority(void);
@@ -12777,7 +12857,7 @@ void unbuild_key_haloXformSrcPort(const pd_match_record *key,
     p4_pd_orbisk_switch_haloXformSrcPort_match_spec_t *match_spec);
 void unbuild_mask_haloXformSrcPort(const pd_match_record *key,
     p4_pd_orbisk_switch_haloXformSrcPort_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_haloXformSrcPort_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_haloXformSrcPort_match_spec_schema(void);
 int p4_pd_orbisk_switch_haloXformSrcPort_schema(char *out);
 int p4_pd_orbisk_switch_haloXformSrcPort_ingMd_srcPort_width(void);
 int p4_pd_orbisk_switch_haloXformSrcPort_supports_entry_priority(void);
@@ -12878,7 +12958,7 @@ void unbuild_key_haloXformDstPort(const pd_match_record *key,
     p4_pd_orbisk_switch_haloXformDstPort_match_spec_t *match_spec);
 void unbuild_mask_haloXformDstPort(const pd_match_record *key,
     p4_pd_orbisk_switch_haloXformDstPort_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_haloXformDstPort_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_haloXformDstPort_match_spec_schema(void);
 int p4_pd_orbisk_switch_haloXformDstPort_schema(char *out);
 int p4_pd_orbisk_switch_haloXformDstPort_ingMd_dstPort_width(void);
 int p4_pd_orbisk_switch_haloXformDstPort_supports_entry_priority(void);
@@ -12960,7 +13040,7 @@ pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_register_mat_update_cb(pd
     void *cookie);
 void unbuild_key_haloKeyMaskForRow1Stage2(const pd_match_record *key,
     p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_match_spec_schema(void);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_schema(char *out);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_haloKeyOrig_crlId_width(void);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_supports_entry_priority(void);
@@ -13060,7 +13140,7 @@ pd_status p4_pd_orbisk_switch_haloRow1Stage2_register_mat_update_cb(pd_sess_hdl 
     void *cookie);
 void unbuild_key_haloRow1Stage2(const pd_match_record *key,
     p4_pd_orbisk_switch_haloRow1Stage2_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_haloRow1Stage2_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_haloRow1Stage2_match_spec_schema(void);
 int p4_pd_orbisk_switch_haloRow1Stage2_schema(char *out);
 int p4_pd_orbisk_switch_haloRow1Stage2_haloKeyOrig_crlId_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage2_haloKeyMaskedRow1_sip_width(void);
@@ -13151,7 +13231,7 @@ pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_register_mat_update_cb(pd
     void *cookie);
 void unbuild_key_haloKeyMaskForRow1Stage3(const pd_match_record *key,
     p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_match_spec_schema(void);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_schema(char *out);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_haloKeyOrig_crlId_width(void);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_supports_entry_priority(void);
@@ -13251,7 +13331,7 @@ pd_status p4_pd_orbisk_switch_haloRow1Stage3_register_mat_update_cb(pd_sess_hdl 
     void *cookie);
 void unbuild_key_haloRow1Stage3(const pd_match_record *key,
     p4_pd_orbisk_switch_haloRow1Stage3_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_haloRow1Stage3_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_haloRow1Stage3_match_spec_schema(void);
 int p4_pd_orbisk_switch_haloRow1Stage3_schema(char *out);
 int p4_pd_orbisk_switch_haloRow1Stage3_haloKeyOrig_crlId_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage3_haloKeyMaskedRow1_sip_width(void);
@@ -13342,7 +13422,7 @@ pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_register_mat_update_cb(pd
     void *cookie);
 void unbuild_key_haloKeyMaskForRow1Stage4(const pd_match_record *key,
     p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_match_spec_schema(void);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_schema(char *out);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_haloKeyOrig_crlId_width(void);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_supports_entry_priority(void);
@@ -13442,7 +13522,7 @@ pd_status p4_pd_orbisk_switch_haloRow1Stage4_register_mat_update_cb(pd_sess_hdl 
     void *cookie);
 void unbuild_key_haloRow1Stage4(const pd_match_record *key,
     p4_pd_orbisk_switch_haloRow1Stage4_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_haloRow1Stage4_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_haloRow1Stage4_match_spec_schema(void);
 int p4_pd_orbisk_switch_haloRow1Stage4_schema(char *out);
 int p4_pd_orbisk_switch_haloRow1Stage4_haloKeyOrig_crlId_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage4_haloKeyMaskedRow1_sip_width(void);
@@ -13533,7 +13613,7 @@ pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_register_mat_update_cb(pd
     void *cookie);
 void unbuild_key_haloKeyMaskForRow1Stage5(const pd_match_record *key,
     p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_match_spec_schema(void);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_schema(char *out);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_haloKeyOrig_crlId_width(void);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_supports_entry_priority(void);
@@ -13633,7 +13713,7 @@ pd_status p4_pd_orbisk_switch_haloRow1Stage5_register_mat_update_cb(pd_sess_hdl 
     void *cookie);
 void unbuild_key_haloRow1Stage5(const pd_match_record *key,
     p4_pd_orbisk_switch_haloRow1Stage5_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_haloRow1Stage5_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_haloRow1Stage5_match_spec_schema(void);
 int p4_pd_orbisk_switch_haloRow1Stage5_schema(char *out);
 int p4_pd_orbisk_switch_haloRow1Stage5_haloKeyOrig_crlId_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage5_haloKeyMaskedRow1_sip_width(void);
@@ -13724,7 +13804,7 @@ pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_register_mat_update_cb(pd
     void *cookie);
 void unbuild_key_haloKeyMaskForRow1Stage6(const pd_match_record *key,
     p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_match_spec_schema(void);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_schema(char *out);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_haloKeyOrig_crlId_width(void);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_supports_entry_priority(void);
@@ -13824,7 +13904,7 @@ pd_status p4_pd_orbisk_switch_haloRow1Stage6_register_mat_update_cb(pd_sess_hdl 
     void *cookie);
 void unbuild_key_haloRow1Stage6(const pd_match_record *key,
     p4_pd_orbisk_switch_haloRow1Stage6_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_haloRow1Stage6_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_haloRow1Stage6_match_spec_schema(void);
 int p4_pd_orbisk_switch_haloRow1Stage6_schema(char *out);
 int p4_pd_orbisk_switch_haloRow1Stage6_haloKeyOrig_crlId_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage6_haloKeyMaskedRow1_sip_width(void);
@@ -13960,7 +14040,7 @@ pd_status p4_pd_orbisk_switch_haloCounters_register_mat_update_cb(pd_sess_hdl se
     void *cookie);
 void unbuild_key_haloCounters(const pd_match_record *key,
     p4_pd_orbisk_switch_haloCounters_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_haloCounters_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_haloCounters_match_spec_schema(void);
 int p4_pd_orbisk_switch_haloCounters_schema(char *out);
 int p4_pd_orbisk_switch_haloCounters_haloResultRow1_bestResult_width(void);
 int p4_pd_orbisk_switch_haloCounters_supports_entry_priority(void);
@@ -14099,7 +14179,7 @@ void unbuild_key_ingressMirrorSession(const pd_match_record *key,
     p4_pd_orbisk_switch_ingressMirrorSession_match_spec_t *match_spec);
 void unbuild_mask_ingressMirrorSession(const pd_match_record *key,
     p4_pd_orbisk_switch_ingressMirrorSession_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_ingressMirrorSession_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_ingressMirrorSession_match_spec_schema(void);
 int p4_pd_orbisk_switch_ingressMirrorSession_schema(char *out);
 int p4_pd_orbisk_switch_ingressMirrorSession_phase0_ingVPort_width(void);
 int p4_pd_orbisk_switch_ingressMirrorSession_ig_intr_md_ingress_port_width(void);
@@ -14210,7 +14290,7 @@ pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_register_mat_update_cb(pd_se
     void *cookie);
 void unbuild_key_ingressMirrorLagGroup(const pd_match_record *key,
     p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_schema(void);
 int p4_pd_orbisk_switch_ingressMirrorLagGroup_schema(char *out);
 int p4_pd_orbisk_switch_ingressMirrorLagGroup_ingMirrorMd_mirrorSession_width(void);
 int p4_pd_orbisk_switch_ingressMirrorLagGroup_supports_entry_priority(void);
@@ -14301,7 +14381,7 @@ pd_status p4_pd_orbisk_switch_ingressMirrorRate_register_mat_update_cb(pd_sess_h
     void *cookie);
 void unbuild_key_ingressMirrorRate(const pd_match_record *key,
     p4_pd_orbisk_switch_ingressMirrorRate_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_ingressMirrorRate_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_ingressMirrorRate_match_spec_schema(void);
 int p4_pd_orbisk_switch_ingressMirrorRate_schema(char *out);
 int p4_pd_orbisk_switch_ingressMirrorRate_ingMirrorMd_mirrorBufId_width(void);
 int p4_pd_orbisk_switch_ingressMirrorRate_supports_entry_priority(void);
@@ -14384,7 +14464,7 @@ pd_status p4_pd_orbisk_switch_ingressMirrorResult_register_mat_update_cb(pd_sess
     void *cookie);
 void unbuild_key_ingressMirrorResult(const pd_match_record *key,
     p4_pd_orbisk_switch_ingressMirrorResult_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_ingressMirrorResult_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_ingressMirrorResult_match_spec_schema(void);
 int p4_pd_orbisk_switch_ingressMirrorResult_schema(char *out);
 int p4_pd_orbisk_switch_ingressMirrorResult_ingMirrorMd_mirrorColor_width(void);
 int p4_pd_orbisk_switch_ingressMirrorResult_ingMirrorMd_mirrorSession_width(void);
@@ -14507,7 +14587,7 @@ void unbuild_key_egressMirrorSession(const pd_match_record *key,
     p4_pd_orbisk_switch_egressMirrorSession_match_spec_t *match_spec);
 void unbuild_mask_egressMirrorSession(const pd_match_record *key,
     p4_pd_orbisk_switch_egressMirrorSession_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_egressMirrorSession_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_egressMirrorSession_match_spec_schema(void);
 int p4_pd_orbisk_switch_egressMirrorSession_schema(char *out);
 int p4_pd_orbisk_switch_egressMirrorSession_eg_intr_md_egress_port_width(void);
 int p4_pd_orbisk_switch_egressMirrorSession_outerIpv4Hdr_width(void);
@@ -14618,7 +14698,7 @@ pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_register_mat_update_cb(pd_ses
     void *cookie);
 void unbuild_key_egressMirrorLagGroup(const pd_match_record *key,
     p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_schema(void);
 int p4_pd_orbisk_switch_egressMirrorLagGroup_schema(char *out);
 int p4_pd_orbisk_switch_egressMirrorLagGroup_egrMirrorMd_mirrorSession_width(void);
 int p4_pd_orbisk_switch_egressMirrorLagGroup_supports_entry_priority(void);
@@ -14709,7 +14789,7 @@ pd_status p4_pd_orbisk_switch_egressMirrorRate_register_mat_update_cb(pd_sess_hd
     void *cookie);
 void unbuild_key_egressMirrorRate(const pd_match_record *key,
     p4_pd_orbisk_switch_egressMirrorRate_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_egressMirrorRate_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_egressMirrorRate_match_spec_schema(void);
 int p4_pd_orbisk_switch_egressMirrorRate_schema(char *out);
 int p4_pd_orbisk_switch_egressMirrorRate_egrMirrorMd_mirrorBufId_width(void);
 int p4_pd_orbisk_switch_egressMirrorRate_supports_entry_priority(void);
@@ -14797,7 +14877,7 @@ pd_status p4_pd_orbisk_switch_egressMirrorResult_register_mat_update_cb(pd_sess_
     void *cookie);
 void unbuild_key_egressMirrorResult(const pd_match_record *key,
     p4_pd_orbisk_switch_egressMirrorResult_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_egressMirrorResult_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_egressMirrorResult_match_spec_schema(void);
 int p4_pd_orbisk_switch_egressMirrorResult_schema(char *out);
 int p4_pd_orbisk_switch_egressMirrorResult_egrMirrorMd_mirrorColor_width(void);
 int p4_pd_orbisk_switch_egressMirrorResult_supports_entry_priority(void);
@@ -14912,7 +14992,7 @@ pd_status p4_pd_orbisk_switch_mirrorPacketEncap_register_mat_update_cb(pd_sess_h
     void *cookie);
 void unbuild_key_mirrorPacketEncap(const pd_match_record *key,
     p4_pd_orbisk_switch_mirrorPacketEncap_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_mirrorPacketEncap_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_mirrorPacketEncap_match_spec_schema(void);
 int p4_pd_orbisk_switch_mirrorPacketEncap_schema(char *out);
 int p4_pd_orbisk_switch_mirrorPacketEncap_eg_intr_md_egress_rid_width(void);
 int p4_pd_orbisk_switch_mirrorPacketEncap_eg_intr_md_egress_port_width(void);
@@ -14999,7 +15079,7 @@ pd_status p4_pd_orbisk_switch_qosPortProperties_register_mat_update_cb(pd_sess_h
     void *cookie);
 void unbuild_key_qosPortProperties(const pd_match_record *key,
     p4_pd_orbisk_switch_qosPortProperties_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_qosPortProperties_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_qosPortProperties_match_spec_schema(void);
 int p4_pd_orbisk_switch_qosPortProperties_schema(char *out);
 int p4_pd_orbisk_switch_qosPortProperties_ig_intr_md_ingress_port_width(void);
 int p4_pd_orbisk_switch_qosPortProperties_supports_entry_priority(void);
@@ -15119,7 +15199,7 @@ pd_status p4_pd_orbisk_switch_normalizeCos_register_mat_update_cb(pd_sess_hdl se
     void *cookie);
 void unbuild_key_normalizeCos(const pd_match_record *key,
     p4_pd_orbisk_switch_normalizeCos_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_normalizeCos_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_normalizeCos_match_spec_schema(void);
 int p4_pd_orbisk_switch_normalizeCos_schema(char *out);
 int p4_pd_orbisk_switch_normalizeCos_ingMd_vlanHdrValid_width(void);
 int p4_pd_orbisk_switch_normalizeCos_qosMd_defaultCos_width(void);
@@ -15266,7 +15346,7 @@ pd_status p4_pd_orbisk_switch_normalizeDscp_register_mat_update_cb(pd_sess_hdl s
     void *cookie);
 void unbuild_key_normalizeDscp(const pd_match_record *key,
     p4_pd_orbisk_switch_normalizeDscp_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_normalizeDscp_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_normalizeDscp_match_spec_schema(void);
 int p4_pd_orbisk_switch_normalizeDscp_schema(char *out);
 int p4_pd_orbisk_switch_normalizeDscp_egrMd_decapType_width(void);
 int p4_pd_orbisk_switch_normalizeDscp_ingMd_v4V6Valid_width(void);
@@ -15371,7 +15451,7 @@ void unbuild_key_ingressTrafficClass(const pd_match_record *key,
     p4_pd_orbisk_switch_ingressTrafficClass_match_spec_t *match_spec);
 void unbuild_mask_ingressTrafficClass(const pd_match_record *key,
     p4_pd_orbisk_switch_ingressTrafficClass_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_ingressTrafficClass_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_ingressTrafficClass_match_spec_schema(void);
 int p4_pd_orbisk_switch_ingressTrafficClass_schema(char *out);
 int p4_pd_orbisk_switch_ingressTrafficClass_qosMd_trustMode_width(void);
 int p4_pd_orbisk_switch_ingressTrafficClass_qosMd_defaultCos_width(void);
@@ -15473,7 +15553,7 @@ pd_status p4_pd_orbisk_switch_tcDscpMap_register_mat_update_cb(pd_sess_hdl sess_
     void *cookie);
 void unbuild_key_tcDscpMap(const pd_match_record *key,
     p4_pd_orbisk_switch_tcDscpMap_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_tcDscpMap_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_tcDscpMap_match_spec_schema(void);
 int p4_pd_orbisk_switch_tcDscpMap_schema(char *out);
 int p4_pd_orbisk_switch_tcDscpMap_ig_intr_md_for_tm_ingress_cos_width(void);
 int p4_pd_orbisk_switch_tcDscpMap_supports_entry_priority(void);
@@ -15644,7 +15724,7 @@ pd_status p4_pd_orbisk_switch_qosRewrite_register_mat_update_cb(pd_sess_hdl sess
     void *cookie);
 void unbuild_key_qosRewrite(const pd_match_record *key,
     p4_pd_orbisk_switch_qosRewrite_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_qosRewrite_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_qosRewrite_match_spec_schema(void);
 int p4_pd_orbisk_switch_qosRewrite_schema(char *out);
 int p4_pd_orbisk_switch_qosRewrite_qosMd_trustMode_width(void);
 int p4_pd_orbisk_switch_qosRewrite_qosMd_cosRewrite_width(void);
@@ -15828,7 +15908,7 @@ void unbuild_key_packetDscpRewrite(const pd_match_record *key,
     p4_pd_orbisk_switch_packetDscpRewrite_match_spec_t *match_spec);
 void unbuild_mask_packetDscpRewrite(const pd_match_record *key,
     p4_pd_orbisk_switch_packetDscpRewrite_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_packetDscpRewrite_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_packetDscpRewrite_match_spec_schema(void);
 int p4_pd_orbisk_switch_packetDscpRewrite_schema(char *out);
 int p4_pd_orbisk_switch_packetDscpRewrite_egrMd_encapType_width(void);
 int p4_pd_orbisk_switch_packetDscpRewrite_egrMd_decapType_width(void);
@@ -16001,7 +16081,7 @@ void unbuild_key_pdpClassify(const pd_match_record *key,
     p4_pd_orbisk_switch_pdpClassify_match_spec_t *match_spec);
 void unbuild_mask_pdpClassify(const pd_match_record *key,
     p4_pd_orbisk_switch_pdpClassify_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_pdpClassify_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_pdpClassify_match_spec_schema(void);
 int p4_pd_orbisk_switch_pdpClassify_schema(char *out);
 int p4_pd_orbisk_switch_pdpClassify_arpHdr_width(void);
 int p4_pd_orbisk_switch_pdpClassify_orbiskCpuHdr_width(void);
@@ -16100,7 +16180,7 @@ pd_status p4_pd_orbisk_switch_pdpPolicy_register_mat_update_cb(pd_sess_hdl sess_
     void *cookie);
 void unbuild_key_pdpPolicy(const pd_match_record *key,
     p4_pd_orbisk_switch_pdpPolicy_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_pdpPolicy_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_pdpPolicy_match_spec_schema(void);
 int p4_pd_orbisk_switch_pdpPolicy_schema(char *out);
 int p4_pd_orbisk_switch_pdpPolicy_qosMd_pdpDrop_width(void);
 int p4_pd_orbisk_switch_pdpPolicy_qosMd_pdpClassId_width(void);
@@ -16283,7 +16363,7 @@ void unbuild_key_trapToCpu(const pd_match_record *key,
     p4_pd_orbisk_switch_trapToCpu_match_spec_t *match_spec);
 void unbuild_mask_trapToCpu(const pd_match_record *key,
     p4_pd_orbisk_switch_trapToCpu_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_trapToCpu_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_trapToCpu_match_spec_schema(void);
 int p4_pd_orbisk_switch_trapToCpu_schema(char *out);
 int p4_pd_orbisk_switch_trapToCpu_ingMd_etherType_width(void);
 int p4_pd_orbisk_switch_trapToCpu_ingMd_bcast_width(void);
@@ -16385,7 +16465,7 @@ pd_status p4_pd_orbisk_switch_switchToCpu_register_mat_update_cb(pd_sess_hdl ses
     void *cookie);
 void unbuild_key_switchToCpu(const pd_match_record *key,
     p4_pd_orbisk_switch_switchToCpu_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_switchToCpu_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_switchToCpu_match_spec_schema(void);
 int p4_pd_orbisk_switch_switchToCpu_schema(char *out);
 int p4_pd_orbisk_switch_switchToCpu_l3Info_ipRouting_width(void);
 int p4_pd_orbisk_switch_switchToCpu_ingMd_v4V6Valid_width(void);
@@ -16581,7 +16661,7 @@ void unbuild_key_cpuEncap(const pd_match_record *key,
     p4_pd_orbisk_switch_cpuEncap_match_spec_t *match_spec);
 void unbuild_mask_cpuEncap(const pd_match_record *key,
     p4_pd_orbisk_switch_cpuEncap_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_cpuEncap_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_cpuEncap_match_spec_schema(void);
 int p4_pd_orbisk_switch_cpuEncap_schema(char *out);
 int p4_pd_orbisk_switch_cpuEncap_egrMd_trapToCpu_width(void);
 int p4_pd_orbisk_switch_cpuEncap_ingMd_vlanHdrValid_width(void);
@@ -16712,7 +16792,7 @@ pd_status p4_pd_orbisk_switch_cpuEncapFields_register_mat_update_cb(pd_sess_hdl 
     void *cookie);
 void unbuild_key_cpuEncapFields(const pd_match_record *key,
     p4_pd_orbisk_switch_cpuEncapFields_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_cpuEncapFields_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_cpuEncapFields_match_spec_schema(void);
 int p4_pd_orbisk_switch_cpuEncapFields_schema(char *out);
 int p4_pd_orbisk_switch_cpuEncapFields_eg_intr_md_egress_port_width(void);
 int p4_pd_orbisk_switch_cpuEncapFields_phase0_switchPort_width(void);
@@ -16825,7 +16905,7 @@ void unbuild_key_ingMtu(const pd_match_record *key,
     p4_pd_orbisk_switch_ingMtu_match_spec_t *match_spec);
 void unbuild_mask_ingMtu(const pd_match_record *key,
     p4_pd_orbisk_switch_ingMtu_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_ingMtu_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_ingMtu_match_spec_schema(void);
 int p4_pd_orbisk_switch_ingMtu_schema(char *out);
 int p4_pd_orbisk_switch_ingMtu_ingMd_v4V6Valid_width(void);
 int p4_pd_orbisk_switch_ingMtu_outerIpv4Hdr_width(void);
@@ -16936,7 +17016,7 @@ void unbuild_key_mtuCheck(const pd_match_record *key,
     p4_pd_orbisk_switch_mtuCheck_match_spec_t *match_spec);
 void unbuild_mask_mtuCheck(const pd_match_record *key,
     p4_pd_orbisk_switch_mtuCheck_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_mtuCheck_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_mtuCheck_match_spec_schema(void);
 int p4_pd_orbisk_switch_mtuCheck_schema(char *out);
 int p4_pd_orbisk_switch_mtuCheck_ingMd_ingMtuFail_width(void);
 int p4_pd_orbisk_switch_mtuCheck_ingMd_mtuId_width(void);
@@ -17136,7 +17216,7 @@ void unbuild_key_finalDropControl(const pd_match_record *key,
     p4_pd_orbisk_switch_finalDropControl_match_spec_t *match_spec);
 void unbuild_mask_finalDropControl(const pd_match_record *key,
     p4_pd_orbisk_switch_finalDropControl_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_finalDropControl_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_finalDropControl_match_spec_schema(void);
 int p4_pd_orbisk_switch_finalDropControl_schema(char *out);
 int p4_pd_orbisk_switch_finalDropControl_ig_intr_md_ingress_port_width(void);
 int p4_pd_orbisk_switch_finalDropControl_haloResultRow1_bestResult_width(void);
@@ -17269,7 +17349,7 @@ void unbuild_key_finalDropControlIB(const pd_match_record *key,
     p4_pd_orbisk_switch_finalDropControlIB_match_spec_t *match_spec);
 void unbuild_mask_finalDropControlIB(const pd_match_record *key,
     p4_pd_orbisk_switch_finalDropControlIB_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_finalDropControlIB_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_finalDropControlIB_match_spec_schema(void);
 int p4_pd_orbisk_switch_finalDropControlIB_schema(char *out);
 int p4_pd_orbisk_switch_finalDropControlIB_ig_intr_md_ingress_port_width(void);
 int p4_pd_orbisk_switch_finalDropControlIB_qosMd_pdpDrop_width(void);
@@ -17362,7 +17442,7 @@ pd_status p4_pd_orbisk_switch_eifIngPolicy_register_mat_update_cb(pd_sess_hdl se
     void *cookie);
 void unbuild_key_eifIngPolicy(const pd_match_record *key,
     p4_pd_orbisk_switch_eifIngPolicy_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_eifIngPolicy_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_eifIngPolicy_match_spec_schema(void);
 int p4_pd_orbisk_switch_eifIngPolicy_schema(char *out);
 int p4_pd_orbisk_switch_eifIngPolicy_ingMd_ingL3Aintf_width(void);
 int p4_pd_orbisk_switch_eifIngPolicy_supports_entry_priority(void);
@@ -17493,7 +17573,7 @@ pd_status p4_pd_orbisk_switch_eifParamsForEgress_register_mat_update_cb(pd_sess_
     void *cookie);
 void unbuild_key_eifParamsForEgress(const pd_match_record *key,
     p4_pd_orbisk_switch_eifParamsForEgress_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_eifParamsForEgress_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_eifParamsForEgress_match_spec_schema(void);
 int p4_pd_orbisk_switch_eifParamsForEgress_schema(char *out);
 int p4_pd_orbisk_switch_eifParamsForEgress_egrMd_egrL2Domain_width(void);
 int p4_pd_orbisk_switch_eifParamsForEgress_supports_entry_priority(void);
@@ -17587,7 +17667,7 @@ pd_status p4_pd_orbisk_switch_eifPinHole_register_mat_update_cb(pd_sess_hdl sess
     void *cookie);
 void unbuild_key_eifPinHole(const pd_match_record *key,
     p4_pd_orbisk_switch_eifPinHole_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_eifPinHole_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_eifPinHole_match_spec_schema(void);
 int p4_pd_orbisk_switch_eifPinHole_schema(char *out);
 int p4_pd_orbisk_switch_eifPinHole_eif_policy_width(void);
 int p4_pd_orbisk_switch_eifPinHole_ingMd_protocol_width(void);
@@ -17699,7 +17779,7 @@ pd_status p4_pd_orbisk_switch_eifPinHoleHits_register_mat_update_cb(pd_sess_hdl 
     void *cookie);
 void unbuild_key_eifPinHoleHits(const pd_match_record *key,
     p4_pd_orbisk_switch_eifPinHoleHits_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_eifPinHoleHits_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_eifPinHoleHits_match_spec_schema(void);
 int p4_pd_orbisk_switch_eifPinHoleHits_schema(char *out);
 int p4_pd_orbisk_switch_eifPinHoleHits_eif_matchedIdx_width(void);
 int p4_pd_orbisk_switch_eifPinHoleHits_supports_entry_priority(void);
@@ -17844,7 +17924,7 @@ void unbuild_key_eifAcl(const pd_match_record *key,
     p4_pd_orbisk_switch_eifAcl_match_spec_t *match_spec);
 void unbuild_mask_eifAcl(const pd_match_record *key,
     p4_pd_orbisk_switch_eifAcl_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_eifAcl_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_eifAcl_match_spec_schema(void);
 int p4_pd_orbisk_switch_eifAcl_schema(char *out);
 int p4_pd_orbisk_switch_eifAcl_phase0_portType_width(void);
 int p4_pd_orbisk_switch_eifAcl_eif_policy_width(void);
@@ -17967,7 +18047,7 @@ void unbuild_key_eifForwardToPeerAcl(const pd_match_record *key,
     p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec_t *match_spec);
 void unbuild_mask_eifForwardToPeerAcl(const pd_match_record *key,
     p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec_schema(void);
 int p4_pd_orbisk_switch_eifForwardToPeerAcl_schema(char *out);
 int p4_pd_orbisk_switch_eifForwardToPeerAcl_egrMd_cpuReasonCode_width(void);
 int p4_pd_orbisk_switch_eifForwardToPeerAcl_eif_policy_width(void);
@@ -18084,7 +18164,7 @@ void unbuild_key_foldedPipeDest(const pd_match_record *key,
     p4_pd_orbisk_switch_foldedPipeDest_match_spec_t *match_spec);
 void unbuild_mask_foldedPipeDest(const pd_match_record *key,
     p4_pd_orbisk_switch_foldedPipeDest_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_foldedPipeDest_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_foldedPipeDest_match_spec_schema(void);
 int p4_pd_orbisk_switch_foldedPipeDest_schema(char *out);
 int p4_pd_orbisk_switch_foldedPipeDest_l3Info_vrfId_width(void);
 int p4_pd_orbisk_switch_foldedPipeDest_l3Info_ingL3DmacValid_width(void);
@@ -18199,7 +18279,7 @@ void unbuild_key_foldedPipeQos(const pd_match_record *key,
     p4_pd_orbisk_switch_foldedPipeQos_match_spec_t *match_spec);
 void unbuild_mask_foldedPipeQos(const pd_match_record *key,
     p4_pd_orbisk_switch_foldedPipeQos_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_foldedPipeQos_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_foldedPipeQos_match_spec_schema(void);
 int p4_pd_orbisk_switch_foldedPipeQos_schema(char *out);
 int p4_pd_orbisk_switch_foldedPipeQos_egrMd_trapToCpu_width(void);
 int p4_pd_orbisk_switch_foldedPipeQos_orbiskCpuHdr_width(void);
@@ -18284,7 +18364,7 @@ pd_status p4_pd_orbisk_switch_foldedPipeCounters_register_mat_update_cb(pd_sess_
     void *cookie);
 void unbuild_key_foldedPipeCounters(const pd_match_record *key,
     p4_pd_orbisk_switch_foldedPipeCounters_match_spec_t *match_spec);
-const char * p4_pd_orbisk_switch_foldedPipeCounters_match_spec_schema(void);
+const char *p4_pd_orbisk_switch_foldedPipeCounters_match_spec_schema(void);
 int p4_pd_orbisk_switch_foldedPipeCounters_schema(char *out);
 int p4_pd_orbisk_switch_foldedPipeCounters_ig_intr_md_for_tm_ucast_egress_port_width(void);
 int p4_pd_orbisk_switch_foldedPipeCounters_ingMd_foldedPipeQid_width(void);
@@ -19609,608 +19689,1505 @@ pd_status p4_pd_orbisk_switch_register_write_all_indirect(pd_sess_hdl sess_hdl,
 
 /* ------------------------------------ action data read back --- */
 
-const char * p4_pd_orbisk_switch_setPhase0_schema(void);
+const char *p4_pd_orbisk_switch_setPhase0_schema(void);
 void unbuild_action_spec_setPhase0(const pd_action_record *act,
     p4_pd_orbisk_switch_setPhase0_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_NoAction_schema(void);
-const char * p4_pd_orbisk_switch_hashComputeInnerIpv4HdrAction_schema(void);
-const char * p4_pd_orbisk_switch_hashComputeInnerIpv6HdrAction_schema(void);
-const char * p4_pd_orbisk_switch_setTunnelTerminationTypeNoneIpv4AndL2_schema(void);
-const char * p4_pd_orbisk_switch_setTunnelTerminationTypeVxlan_schema(void);
+const char *p4_pd_orbisk_switch_NoAction_schema(void);
+const char *p4_pd_orbisk_switch_hashComputeInnerIpv4HdrAction_schema(void);
+const char *p4_pd_orbisk_switch_hashComputeInnerIpv6HdrAction_schema(void);
+const char *p4_pd_orbisk_switch_setTunnelTerminationTypeNoneIpv4AndL2_schema(void);
+const char *p4_pd_orbisk_switch_setTunnelTerminationTypeVxlan_schema(void);
 void unbuild_action_spec_setTunnelTerminationTypeVxlan(const pd_action_record *act,
     p4_pd_orbisk_switch_setTunnelTerminationTypeVxlan_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setTunnelTerminationTypeNoneIpv6_schema(void);
-const char * p4_pd_orbisk_switch_setL2DomainUntagged_schema(void);
+const char *p4_pd_orbisk_switch_setTunnelTerminationTypeNoneIpv6_schema(void);
+const char *p4_pd_orbisk_switch_setL2DomainUntagged_schema(void);
 void unbuild_action_spec_setL2DomainUntagged(const pd_action_record *act,
     p4_pd_orbisk_switch_setL2DomainUntagged_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setL2DomainVlanXlate_schema(void);
+const char *p4_pd_orbisk_switch_setL2DomainVlanXlate_schema(void);
 void unbuild_action_spec_setL2DomainVlanXlate(const pd_action_record *act,
     p4_pd_orbisk_switch_setL2DomainVlanXlate_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setL2DomainTagged_schema(void);
+const char *p4_pd_orbisk_switch_setL2DomainTagged_schema(void);
 void unbuild_action_spec_setL2DomainTagged(const pd_action_record *act,
     p4_pd_orbisk_switch_setL2DomainTagged_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_onMiss_schema(void);
-const char * p4_pd_orbisk_switch_setVrfPropertiesTaggedXlatePkt_schema(void);
+const char *p4_pd_orbisk_switch_onMiss_schema(void);
+const char *p4_pd_orbisk_switch_setVrfPropertiesTaggedXlatePkt_schema(void);
 void unbuild_action_spec_setVrfPropertiesTaggedXlatePkt(const pd_action_record *act,
     p4_pd_orbisk_switch_setVrfPropertiesTaggedXlatePkt_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setVrfPropertiesTaggedPktDefault_schema(void);
-const char * p4_pd_orbisk_switch_setVrfPropertiesTaggedPkt_schema(void);
+const char *p4_pd_orbisk_switch_setVrfPropertiesTaggedPktDefault_schema(void);
+const char *p4_pd_orbisk_switch_setVrfPropertiesTaggedPkt_schema(void);
 void unbuild_action_spec_setVrfPropertiesTaggedPkt(const pd_action_record *act,
     p4_pd_orbisk_switch_setVrfPropertiesTaggedPkt_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setVrfPropertiesUntaggedPktDefault_schema(void);
-const char * p4_pd_orbisk_switch_setVrfPropertiesUntaggedPkt_schema(void);
+const char *p4_pd_orbisk_switch_setVrfPropertiesUntaggedPktDefault_schema(void);
+const char *p4_pd_orbisk_switch_setVrfPropertiesUntaggedPkt_schema(void);
 void unbuild_action_spec_setVrfPropertiesUntaggedPkt(const pd_action_record *act,
     p4_pd_orbisk_switch_setVrfPropertiesUntaggedPkt_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setVxlanL2AintfLookupFields_schema(void);
+const char *p4_pd_orbisk_switch_setVxlanL2AintfLookupFields_schema(void);
 void unbuild_action_spec_setVxlanL2AintfLookupFields(const pd_action_record *act,
     p4_pd_orbisk_switch_setVxlanL2AintfLookupFields_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setVxlanL2AintfInvalidTunnel_schema(void);
-const char * p4_pd_orbisk_switch_setvxlanL2AintfLookupMissVtepLearn_schema(void);
-const char * p4_pd_orbisk_switch_setvxlanL2AintfLookupMissSkipVtepLearn_schema(void);
-const char * p4_pd_orbisk_switch_vxlanVniResolutionHit_schema(void);
+const char *p4_pd_orbisk_switch_setVxlanL2AintfInvalidTunnel_schema(void);
+const char *p4_pd_orbisk_switch_setvxlanL2AintfLookupMissVtepLearn_schema(void);
+const char *p4_pd_orbisk_switch_setvxlanL2AintfLookupMissSkipVtepLearn_schema(void);
+const char *p4_pd_orbisk_switch_vxlanVniResolutionHit_schema(void);
 void unbuild_action_spec_vxlanVniResolutionHit(const pd_action_record *act,
     p4_pd_orbisk_switch_vxlanVniResolutionHit_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_vxlanVniResolutionMiss_schema(void);
-const char * p4_pd_orbisk_switch_setUcast_schema(void);
-const char * p4_pd_orbisk_switch_setL2ControlFrame_schema(void);
+const char *p4_pd_orbisk_switch_vxlanVniResolutionMiss_schema(void);
+const char *p4_pd_orbisk_switch_setUcast_schema(void);
+const char *p4_pd_orbisk_switch_setL2ControlFrame_schema(void);
 void unbuild_action_spec_setL2ControlFrame(const pd_action_record *act,
     p4_pd_orbisk_switch_setL2ControlFrame_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setIllegalDmac_schema(void);
-const char * p4_pd_orbisk_switch_setMcast_schema(void);
-const char * p4_pd_orbisk_switch_setBcast_schema(void);
-const char * p4_pd_orbisk_switch_setIpMcast_schema(void);
-const char * p4_pd_orbisk_switch_classifyL2ControlFrame_schema(void);
+const char *p4_pd_orbisk_switch_setIllegalDmac_schema(void);
+const char *p4_pd_orbisk_switch_setMcast_schema(void);
+const char *p4_pd_orbisk_switch_setBcast_schema(void);
+const char *p4_pd_orbisk_switch_setIpMcast_schema(void);
+const char *p4_pd_orbisk_switch_classifyL2ControlFrame_schema(void);
 void unbuild_action_spec_classifyL2ControlFrame(const pd_action_record *act,
     p4_pd_orbisk_switch_classifyL2ControlFrame_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_ingStpAction_schema(void);
-const char * p4_pd_orbisk_switch_ingVlanAction_schema(void);
-const char * p4_pd_orbisk_switch_setIllegalSmac_schema(void);
-const char * p4_pd_orbisk_switch_setQosPortProperties_schema(void);
+const char *p4_pd_orbisk_switch_ingStpAction_schema(void);
+const char *p4_pd_orbisk_switch_ingVlanAction_schema(void);
+const char *p4_pd_orbisk_switch_setIllegalSmac_schema(void);
+const char *p4_pd_orbisk_switch_setQosPortProperties_schema(void);
 void unbuild_action_spec_setQosPortProperties(const pd_action_record *act,
     p4_pd_orbisk_switch_setQosPortProperties_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setQosRewriteConfiguration_schema(void);
+const char *p4_pd_orbisk_switch_setQosRewriteConfiguration_schema(void);
 void unbuild_action_spec_setQosRewriteConfiguration(const pd_action_record *act,
     p4_pd_orbisk_switch_setQosRewriteConfiguration_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setDrop_schema(void);
-const char * p4_pd_orbisk_switch_setDropSmac_schema(void);
-const char * p4_pd_orbisk_switch_setL2LearningLookupMiss_schema(void);
-const char * p4_pd_orbisk_switch_noOp_schema(void);
-const char * p4_pd_orbisk_switch_ignoreIngL3DmacValid_schema(void);
-const char * p4_pd_orbisk_switch_setIngL3DmacValid_schema(void);
-const char * p4_pd_orbisk_switch_setHaloCrlId2_schema(void);
+const char *p4_pd_orbisk_switch_setDrop_schema(void);
+const char *p4_pd_orbisk_switch_setDropSmac_schema(void);
+const char *p4_pd_orbisk_switch_setL2LearningLookupMiss_schema(void);
+const char *p4_pd_orbisk_switch_noOp_schema(void);
+const char *p4_pd_orbisk_switch_ignoreIngL3DmacValid_schema(void);
+const char *p4_pd_orbisk_switch_setIngL3DmacValid_schema(void);
+const char *p4_pd_orbisk_switch_setHaloCrlId2_schema(void);
 void unbuild_action_spec_setHaloCrlId2(const pd_action_record *act,
     p4_pd_orbisk_switch_setHaloCrlId2_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setHaloCrlId_schema(void);
+const char *p4_pd_orbisk_switch_setHaloCrlId_schema(void);
 void unbuild_action_spec_setHaloCrlId(const pd_action_record *act,
     p4_pd_orbisk_switch_setHaloCrlId_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_l2ForwardParamsSet_schema(void);
+const char *p4_pd_orbisk_switch_l2ForwardParamsSet_schema(void);
 void unbuild_action_spec_l2ForwardParamsSet(const pd_action_record *act,
     p4_pd_orbisk_switch_l2ForwardParamsSet_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setVlanProperties_schema(void);
+const char *p4_pd_orbisk_switch_setVlanProperties_schema(void);
 void unbuild_action_spec_setVlanProperties(const pd_action_record *act,
     p4_pd_orbisk_switch_setVlanProperties_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setHaloXformDip_schema(void);
+const char *p4_pd_orbisk_switch_setHaloXformDip_schema(void);
 void unbuild_action_spec_setHaloXformDip(const pd_action_record *act,
     p4_pd_orbisk_switch_setHaloXformDip_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setHaloInvalidDip_schema(void);
-const char * p4_pd_orbisk_switch_setHaloXformIpv4Sip_schema(void);
+const char *p4_pd_orbisk_switch_setHaloInvalidDip_schema(void);
+const char *p4_pd_orbisk_switch_setHaloXformIpv4Sip_schema(void);
 void unbuild_action_spec_setHaloXformIpv4Sip(const pd_action_record *act,
     p4_pd_orbisk_switch_setHaloXformIpv4Sip_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setHaloInvalidSip_schema(void);
-const char * p4_pd_orbisk_switch_setHaloIpv4Common_schema(void);
-const char * p4_pd_orbisk_switch_setHaloXformIpv6Sip_schema(void);
+const char *p4_pd_orbisk_switch_setHaloInvalidSip_schema(void);
+const char *p4_pd_orbisk_switch_setHaloIpv4Common_schema(void);
+const char *p4_pd_orbisk_switch_setHaloXformIpv6Sip_schema(void);
 void unbuild_action_spec_setHaloXformIpv6Sip(const pd_action_record *act,
     p4_pd_orbisk_switch_setHaloXformIpv6Sip_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setHaloIpv6Common_schema(void);
-const char * p4_pd_orbisk_switch_setHaloXformDstPort_schema(void);
+const char *p4_pd_orbisk_switch_setHaloIpv6Common_schema(void);
+const char *p4_pd_orbisk_switch_setHaloXformDstPort_schema(void);
 void unbuild_action_spec_setHaloXformDstPort(const pd_action_record *act,
     p4_pd_orbisk_switch_setHaloXformDstPort_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setHaloXformSrcPort_schema(void);
+const char *p4_pd_orbisk_switch_setHaloXformSrcPort_schema(void);
 void unbuild_action_spec_setHaloXformSrcPort(const pd_action_record *act,
     p4_pd_orbisk_switch_setHaloXformSrcPort_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setFullConeDipRangeId_schema(void);
+const char *p4_pd_orbisk_switch_setFullConeDipRangeId_schema(void);
 void unbuild_action_spec_setFullConeDipRangeId(const pd_action_record *act,
     p4_pd_orbisk_switch_setFullConeDipRangeId_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setIngNatProfile_schema(void);
+const char *p4_pd_orbisk_switch_setIngNatProfile_schema(void);
 void unbuild_action_spec_setIngNatProfile(const pd_action_record *act,
     p4_pd_orbisk_switch_setIngNatProfile_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setEcmp_schema(void);
+const char *p4_pd_orbisk_switch_setEcmp_schema(void);
 void unbuild_action_spec_setEcmp(const pd_action_record *act,
     p4_pd_orbisk_switch_setEcmp_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setNextHop_schema(void);
+const char *p4_pd_orbisk_switch_setNextHop_schema(void);
 void unbuild_action_spec_setNextHop(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHop_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setNextHop2_schema(void);
+const char *p4_pd_orbisk_switch_setNextHop2_schema(void);
 void unbuild_action_spec_setNextHop2(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHop2_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setNextHop3_schema(void);
+const char *p4_pd_orbisk_switch_setNextHop3_schema(void);
 void unbuild_action_spec_setNextHop3(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHop3_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setIpv6PrtResultXFirst_schema(void);
+const char *p4_pd_orbisk_switch_setIpv6PrtResultXFirst_schema(void);
 void unbuild_action_spec_setIpv6PrtResultXFirst(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpv6PrtResultXFirst_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setTranslatedDipNextHop_schema(void);
+const char *p4_pd_orbisk_switch_setTranslatedDipNextHop_schema(void);
 void unbuild_action_spec_setTranslatedDipNextHop(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipNextHop_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setTranslatedDipPortNextHopDynamic_schema(void);
+const char *p4_pd_orbisk_switch_setTranslatedDipPortNextHopDynamic_schema(void);
 void unbuild_action_spec_setTranslatedDipPortNextHopDynamic(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipPortNextHopDynamic_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setTranslatedDipPort_schema(void);
+const char *p4_pd_orbisk_switch_setTranslatedDipPort_schema(void);
 void unbuild_action_spec_setTranslatedDipPort(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipPort_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setDnatAclId_schema(void);
+const char *p4_pd_orbisk_switch_setDnatAclId_schema(void);
 void unbuild_action_spec_setDnatAclId(const pd_action_record *act,
     p4_pd_orbisk_switch_setDnatAclId_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_resetDnatAclId_schema(void);
-const char * p4_pd_orbisk_switch_countEgressQueue_schema(void);
-const char * p4_pd_orbisk_switch_setTunnelDip_schema(void);
+const char *p4_pd_orbisk_switch_resetDnatAclId_schema(void);
+const char *p4_pd_orbisk_switch_countEgressQueue_schema(void);
+const char *p4_pd_orbisk_switch_setTunnelDip_schema(void);
 void unbuild_action_spec_setTunnelDip(const pd_action_record *act,
     p4_pd_orbisk_switch_setTunnelDip_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setEgressMirrorSession_schema(void);
+const char *p4_pd_orbisk_switch_setEgressMirrorSession_schema(void);
 void unbuild_action_spec_setEgressMirrorSession(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgressMirrorSession_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setVxlanVniAndVti_schema(void);
+const char *p4_pd_orbisk_switch_setVxlanVniAndVti_schema(void);
 void unbuild_action_spec_setVxlanVniAndVti(const pd_action_record *act,
     p4_pd_orbisk_switch_setVxlanVniAndVti_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setInvalidVni_schema(void);
-const char * p4_pd_orbisk_switch_setL2DomainReplicated_schema(void);
+const char *p4_pd_orbisk_switch_setInvalidVni_schema(void);
+const char *p4_pd_orbisk_switch_setL2DomainReplicated_schema(void);
 void unbuild_action_spec_setL2DomainReplicated(const pd_action_record *act,
     p4_pd_orbisk_switch_setL2DomainReplicated_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_egressMirrorDrop_schema(void);
-const char * p4_pd_orbisk_switch_setMirrorPacketEncapNone_schema(void);
-const char * p4_pd_orbisk_switch_setMirrorPacketEncapCpu_schema(void);
+const char *p4_pd_orbisk_switch_egressMirrorDrop_schema(void);
+const char *p4_pd_orbisk_switch_setMirrorPacketEncapNone_schema(void);
+const char *p4_pd_orbisk_switch_setMirrorPacketEncapCpu_schema(void);
 void unbuild_action_spec_setMirrorPacketEncapCpu(const pd_action_record *act,
     p4_pd_orbisk_switch_setMirrorPacketEncapCpu_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setMirrorPacketEncapGreIpv4_schema(void);
+const char *p4_pd_orbisk_switch_setMirrorPacketEncapGreIpv4_schema(void);
 void unbuild_action_spec_setMirrorPacketEncapGreIpv4(const pd_action_record *act,
     p4_pd_orbisk_switch_setMirrorPacketEncapGreIpv4_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setTcDscp_schema(void);
+const char *p4_pd_orbisk_switch_setTcDscp_schema(void);
 void unbuild_action_spec_setTcDscp(const pd_action_record *act,
     p4_pd_orbisk_switch_setTcDscp_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setTranslatedDipNextHopAndCount_schema(void);
+const char *p4_pd_orbisk_switch_setTranslatedDipNextHopAndCount_schema(void);
 void unbuild_action_spec_setTranslatedDipNextHopAndCount(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipNextHopAndCount_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setTranslatedDipPortNextHopAndCount_schema(void);
+const char *p4_pd_orbisk_switch_setTranslatedDipPortNextHopAndCount_schema(void);
 void unbuild_action_spec_setTranslatedDipPortNextHopAndCount(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipPortNextHopAndCount_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setTranslatedDipNextHopEcmpAndCount_schema(void);
+const char *p4_pd_orbisk_switch_setTranslatedDipNextHopEcmpAndCount_schema(void);
 void unbuild_action_spec_setTranslatedDipNextHopEcmpAndCount(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipNextHopEcmpAndCount_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setTranslatedDipPortNextHopEcmpAndCount_schema(void);
+const char *p4_pd_orbisk_switch_setTranslatedDipPortNextHopEcmpAndCount_schema(void);
 void unbuild_action_spec_setTranslatedDipPortNextHopEcmpAndCount(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipPortNextHopEcmpAndCount_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setTranslatedDipNextHopEcmp_schema(void);
+const char *p4_pd_orbisk_switch_setTranslatedDipNextHopEcmp_schema(void);
 void unbuild_action_spec_setTranslatedDipNextHopEcmp(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipNextHopEcmp_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_haloKeyMaskedRow1Stage2_schema(void);
+const char *p4_pd_orbisk_switch_haloKeyMaskedRow1Stage2_schema(void);
 void unbuild_action_spec_haloKeyMaskedRow1Stage2(const pd_action_record *act,
     p4_pd_orbisk_switch_haloKeyMaskedRow1Stage2_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setDscpForNonIpPkt_schema(void);
-const char * p4_pd_orbisk_switch_setDscpForTTNonIpPkt_schema(void);
-const char * p4_pd_orbisk_switch_setDscpForIpv4Pkt_schema(void);
-const char * p4_pd_orbisk_switch_setDscpForIpv4OptionsPkt_schema(void);
-const char * p4_pd_orbisk_switch_setDscpForIpv6Pkt_schema(void);
-const char * p4_pd_orbisk_switch_setInvalidEgressPort_schema(void);
-const char * p4_pd_orbisk_switch_setEgressPort_schema(void);
+const char *p4_pd_orbisk_switch_setDscpForNonIpPkt_schema(void);
+const char *p4_pd_orbisk_switch_setDscpForTTNonIpPkt_schema(void);
+const char *p4_pd_orbisk_switch_setDscpForIpv4Pkt_schema(void);
+const char *p4_pd_orbisk_switch_setDscpForIpv4OptionsPkt_schema(void);
+const char *p4_pd_orbisk_switch_setDscpForIpv6Pkt_schema(void);
+const char *p4_pd_orbisk_switch_setInvalidEgressPort_schema(void);
+const char *p4_pd_orbisk_switch_setEgressPort_schema(void);
 void unbuild_action_spec_setEgressPort(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgressPort_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setDecapTypeVlan_schema(void);
-const char * p4_pd_orbisk_switch_removeOrbiskHdrs_schema(void);
-const char * p4_pd_orbisk_switch_setEifIngPolicy_schema(void);
+const char *p4_pd_orbisk_switch_setDecapTypeVlan_schema(void);
+const char *p4_pd_orbisk_switch_removeOrbiskHdrs_schema(void);
+const char *p4_pd_orbisk_switch_setEifIngPolicy_schema(void);
 void unbuild_action_spec_setEifIngPolicy(const pd_action_record *act,
     p4_pd_orbisk_switch_setEifIngPolicy_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_ipv6LgMaskFinalResolveDefaultFirst_schema(void);
-const char * p4_pd_orbisk_switch_setV6NextHop0First_schema(void);
+const char *p4_pd_orbisk_switch_ipv6LgMaskFinalResolveDefaultFirst_schema(void);
+const char *p4_pd_orbisk_switch_setV6NextHop0First_schema(void);
 void unbuild_action_spec_setV6NextHop0First(const pd_action_record *act,
     p4_pd_orbisk_switch_setV6NextHop0First_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setV6NextHop2First_schema(void);
+const char *p4_pd_orbisk_switch_setV6NextHop2First_schema(void);
 void unbuild_action_spec_setV6NextHop2First(const pd_action_record *act,
     p4_pd_orbisk_switch_setV6NextHop2First_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setV6NextHop3First_schema(void);
+const char *p4_pd_orbisk_switch_setV6NextHop3First_schema(void);
 void unbuild_action_spec_setV6NextHop3First(const pd_action_record *act,
     p4_pd_orbisk_switch_setV6NextHop3First_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setV6NextHop1First_schema(void);
+const char *p4_pd_orbisk_switch_setV6NextHop1First_schema(void);
 void unbuild_action_spec_setV6NextHop1First(const pd_action_record *act,
     p4_pd_orbisk_switch_setV6NextHop1First_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setIpv6PrtIdxNextHop_schema(void);
+const char *p4_pd_orbisk_switch_setIpv6PrtIdxNextHop_schema(void);
 void unbuild_action_spec_setIpv6PrtIdxNextHop(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpv6PrtIdxNextHop_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setIpv6PrtIdxNextHop2_schema(void);
+const char *p4_pd_orbisk_switch_setIpv6PrtIdxNextHop2_schema(void);
 void unbuild_action_spec_setIpv6PrtIdxNextHop2(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpv6PrtIdxNextHop2_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setIpv6PrtIdxNextHop3_schema(void);
+const char *p4_pd_orbisk_switch_setIpv6PrtIdxNextHop3_schema(void);
 void unbuild_action_spec_setIpv6PrtIdxNextHop3(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpv6PrtIdxNextHop3_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setIpv6PrtIdxEcmp_schema(void);
+const char *p4_pd_orbisk_switch_setIpv6PrtIdxEcmp_schema(void);
 void unbuild_action_spec_setIpv6PrtIdxEcmp(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpv6PrtIdxEcmp_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setFibMiss_schema(void);
-const char * p4_pd_orbisk_switch_setEgrLagMemberSelector_schema(void);
+const char *p4_pd_orbisk_switch_setFibMiss_schema(void);
+const char *p4_pd_orbisk_switch_setEgrLagMemberSelector_schema(void);
 void unbuild_action_spec_setEgrLagMemberSelector(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrLagMemberSelector_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelCommon_schema(void);
+const char *p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelCommon_schema(void);
 void unbuild_action_spec_setGlobalFieldsForVxlanTunnelCommon(const pd_action_record *act,
     p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelCommon_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4_schema(void);
+const char *p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4_schema(void);
 void unbuild_action_spec_setGlobalFieldsForVxlanTunnelIpv4(const pd_action_record *act,
     p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_schema(void);
+const char *p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_schema(void);
 void unbuild_action_spec_setGlobalFieldsForVxlanTunnelIpv4UseDipB(const pd_action_record *act,
     p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setTunnelL2InfoDefault_schema(void);
-const char * p4_pd_orbisk_switch_setTunnelL2Info_schema(void);
+const char *p4_pd_orbisk_switch_setTunnelL2InfoDefault_schema(void);
+const char *p4_pd_orbisk_switch_setTunnelL2Info_schema(void);
 void unbuild_action_spec_setTunnelL2Info(const pd_action_record *act,
     p4_pd_orbisk_switch_setTunnelL2Info_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_l2LookupKnownUcast_schema(void);
+const char *p4_pd_orbisk_switch_l2LookupKnownUcast_schema(void);
 void unbuild_action_spec_l2LookupKnownUcast(const pd_action_record *act,
     p4_pd_orbisk_switch_l2LookupKnownUcast_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_l2LookupKnownMcast_schema(void);
+const char *p4_pd_orbisk_switch_l2LookupKnownMcast_schema(void);
 void unbuild_action_spec_l2LookupKnownMcast(const pd_action_record *act,
     p4_pd_orbisk_switch_l2LookupKnownMcast_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_l2LookupKnownUcastTunnel_schema(void);
+const char *p4_pd_orbisk_switch_l2LookupKnownUcastTunnel_schema(void);
 void unbuild_action_spec_l2LookupKnownUcastTunnel(const pd_action_record *act,
     p4_pd_orbisk_switch_l2LookupKnownUcastTunnel_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_l2LookupDrop_schema(void);
-const char * p4_pd_orbisk_switch_l2LookupBcastHit_schema(void);
-const char * p4_pd_orbisk_switch_l2LookupUnknownMcastAction_schema(void);
-const char * p4_pd_orbisk_switch_l2LookupUnknownUcastAction_schema(void);
-const char * p4_pd_orbisk_switch_nop_schema(void);
-const char * p4_pd_orbisk_switch_haloSetBestResultRow1_schema(void);
+const char *p4_pd_orbisk_switch_l2LookupDrop_schema(void);
+const char *p4_pd_orbisk_switch_l2LookupBcastHit_schema(void);
+const char *p4_pd_orbisk_switch_l2LookupUnknownMcastAction_schema(void);
+const char *p4_pd_orbisk_switch_l2LookupUnknownUcastAction_schema(void);
+const char *p4_pd_orbisk_switch_nop_schema(void);
+const char *p4_pd_orbisk_switch_haloSetBestResultRow1_schema(void);
 void unbuild_action_spec_haloSetBestResultRow1(const pd_action_record *act,
     p4_pd_orbisk_switch_haloSetBestResultRow1_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_haloKeyMaskedRow1Stage3_schema(void);
+const char *p4_pd_orbisk_switch_haloKeyMaskedRow1Stage3_schema(void);
 void unbuild_action_spec_haloKeyMaskedRow1Stage3(const pd_action_record *act,
     p4_pd_orbisk_switch_haloKeyMaskedRow1Stage3_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setDropVarpVxlan_schema(void);
-const char * p4_pd_orbisk_switch_cancelVxlanDecap_schema(void);
-const char * p4_pd_orbisk_switch_setCosFromDefault_schema(void);
+const char *p4_pd_orbisk_switch_setDropVarpVxlan_schema(void);
+const char *p4_pd_orbisk_switch_cancelVxlanDecap_schema(void);
+const char *p4_pd_orbisk_switch_setCosFromDefault_schema(void);
 void unbuild_action_spec_setCosFromDefault(const pd_action_record *act,
     p4_pd_orbisk_switch_setCosFromDefault_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setCosFromPacket_schema(void);
+const char *p4_pd_orbisk_switch_setCosFromPacket_schema(void);
 void unbuild_action_spec_setCosFromPacket(const pd_action_record *act,
     p4_pd_orbisk_switch_setCosFromPacket_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setCosFromPacketWithInner_schema(void);
+const char *p4_pd_orbisk_switch_setCosFromPacketWithInner_schema(void);
 void unbuild_action_spec_setCosFromPacketWithInner(const pd_action_record *act,
     p4_pd_orbisk_switch_setCosFromPacketWithInner_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_hashComputeOuterIpv4HdrAction_schema(void);
-const char * p4_pd_orbisk_switch_hashComputeOuterIpv6HdrAction_schema(void);
-const char * p4_pd_orbisk_switch_hashComputeInnerEthHdrAction_schema(void);
-const char * p4_pd_orbisk_switch_dropDatalink_schema(void);
-const char * p4_pd_orbisk_switch_setIngressMirrorSession_schema(void);
+const char *p4_pd_orbisk_switch_hashComputeOuterIpv4HdrAction_schema(void);
+const char *p4_pd_orbisk_switch_hashComputeOuterIpv6HdrAction_schema(void);
+const char *p4_pd_orbisk_switch_hashComputeInnerEthHdrAction_schema(void);
+const char *p4_pd_orbisk_switch_dropDatalink_schema(void);
+const char *p4_pd_orbisk_switch_setIngressMirrorSession_schema(void);
 void unbuild_action_spec_setIngressMirrorSession(const pd_action_record *act,
     p4_pd_orbisk_switch_setIngressMirrorSession_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_noDecapNoEncapRouteIpv4_schema(void);
+const char *p4_pd_orbisk_switch_noDecapNoEncapRouteIpv4_schema(void);
 void unbuild_action_spec_noDecapNoEncapRouteIpv4(const pd_action_record *act,
     p4_pd_orbisk_switch_noDecapNoEncapRouteIpv4_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_noDecapNoEncapRouteIpv6_schema(void);
+const char *p4_pd_orbisk_switch_noDecapNoEncapRouteIpv6_schema(void);
 void unbuild_action_spec_noDecapNoEncapRouteIpv6(const pd_action_record *act,
     p4_pd_orbisk_switch_noDecapNoEncapRouteIpv6_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_noDecapNoEncapBridge_schema(void);
-const char * p4_pd_orbisk_switch_decapPPIPktFromCpu_schema(void);
-const char * p4_pd_orbisk_switch_encapVxlanRouteIpv4_schema(void);
+const char *p4_pd_orbisk_switch_noDecapNoEncapBridge_schema(void);
+const char *p4_pd_orbisk_switch_decapPPIPktFromCpu_schema(void);
+const char *p4_pd_orbisk_switch_encapVxlanRouteIpv4_schema(void);
 void unbuild_action_spec_encapVxlanRouteIpv4(const pd_action_record *act,
     p4_pd_orbisk_switch_encapVxlanRouteIpv4_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_encapVxlanRouteIpv6_schema(void);
+const char *p4_pd_orbisk_switch_encapVxlanRouteIpv6_schema(void);
 void unbuild_action_spec_encapVxlanRouteIpv6(const pd_action_record *act,
     p4_pd_orbisk_switch_encapVxlanRouteIpv6_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_noDecapEncapVxlanL2_schema(void);
+const char *p4_pd_orbisk_switch_noDecapEncapVxlanL2_schema(void);
 void unbuild_action_spec_noDecapEncapVxlanL2(const pd_action_record *act,
     p4_pd_orbisk_switch_noDecapEncapVxlanL2_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_normalizeEthHdr_schema(void);
-const char * p4_pd_orbisk_switch_setEgressMirrorColor_schema(void);
+const char *p4_pd_orbisk_switch_normalizeEthHdr_schema(void);
+const char *p4_pd_orbisk_switch_setEgressMirrorColor_schema(void);
 void unbuild_action_spec_setEgressMirrorColor(const pd_action_record *act,
     const pd_resource_index *resources,
     uint32_t num_resources,
     p4_pd_orbisk_switch_setEgressMirrorColor_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setEgressMirrorColorRed_schema(void);
-const char * p4_pd_orbisk_switch_generateMacLearningDigest_schema(void);
-const char * p4_pd_orbisk_switch_generateVtepLearningDigest_schema(void);
-const char * p4_pd_orbisk_switch_dot1xTrap_schema(void);
-const char * p4_pd_orbisk_switch_dot1xDrop_schema(void);
-const char * p4_pd_orbisk_switch_resetApplicationId_schema(void);
-const char * p4_pd_orbisk_switch_haloKeyMaskedRow1Stage4_schema(void);
+const char *p4_pd_orbisk_switch_setEgressMirrorColorRed_schema(void);
+const char *p4_pd_orbisk_switch_generateMacLearningDigest_schema(void);
+const char *p4_pd_orbisk_switch_generateVtepLearningDigest_schema(void);
+const char *p4_pd_orbisk_switch_dot1xTrap_schema(void);
+const char *p4_pd_orbisk_switch_dot1xDrop_schema(void);
+const char *p4_pd_orbisk_switch_resetApplicationId_schema(void);
+const char *p4_pd_orbisk_switch_haloKeyMaskedRow1Stage4_schema(void);
 void unbuild_action_spec_haloKeyMaskedRow1Stage4(const pd_action_record *act,
     p4_pd_orbisk_switch_haloKeyMaskedRow1Stage4_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_hashComputeIpAndL4HdrAction_schema(void);
-const char * p4_pd_orbisk_switch_setTrafficClassAndEgressQid_schema(void);
+const char *p4_pd_orbisk_switch_hashComputeIpAndL4HdrAction_schema(void);
+const char *p4_pd_orbisk_switch_setTrafficClassAndEgressQid_schema(void);
 void unbuild_action_spec_setTrafficClassAndEgressQid(const pd_action_record *act,
     p4_pd_orbisk_switch_setTrafficClassAndEgressQid_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setL2McResult_schema(void);
+const char *p4_pd_orbisk_switch_setL2McResult_schema(void);
 void unbuild_action_spec_setL2McResult(const pd_action_record *act,
     p4_pd_orbisk_switch_setL2McResult_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_copyHashFromCpuHdr_schema(void);
-const char * p4_pd_orbisk_switch_setEgrVlan_schema(void);
+const char *p4_pd_orbisk_switch_copyHashFromCpuHdr_schema(void);
+const char *p4_pd_orbisk_switch_setEgrVlan_schema(void);
 void unbuild_action_spec_setEgrVlan(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrVlan_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setEgrVlanSubIntf_schema(void);
+const char *p4_pd_orbisk_switch_setEgrVlanSubIntf_schema(void);
 void unbuild_action_spec_setEgrVlanSubIntf(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrVlanSubIntf_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_noXlate_schema(void);
-const char * p4_pd_orbisk_switch_setEncapSmac_schema(void);
+const char *p4_pd_orbisk_switch_noXlate_schema(void);
+const char *p4_pd_orbisk_switch_setEncapSmac_schema(void);
 void unbuild_action_spec_setEncapSmac(const pd_action_record *act,
     p4_pd_orbisk_switch_setEncapSmac_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_encapPktToCpu_schema(void);
+const char *p4_pd_orbisk_switch_encapPktToCpu_schema(void);
 void unbuild_action_spec_encapPktToCpu(const pd_action_record *act,
     p4_pd_orbisk_switch_encapPktToCpu_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_encapPktToDpdk_schema(void);
+const char *p4_pd_orbisk_switch_encapPktToDpdk_schema(void);
 void unbuild_action_spec_encapPktToDpdk(const pd_action_record *act,
     p4_pd_orbisk_switch_encapPktToDpdk_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_egressSamePortBridgingTestDrop_schema(void);
-const char * p4_pd_orbisk_switch_setOvoIntfDetails_schema(void);
+const char *p4_pd_orbisk_switch_egressSamePortBridgingTestDrop_schema(void);
+const char *p4_pd_orbisk_switch_setOvoIntfDetails_schema(void);
 void unbuild_action_spec_setOvoIntfDetails(const pd_action_record *act,
     p4_pd_orbisk_switch_setOvoIntfDetails_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setEgrIntfInfo_schema(void);
-const char * p4_pd_orbisk_switch_noTunnelIpv4_schema(void);
-const char * p4_pd_orbisk_switch_noTunnelIpv6_schema(void);
-const char * p4_pd_orbisk_switch_onlyDecapInnerIpv4_schema(void);
-const char * p4_pd_orbisk_switch_onlyDecapInnerIpv6_schema(void);
-const char * p4_pd_orbisk_switch_encapOuterIpv4_schema(void);
-const char * p4_pd_orbisk_switch_encapOuterIpv4InnerIpv4_schema(void);
-const char * p4_pd_orbisk_switch_encapOuterIpv4InnerIpv6_schema(void);
-const char * p4_pd_orbisk_switch_setHashValuesLagOuterEthHdr_schema(void);
-const char * p4_pd_orbisk_switch_setHashValuesLagOuterIpHdr_schema(void);
-const char * p4_pd_orbisk_switch_setHashValuesLagOuterL4Hdr_schema(void);
-const char * p4_pd_orbisk_switch_setHashValuesLagInnerEthHdr_schema(void);
-const char * p4_pd_orbisk_switch_setHashValuesLagInnerIpHdr_schema(void);
-const char * p4_pd_orbisk_switch_setHashValuesLagInnerL4Hdr_schema(void);
-const char * p4_pd_orbisk_switch_setHashValuesEcmpOuterIpHdr_schema(void);
-const char * p4_pd_orbisk_switch_setHashValuesEcmpOuterL4Hdr_schema(void);
-const char * p4_pd_orbisk_switch_setHashValuesEcmpInnerIpHdr_schema(void);
-const char * p4_pd_orbisk_switch_setHashValuesEcmpInnerL4Hdr_schema(void);
-const char * p4_pd_orbisk_switch_setHashValuesEcmpInnerEthHdr_schema(void);
-const char * p4_pd_orbisk_switch_haloKeyMaskedRow1Stage5_schema(void);
+const char *p4_pd_orbisk_switch_setEgrIntfInfo_schema(void);
+const char *p4_pd_orbisk_switch_noTunnelIpv4_schema(void);
+const char *p4_pd_orbisk_switch_noTunnelIpv6_schema(void);
+const char *p4_pd_orbisk_switch_onlyDecapInnerIpv4_schema(void);
+const char *p4_pd_orbisk_switch_onlyDecapInnerIpv6_schema(void);
+const char *p4_pd_orbisk_switch_encapOuterIpv4_schema(void);
+const char *p4_pd_orbisk_switch_encapOuterIpv4InnerIpv4_schema(void);
+const char *p4_pd_orbisk_switch_encapOuterIpv4InnerIpv6_schema(void);
+const char *p4_pd_orbisk_switch_setHashValuesLagOuterEthHdr_schema(void);
+const char *p4_pd_orbisk_switch_setHashValuesLagOuterIpHdr_schema(void);
+const char *p4_pd_orbisk_switch_setHashValuesLagOuterL4Hdr_schema(void);
+const char *p4_pd_orbisk_switch_setHashValuesLagInnerEthHdr_schema(void);
+const char *p4_pd_orbisk_switch_setHashValuesLagInnerIpHdr_schema(void);
+const char *p4_pd_orbisk_switch_setHashValuesLagInnerL4Hdr_schema(void);
+const char *p4_pd_orbisk_switch_setHashValuesEcmpOuterIpHdr_schema(void);
+const char *p4_pd_orbisk_switch_setHashValuesEcmpOuterL4Hdr_schema(void);
+const char *p4_pd_orbisk_switch_setHashValuesEcmpInnerIpHdr_schema(void);
+const char *p4_pd_orbisk_switch_setHashValuesEcmpInnerL4Hdr_schema(void);
+const char *p4_pd_orbisk_switch_setHashValuesEcmpInnerEthHdr_schema(void);
+const char *p4_pd_orbisk_switch_haloKeyMaskedRow1Stage5_schema(void);
 void unbuild_action_spec_haloKeyMaskedRow1Stage5(const pd_action_record *act,
     p4_pd_orbisk_switch_haloKeyMaskedRow1Stage5_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setIpv4GroupVlanIndex_schema(void);
+const char *p4_pd_orbisk_switch_setIpv4GroupVlanIndex_schema(void);
 void unbuild_action_spec_setIpv4GroupVlanIndex(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpv4GroupVlanIndex_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_trapPacket_schema(void);
+const char *p4_pd_orbisk_switch_trapPacket_schema(void);
 void unbuild_action_spec_trapPacket(const pd_action_record *act,
     p4_pd_orbisk_switch_trapPacket_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_copyPacket_schema(void);
+const char *p4_pd_orbisk_switch_copyPacket_schema(void);
 void unbuild_action_spec_copyPacket(const pd_action_record *act,
     p4_pd_orbisk_switch_copyPacket_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setLlm_schema(void);
-const char * p4_pd_orbisk_switch_copyCosRewriteDscp_schema(void);
+const char *p4_pd_orbisk_switch_setLlm_schema(void);
+const char *p4_pd_orbisk_switch_copyCosRewriteDscp_schema(void);
 void unbuild_action_spec_copyCosRewriteDscp(const pd_action_record *act,
     p4_pd_orbisk_switch_copyCosRewriteDscp_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_rewriteCosCopyDscp_schema(void);
+const char *p4_pd_orbisk_switch_rewriteCosCopyDscp_schema(void);
 void unbuild_action_spec_rewriteCosCopyDscp(const pd_action_record *act,
     p4_pd_orbisk_switch_rewriteCosCopyDscp_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_rewriteCosRewriteDscp_schema(void);
+const char *p4_pd_orbisk_switch_rewriteCosRewriteDscp_schema(void);
 void unbuild_action_spec_rewriteCosRewriteDscp(const pd_action_record *act,
     p4_pd_orbisk_switch_rewriteCosRewriteDscp_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_egrStpAction_schema(void);
-const char * p4_pd_orbisk_switch_egrVlanAction_schema(void);
-const char * p4_pd_orbisk_switch_decapIngressDefault_schema(void);
-const char * p4_pd_orbisk_switch_removeOuterIpv4Hdr_schema(void);
-const char * p4_pd_orbisk_switch_removeOuterIpv6Hdr_schema(void);
-const char * p4_pd_orbisk_switch_saveOuterIpv4Ecn_schema(void);
-const char * p4_pd_orbisk_switch_saveOuterIpv6Ecn_schema(void);
-const char * p4_pd_orbisk_switch_decapIngressVxlan_schema(void);
-const char * p4_pd_orbisk_switch_setEgrPortVlan_schema(void);
+const char *p4_pd_orbisk_switch_egrStpAction_schema(void);
+const char *p4_pd_orbisk_switch_egrVlanAction_schema(void);
+const char *p4_pd_orbisk_switch_decapIngressDefault_schema(void);
+const char *p4_pd_orbisk_switch_removeOuterIpv4Hdr_schema(void);
+const char *p4_pd_orbisk_switch_removeOuterIpv6Hdr_schema(void);
+const char *p4_pd_orbisk_switch_saveOuterIpv4Ecn_schema(void);
+const char *p4_pd_orbisk_switch_saveOuterIpv6Ecn_schema(void);
+const char *p4_pd_orbisk_switch_decapIngressVxlan_schema(void);
+const char *p4_pd_orbisk_switch_setEgrPortVlan_schema(void);
 void unbuild_action_spec_setEgrPortVlan(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrPortVlan_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setEgrPortVlanKernel_schema(void);
+const char *p4_pd_orbisk_switch_setEgrPortVlanKernel_schema(void);
 void unbuild_action_spec_setEgrPortVlanKernel(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrPortVlanKernel_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setEgrPortL2Domain_schema(void);
+const char *p4_pd_orbisk_switch_setEgrPortL2Domain_schema(void);
 void unbuild_action_spec_setEgrPortL2Domain(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrPortL2Domain_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setEgrPortL2DomainKernel_schema(void);
+const char *p4_pd_orbisk_switch_setEgrPortL2DomainKernel_schema(void);
 void unbuild_action_spec_setEgrPortL2DomainKernel(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrPortL2DomainKernel_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setDefaultEgrPortVlan_schema(void);
-const char * p4_pd_orbisk_switch_setNatCpuHeaderSnat_schema(void);
-const char * p4_pd_orbisk_switch_setNatCpuHeaderDnat_schema(void);
-const char * p4_pd_orbisk_switch_setNatCpuHeaderTwice_schema(void);
-const char * p4_pd_orbisk_switch_setFoldedPipeQid_schema(void);
+const char *p4_pd_orbisk_switch_setDefaultEgrPortVlan_schema(void);
+const char *p4_pd_orbisk_switch_setNatCpuHeaderSnat_schema(void);
+const char *p4_pd_orbisk_switch_setNatCpuHeaderDnat_schema(void);
+const char *p4_pd_orbisk_switch_setNatCpuHeaderTwice_schema(void);
+const char *p4_pd_orbisk_switch_setFoldedPipeQid_schema(void);
 void unbuild_action_spec_setFoldedPipeQid(const pd_action_record *act,
     p4_pd_orbisk_switch_setFoldedPipeQid_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setLagMemberSelector_schema(void);
+const char *p4_pd_orbisk_switch_setLagMemberSelector_schema(void);
 void unbuild_action_spec_setLagMemberSelector(const pd_action_record *act,
     p4_pd_orbisk_switch_setLagMemberSelector_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_haloKeyMaskedRow1Stage6_schema(void);
+const char *p4_pd_orbisk_switch_haloKeyMaskedRow1Stage6_schema(void);
 void unbuild_action_spec_haloKeyMaskedRow1Stage6(const pd_action_record *act,
     p4_pd_orbisk_switch_haloKeyMaskedRow1Stage6_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setIpmcResult_schema(void);
+const char *p4_pd_orbisk_switch_setIpmcResult_schema(void);
 void unbuild_action_spec_setIpmcResult(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpmcResult_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_samePortBridgingTestAction_schema(void);
-const char * p4_pd_orbisk_switch_setMlagPrune_schema(void);
-const char * p4_pd_orbisk_switch_setEgressDrop_schema(void);
-const char * p4_pd_orbisk_switch_egressMirrorAction_schema(void);
-const char * p4_pd_orbisk_switch_noVlanEncap_schema(void);
-const char * p4_pd_orbisk_switch_needVlanEncap_schema(void);
-const char * p4_pd_orbisk_switch_discardHaloResult_schema(void);
-const char * p4_pd_orbisk_switch_finalizeMcResultIpmc_schema(void);
+const char *p4_pd_orbisk_switch_samePortBridgingTestAction_schema(void);
+const char *p4_pd_orbisk_switch_setMlagPrune_schema(void);
+const char *p4_pd_orbisk_switch_setEgressDrop_schema(void);
+const char *p4_pd_orbisk_switch_egressMirrorAction_schema(void);
+const char *p4_pd_orbisk_switch_noVlanEncap_schema(void);
+const char *p4_pd_orbisk_switch_needVlanEncap_schema(void);
+const char *p4_pd_orbisk_switch_discardHaloResult_schema(void);
+const char *p4_pd_orbisk_switch_finalizeMcResultIpmc_schema(void);
 void unbuild_action_spec_finalizeMcResultIpmc(const pd_action_record *act,
     p4_pd_orbisk_switch_finalizeMcResultIpmc_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_finalizeMcResultL2mc_schema(void);
+const char *p4_pd_orbisk_switch_finalizeMcResultL2mc_schema(void);
 void unbuild_action_spec_finalizeMcResultL2mc(const pd_action_record *act,
     p4_pd_orbisk_switch_finalizeMcResultL2mc_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_finalizeMcResultL2mcFlood_schema(void);
+const char *p4_pd_orbisk_switch_finalizeMcResultL2mcFlood_schema(void);
 void unbuild_action_spec_finalizeMcResultL2mcFlood(const pd_action_record *act,
     p4_pd_orbisk_switch_finalizeMcResultL2mcFlood_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_finalizeMcResultCancel_schema(void);
+const char *p4_pd_orbisk_switch_finalizeMcResultCancel_schema(void);
 void unbuild_action_spec_finalizeMcResultCancel(const pd_action_record *act,
     p4_pd_orbisk_switch_finalizeMcResultCancel_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_finalizeMcResultFlood_schema(void);
+const char *p4_pd_orbisk_switch_finalizeMcResultFlood_schema(void);
 void unbuild_action_spec_finalizeMcResultFlood(const pd_action_record *act,
     p4_pd_orbisk_switch_finalizeMcResultFlood_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_finalizeMcResultL3Rpf_schema(void);
-const char * p4_pd_orbisk_switch_setFoldedPipePort_schema(void);
+const char *p4_pd_orbisk_switch_finalizeMcResultL3Rpf_schema(void);
+const char *p4_pd_orbisk_switch_setFoldedPipePort_schema(void);
 void unbuild_action_spec_setFoldedPipePort(const pd_action_record *act,
     p4_pd_orbisk_switch_setFoldedPipePort_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setIngressMirrorColor_schema(void);
+const char *p4_pd_orbisk_switch_setIngressMirrorColor_schema(void);
 void unbuild_action_spec_setIngressMirrorColor(const pd_action_record *act,
     const pd_resource_index *resources,
     uint32_t num_resources,
     p4_pd_orbisk_switch_setIngressMirrorColor_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setIngressMirrorColorRed_schema(void);
-const char * p4_pd_orbisk_switch_accept_schema(void);
-const char * p4_pd_orbisk_switch_acceptLog_schema(void);
+const char *p4_pd_orbisk_switch_setIngressMirrorColorRed_schema(void);
+const char *p4_pd_orbisk_switch_accept_schema(void);
+const char *p4_pd_orbisk_switch_acceptLog_schema(void);
 void unbuild_action_spec_acceptLog(const pd_action_record *act,
     p4_pd_orbisk_switch_acceptLog_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_dropCount_schema(void);
-const char * p4_pd_orbisk_switch_dropCountAndLog_schema(void);
+const char *p4_pd_orbisk_switch_dropCount_schema(void);
+const char *p4_pd_orbisk_switch_dropCountAndLog_schema(void);
 void unbuild_action_spec_dropCountAndLog(const pd_action_record *act,
     p4_pd_orbisk_switch_dropCountAndLog_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_finalDrop_schema(void);
-const char * p4_pd_orbisk_switch_ingressMirrorAction_schema(void);
+const char *p4_pd_orbisk_switch_finalDrop_schema(void);
+const char *p4_pd_orbisk_switch_ingressMirrorAction_schema(void);
 void unbuild_action_spec_ingressMirrorAction(const pd_action_record *act,
     p4_pd_orbisk_switch_ingressMirrorAction_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_updateFoldedPipeCount_schema(void);
-const char * p4_pd_orbisk_switch_setMinMtuId_schema(void);
+const char *p4_pd_orbisk_switch_updateFoldedPipeCount_schema(void);
+const char *p4_pd_orbisk_switch_setMinMtuId_schema(void);
 void unbuild_action_spec_setMinMtuId(const pd_action_record *act,
     p4_pd_orbisk_switch_setMinMtuId_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setIngMtuFailed_schema(void);
-const char * p4_pd_orbisk_switch_setSnatAclId_schema(void);
+const char *p4_pd_orbisk_switch_setIngMtuFailed_schema(void);
+const char *p4_pd_orbisk_switch_setSnatAclId_schema(void);
 void unbuild_action_spec_setSnatAclId(const pd_action_record *act,
     p4_pd_orbisk_switch_setSnatAclId_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_resetSnatAclId_schema(void);
-const char * p4_pd_orbisk_switch_setTcpFlagsCpuReasonCode_schema(void);
-const char * p4_pd_orbisk_switch_setCpuReasonCodeDefault_schema(void);
-const char * p4_pd_orbisk_switch_setNatTcpFlags_schema(void);
-const char * p4_pd_orbisk_switch_setL2XId_schema(void);
+const char *p4_pd_orbisk_switch_resetSnatAclId_schema(void);
+const char *p4_pd_orbisk_switch_setTcpFlagsCpuReasonCode_schema(void);
+const char *p4_pd_orbisk_switch_setCpuReasonCodeDefault_schema(void);
+const char *p4_pd_orbisk_switch_setNatTcpFlags_schema(void);
+const char *p4_pd_orbisk_switch_setL2XId_schema(void);
 void unbuild_action_spec_setL2XId(const pd_action_record *act,
     p4_pd_orbisk_switch_setL2XId_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setIpv4PrtResultXFirst_schema(void);
+const char *p4_pd_orbisk_switch_setIpv4PrtResultXFirst_schema(void);
 void unbuild_action_spec_setIpv4PrtResultXFirst(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpv4PrtResultXFirst_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setSwitchToCpu_schema(void);
+const char *p4_pd_orbisk_switch_setSwitchToCpu_schema(void);
 void unbuild_action_spec_setSwitchToCpu(const pd_action_record *act,
     p4_pd_orbisk_switch_setSwitchToCpu_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setDefaultVrf_schema(void);
-const char * p4_pd_orbisk_switch_setNextHop0First_schema(void);
+const char *p4_pd_orbisk_switch_setDefaultVrf_schema(void);
+const char *p4_pd_orbisk_switch_setNextHop0First_schema(void);
 void unbuild_action_spec_setNextHop0First(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHop0First_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setNextHop2First_schema(void);
+const char *p4_pd_orbisk_switch_setNextHop2First_schema(void);
 void unbuild_action_spec_setNextHop2First(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHop2First_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setNextHop3First_schema(void);
+const char *p4_pd_orbisk_switch_setNextHop3First_schema(void);
 void unbuild_action_spec_setNextHop3First(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHop3First_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setNextHop1First_schema(void);
+const char *p4_pd_orbisk_switch_setNextHop1First_schema(void);
 void unbuild_action_spec_setNextHop1First(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHop1First_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_ipv4ShortMaskLpmMiss_schema(void);
-const char * p4_pd_orbisk_switch_setEcmpNextHop_schema(void);
+const char *p4_pd_orbisk_switch_ipv4ShortMaskLpmMiss_schema(void);
+const char *p4_pd_orbisk_switch_setEcmpNextHop_schema(void);
 void unbuild_action_spec_setEcmpNextHop(const pd_action_record *act,
     p4_pd_orbisk_switch_setEcmpNextHop_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setNextHopToCpu_schema(void);
+const char *p4_pd_orbisk_switch_setNextHopToCpu_schema(void);
 void unbuild_action_spec_setNextHopToCpu(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHopToCpu_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setNextHopDetails_schema(void);
+const char *p4_pd_orbisk_switch_setNextHopDetails_schema(void);
 void unbuild_action_spec_setNextHopDetails(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHopDetails_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setRouterNextHopDetails_schema(void);
+const char *p4_pd_orbisk_switch_setRouterNextHopDetails_schema(void);
 void unbuild_action_spec_setRouterNextHopDetails(const pd_action_record *act,
     p4_pd_orbisk_switch_setRouterNextHopDetails_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_eifParamEgressing_schema(void);
+const char *p4_pd_orbisk_switch_eifParamEgressing_schema(void);
 void unbuild_action_spec_eifParamEgressing(const pd_action_record *act,
     p4_pd_orbisk_switch_eifParamEgressing_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setEgrNatProfile_schema(void);
+const char *p4_pd_orbisk_switch_setEgrNatProfile_schema(void);
 void unbuild_action_spec_setEgrNatProfile(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrNatProfile_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setDip_schema(void);
-const char * p4_pd_orbisk_switch_clearDip_schema(void);
-const char * p4_pd_orbisk_switch_eifParamIngressing_schema(void);
-const char * p4_pd_orbisk_switch_setTranslatedSip_schema(void);
+const char *p4_pd_orbisk_switch_setDip_schema(void);
+const char *p4_pd_orbisk_switch_clearDip_schema(void);
+const char *p4_pd_orbisk_switch_eifParamIngressing_schema(void);
+const char *p4_pd_orbisk_switch_setTranslatedSip_schema(void);
 void unbuild_action_spec_setTranslatedSip(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedSip_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setTranslatedSipPortDynamic_schema(void);
+const char *p4_pd_orbisk_switch_setTranslatedSipPortDynamic_schema(void);
 void unbuild_action_spec_setTranslatedSipPortDynamic(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedSipPortDynamic_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setTranslatedSipAndCount_schema(void);
+const char *p4_pd_orbisk_switch_setTranslatedSipAndCount_schema(void);
 void unbuild_action_spec_setTranslatedSipAndCount(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedSipAndCount_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setTranslatedSipPortAndCount_schema(void);
+const char *p4_pd_orbisk_switch_setTranslatedSipPortAndCount_schema(void);
 void unbuild_action_spec_setTranslatedSipPortAndCount(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedSipPortAndCount_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setEifMatched_schema(void);
+const char *p4_pd_orbisk_switch_setEifMatched_schema(void);
 void unbuild_action_spec_setEifMatched(const pd_action_record *act,
     p4_pd_orbisk_switch_setEifMatched_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setEifTrap_schema(void);
-const char * p4_pd_orbisk_switch_setEifTrapReverse_schema(void);
-const char * p4_pd_orbisk_switch_setEifDrop_schema(void);
-const char * p4_pd_orbisk_switch_updateEifAclCount_schema(void);
-const char * p4_pd_orbisk_switch_setNatCpuTrap_schema(void);
+const char *p4_pd_orbisk_switch_setEifTrap_schema(void);
+const char *p4_pd_orbisk_switch_setEifTrapReverse_schema(void);
+const char *p4_pd_orbisk_switch_setEifDrop_schema(void);
+const char *p4_pd_orbisk_switch_updateEifAclCount_schema(void);
+const char *p4_pd_orbisk_switch_setNatCpuTrap_schema(void);
 void unbuild_action_spec_setNatCpuTrap(const pd_action_record *act,
     p4_pd_orbisk_switch_setNatCpuTrap_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setNatCpuTrapReverse_schema(void);
+const char *p4_pd_orbisk_switch_setNatCpuTrapReverse_schema(void);
 void unbuild_action_spec_setNatCpuTrapReverse(const pd_action_record *act,
     p4_pd_orbisk_switch_setNatCpuTrapReverse_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_forwardToPeer_schema(void);
+const char *p4_pd_orbisk_switch_forwardToPeer_schema(void);
 void unbuild_action_spec_forwardToPeer(const pd_action_record *act,
     p4_pd_orbisk_switch_forwardToPeer_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setEifForwardToPeer_schema(void);
+const char *p4_pd_orbisk_switch_setEifForwardToPeer_schema(void);
 void unbuild_action_spec_setEifForwardToPeer(const pd_action_record *act,
     p4_pd_orbisk_switch_setEifForwardToPeer_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_updateEifForwardToPeerAclCount_schema(void);
-const char * p4_pd_orbisk_switch_mtuCheckFailed_schema(void);
+const char *p4_pd_orbisk_switch_updateEifForwardToPeerAclCount_schema(void);
+const char *p4_pd_orbisk_switch_mtuCheckFailed_schema(void);
 void unbuild_action_spec_mtuCheckFailed(const pd_action_record *act,
     p4_pd_orbisk_switch_mtuCheckFailed_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_mtuCheckPassed_schema(void);
-const char * p4_pd_orbisk_switch_countDynamicNat_schema(void);
-const char * p4_pd_orbisk_switch_setTunnelEgressInfo_schema(void);
+const char *p4_pd_orbisk_switch_mtuCheckPassed_schema(void);
+const char *p4_pd_orbisk_switch_countDynamicNat_schema(void);
+const char *p4_pd_orbisk_switch_setTunnelEgressInfo_schema(void);
 void unbuild_action_spec_setTunnelEgressInfo(const pd_action_record *act,
     p4_pd_orbisk_switch_setTunnelEgressInfo_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setPdpClass_schema(void);
+const char *p4_pd_orbisk_switch_setPdpClass_schema(void);
 void unbuild_action_spec_setPdpClass(const pd_action_record *act,
     p4_pd_orbisk_switch_setPdpClass_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_meterPdpClass_schema(void);
+const char *p4_pd_orbisk_switch_meterPdpClass_schema(void);
 void unbuild_action_spec_meterPdpClass(const pd_action_record *act,
     p4_pd_orbisk_switch_meterPdpClass_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_updateV4_schema(void);
-const char * p4_pd_orbisk_switch_updateV4AndPort_schema(void);
-const char * p4_pd_orbisk_switch_updateV4AndUdp_schema(void);
-const char * p4_pd_orbisk_switch_updateV4AndTcp_schema(void);
-const char * p4_pd_orbisk_switch_trapPktToCpuUntagged_schema(void);
+const char *p4_pd_orbisk_switch_updateV4_schema(void);
+const char *p4_pd_orbisk_switch_updateV4AndPort_schema(void);
+const char *p4_pd_orbisk_switch_updateV4AndUdp_schema(void);
+const char *p4_pd_orbisk_switch_updateV4AndTcp_schema(void);
+const char *p4_pd_orbisk_switch_trapPktToCpuUntagged_schema(void);
 void unbuild_action_spec_trapPktToCpuUntagged(const pd_action_record *act,
     p4_pd_orbisk_switch_trapPktToCpuUntagged_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_copyPktToCpuUntagged_schema(void);
+const char *p4_pd_orbisk_switch_copyPktToCpuUntagged_schema(void);
 void unbuild_action_spec_copyPktToCpuUntagged(const pd_action_record *act,
     p4_pd_orbisk_switch_copyPktToCpuUntagged_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_trapPktToCpuTagged_schema(void);
+const char *p4_pd_orbisk_switch_trapPktToCpuTagged_schema(void);
 void unbuild_action_spec_trapPktToCpuTagged(const pd_action_record *act,
     p4_pd_orbisk_switch_trapPktToCpuTagged_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_copyPktToCpuTagged_schema(void);
+const char *p4_pd_orbisk_switch_copyPktToCpuTagged_schema(void);
 void unbuild_action_spec_copyPktToCpuTagged(const pd_action_record *act,
     p4_pd_orbisk_switch_copyPktToCpuTagged_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_trapPktToCpuSubintf_schema(void);
+const char *p4_pd_orbisk_switch_trapPktToCpuSubintf_schema(void);
 void unbuild_action_spec_trapPktToCpuSubintf(const pd_action_record *act,
     p4_pd_orbisk_switch_trapPktToCpuSubintf_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_copyPktToCpuSubintf_schema(void);
+const char *p4_pd_orbisk_switch_copyPktToCpuSubintf_schema(void);
 void unbuild_action_spec_copyPktToCpuSubintf(const pd_action_record *act,
     p4_pd_orbisk_switch_copyPktToCpuSubintf_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setLagPort_schema(void);
+const char *p4_pd_orbisk_switch_setLagPort_schema(void);
 void unbuild_action_spec_setLagPort(const pd_action_record *act,
     p4_pd_orbisk_switch_setLagPort_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setPhysicalPort_schema(void);
-const char * p4_pd_orbisk_switch_setTunnelInfo_schema(void);
-const char * p4_pd_orbisk_switch_invalidateUcastEgressPort_schema(void);
-const char * p4_pd_orbisk_switch_fixL2SubintfAlignment_schema(void);
-const char * p4_pd_orbisk_switch_add_header_for_EA_schema(void);
-const char * p4_pd_orbisk_switch_setPdpClassCount_schema(void);
+const char *p4_pd_orbisk_switch_setPhysicalPort_schema(void);
+const char *p4_pd_orbisk_switch_setTunnelInfo_schema(void);
+const char *p4_pd_orbisk_switch_invalidateUcastEgressPort_schema(void);
+const char *p4_pd_orbisk_switch_fixL2SubintfAlignment_schema(void);
+const char *p4_pd_orbisk_switch_add_header_for_EA_schema(void);
+const char *p4_pd_orbisk_switch_setPdpClassCount_schema(void);
 void unbuild_action_spec_setPdpClassCount(const pd_action_record *act,
     const pd_resource_index *resources,
     uint32_t num_resources,
     p4_pd_orbisk_switch_setPdpClassCount_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_removeVlanHdr_schema(void);
-const char * p4_pd_orbisk_switch_acceptIB_schema(void);
-const char * p4_pd_orbisk_switch_finalDropIB_schema(void);
-const char * p4_pd_orbisk_switch_setPruneParams_schema(void);
+const char *p4_pd_orbisk_switch_removeVlanHdr_schema(void);
+const char *p4_pd_orbisk_switch_acceptIB_schema(void);
+const char *p4_pd_orbisk_switch_finalDropIB_schema(void);
+const char *p4_pd_orbisk_switch_setPruneParams_schema(void);
 void unbuild_action_spec_setPruneParams(const pd_action_record *act,
     p4_pd_orbisk_switch_setPruneParams_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setPruneParamsForL2Flood_schema(void);
+const char *p4_pd_orbisk_switch_setPruneParamsForL2Flood_schema(void);
 void unbuild_action_spec_setPruneParamsForL2Flood(const pd_action_record *act,
     p4_pd_orbisk_switch_setPruneParamsForL2Flood_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_setPruneParamsForL3Only_schema(void);
+const char *p4_pd_orbisk_switch_setPruneParamsForL3Only_schema(void);
 void unbuild_action_spec_setPruneParamsForL3Only(const pd_action_record *act,
     p4_pd_orbisk_switch_setPruneParamsForL3Only_action_spec_t *action_spec);
-const char * p4_pd_orbisk_switch_l3FloodEgressL2Aintf_schema(void);
-const char * p4_pd_orbisk_switch_setPruneParamsUnused_schema(void);
+const char *p4_pd_orbisk_switch_l3FloodEgressL2Aintf_schema(void);
+const char *p4_pd_orbisk_switch_setPruneParamsUnused_schema(void);
+
+/* --------------------------------------------- learning digests --- */
+
+/* macLearningDigest: digest 0x09000000, 14-byte entries: ingMd_smacOui 0+4,
+ * ingMd_smacStation 4+4, ingMd_ingL2Domain 8+2, ingMd_ingL2Aintf 10+4 */
+pd_status p4_pd_orbisk_switch_macLearningDigest_register(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_lrn_digest_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_macLearningDigest_deregister(pd_sess_hdl sess_hdl,
+    uint8_t dev_id);
+pd_status p4_pd_orbisk_switch_macLearningDigest_notify_ack(pd_sess_hdl sess_hdl,
+    pd_lrn_digest_msg *msg);
+
+/* vtepLearningDigest: digest 0x09000001, 36-byte entries: ingMd_ingL2Domain
+ * 0+2, innerEthHdr_smacOui 2+4, innerEthHdr_smacStation 6+4, outerIpv4Hdr_sip
+ * 10+4, outerIpv6Hdr_sip 14+16, outerEthHdr_etherType 30+2,
+ * ingMd_ingressVniHigh 32+2, ingMd_ingressVniLow 34+1, vxlanHdr_vniReserved
+ * 35+1 */
+pd_status p4_pd_orbisk_switch_vtepLearningDigest_register(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_lrn_digest_cb callback,
+    void *cookie);
+pd_status p4_pd_orbisk_switch_vtepLearningDigest_deregister(pd_sess_hdl sess_hdl,
+    uint8_t dev_id);
+pd_status p4_pd_orbisk_switch_vtepLearningDigest_notify_ack(pd_sess_hdl sess_hdl,
+    pd_lrn_digest_msg *msg);
+
+pd_status p4_pd_orbisk_switch_set_learning_timeout(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    uint32_t timeout);
+uint32_t p4_pd_orbisk_switch_get_digest_entry_size(const char *digest_name);
+void *p4_pd_orbisk_switch_get_digest_entry_field(void *entry,
+    const char *digest_name,
+    const char *field_name,
+    uint32_t *size);
+
+/* -------------------------------------------- hash calculations --- */
+
+/* egrVlanStpHash: hash 0x08000000, input 0x21000000, algorithm 0x23000000 */
+pd_status p4_pd_orbisk_switch_hash_calc_egrVlanStpHash_input_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input);
+pd_status p4_pd_orbisk_switch_hash_calc_egrVlanStpHash_input_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *input);
+pd_status p4_pd_orbisk_switch_hash_calc_egrVlanStpHash_algorithm_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_egrVlanStpHash_algorithm_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_egrVlanStpHash_seed_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t seed);
+pd_status p4_pd_orbisk_switch_hash_calc_egrVlanStpHash_seed_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t *seed);
+pd_status p4_pd_orbisk_switch_hash_calc_egrVlanStpHash_input_field_attribute_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs);
+pd_status p4_pd_orbisk_switch_hash_calc_egrVlanStpHash_input_field_attribute_count_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_egrVlanStpHash_input_field_attribute_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t capacity,
+    pd_hash_calc_attribute *attrs,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_egrVlanStpHash_calculate_hash_value(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs,
+    const uint32_t *widths,
+    uint8_t *hash,
+    uint32_t hash_len);
+
+/* hashInnerEthHdr: hash 0x08000001, input 0x21000001, algorithm 0x23000001 */
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerEthHdr_input_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerEthHdr_input_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *input);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerEthHdr_algorithm_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerEthHdr_algorithm_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerEthHdr_seed_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t seed);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerEthHdr_seed_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t *seed);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerEthHdr_input_field_attribute_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerEthHdr_input_field_attribute_count_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerEthHdr_input_field_attribute_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t capacity,
+    pd_hash_calc_attribute *attrs,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerEthHdr_calculate_hash_value(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs,
+    const uint32_t *widths,
+    uint8_t *hash,
+    uint32_t hash_len);
+
+/* hashInnerIpAndL4Hdr: hash 0x08000002, input 0x21000002, algorithm
+ * 0x23000001 */
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpAndL4Hdr_input_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpAndL4Hdr_input_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *input);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpAndL4Hdr_algorithm_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpAndL4Hdr_algorithm_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpAndL4Hdr_seed_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t seed);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpAndL4Hdr_seed_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t *seed);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpAndL4Hdr_input_field_attribute_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpAndL4Hdr_input_field_attribute_count_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpAndL4Hdr_input_field_attribute_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t capacity,
+    pd_hash_calc_attribute *attrs,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpAndL4Hdr_calculate_hash_value(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs,
+    const uint32_t *widths,
+    uint8_t *hash,
+    uint32_t hash_len);
+
+/* hashInnerIpv4Hdr: hash 0x08000003, input 0x21000003, algorithm 0x23000001
+ * */
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpv4Hdr_input_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpv4Hdr_input_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *input);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpv4Hdr_algorithm_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpv4Hdr_algorithm_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpv4Hdr_seed_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t seed);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpv4Hdr_seed_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t *seed);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpv4Hdr_input_field_attribute_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpv4Hdr_input_field_attribute_count_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpv4Hdr_input_field_attribute_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t capacity,
+    pd_hash_calc_attribute *attrs,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpv4Hdr_calculate_hash_value(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs,
+    const uint32_t *widths,
+    uint8_t *hash,
+    uint32_t hash_len);
+
+/* hashInnerIpv6Hdr: hash 0x08000004, input 0x21000004, algorithm 0x23000001
+ * */
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpv6Hdr_input_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpv6Hdr_input_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *input);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpv6Hdr_algorithm_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpv6Hdr_algorithm_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpv6Hdr_seed_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t seed);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpv6Hdr_seed_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t *seed);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpv6Hdr_input_field_attribute_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpv6Hdr_input_field_attribute_count_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpv6Hdr_input_field_attribute_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t capacity,
+    pd_hash_calc_attribute *attrs,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_hashInnerIpv6Hdr_calculate_hash_value(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs,
+    const uint32_t *widths,
+    uint8_t *hash,
+    uint32_t hash_len);
+
+/* hashOuterEthHdr: hash 0x08000005, input 0x21000005, algorithm 0x23000001 */
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterEthHdr_input_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterEthHdr_input_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *input);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterEthHdr_algorithm_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterEthHdr_algorithm_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterEthHdr_seed_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t seed);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterEthHdr_seed_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t *seed);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterEthHdr_input_field_attribute_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterEthHdr_input_field_attribute_count_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterEthHdr_input_field_attribute_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t capacity,
+    pd_hash_calc_attribute *attrs,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterEthHdr_calculate_hash_value(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs,
+    const uint32_t *widths,
+    uint8_t *hash,
+    uint32_t hash_len);
+
+/* hashOuterIpAndL4Hdr: hash 0x08000006, input 0x21000006, algorithm
+ * 0x23000001 */
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpAndL4Hdr_input_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpAndL4Hdr_input_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *input);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpAndL4Hdr_algorithm_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpAndL4Hdr_algorithm_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpAndL4Hdr_seed_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t seed);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpAndL4Hdr_seed_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t *seed);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpAndL4Hdr_input_field_attribute_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpAndL4Hdr_input_field_attribute_count_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpAndL4Hdr_input_field_attribute_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t capacity,
+    pd_hash_calc_attribute *attrs,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpAndL4Hdr_calculate_hash_value(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs,
+    const uint32_t *widths,
+    uint8_t *hash,
+    uint32_t hash_len);
+
+/* hashOuterIpv4Hdr: hash 0x08000007, input 0x21000007, algorithm 0x23000001
+ * */
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpv4Hdr_input_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpv4Hdr_input_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *input);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpv4Hdr_algorithm_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpv4Hdr_algorithm_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpv4Hdr_seed_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t seed);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpv4Hdr_seed_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t *seed);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpv4Hdr_input_field_attribute_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpv4Hdr_input_field_attribute_count_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpv4Hdr_input_field_attribute_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t capacity,
+    pd_hash_calc_attribute *attrs,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpv4Hdr_calculate_hash_value(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs,
+    const uint32_t *widths,
+    uint8_t *hash,
+    uint32_t hash_len);
+
+/* hashOuterIpv6Hdr: hash 0x08000008, input 0x21000008, algorithm 0x23000001
+ * */
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpv6Hdr_input_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpv6Hdr_input_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *input);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpv6Hdr_algorithm_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpv6Hdr_algorithm_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpv6Hdr_seed_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t seed);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpv6Hdr_seed_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t *seed);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpv6Hdr_input_field_attribute_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpv6Hdr_input_field_attribute_count_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpv6Hdr_input_field_attribute_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t capacity,
+    pd_hash_calc_attribute *attrs,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_hashOuterIpv6Hdr_calculate_hash_value(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs,
+    const uint32_t *widths,
+    uint8_t *hash,
+    uint32_t hash_len);
+
+/* ingVlanStpHash: hash 0x08000009, input 0x21000009, algorithm 0x23000000 */
+pd_status p4_pd_orbisk_switch_hash_calc_ingVlanStpHash_input_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input);
+pd_status p4_pd_orbisk_switch_hash_calc_ingVlanStpHash_input_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *input);
+pd_status p4_pd_orbisk_switch_hash_calc_ingVlanStpHash_algorithm_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_ingVlanStpHash_algorithm_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_ingVlanStpHash_seed_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t seed);
+pd_status p4_pd_orbisk_switch_hash_calc_ingVlanStpHash_seed_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t *seed);
+pd_status p4_pd_orbisk_switch_hash_calc_ingVlanStpHash_input_field_attribute_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs);
+pd_status p4_pd_orbisk_switch_hash_calc_ingVlanStpHash_input_field_attribute_count_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_ingVlanStpHash_input_field_attribute_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t capacity,
+    pd_hash_calc_attribute *attrs,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_ingVlanStpHash_calculate_hash_value(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs,
+    const uint32_t *widths,
+    uint8_t *hash,
+    uint32_t hash_len);
+
+/* queueCounterHash: hash 0x0800000a, input 0x2100000a, algorithm 0x23000000
+ * */
+pd_status p4_pd_orbisk_switch_hash_calc_queueCounterHash_input_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input);
+pd_status p4_pd_orbisk_switch_hash_calc_queueCounterHash_input_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *input);
+pd_status p4_pd_orbisk_switch_hash_calc_queueCounterHash_algorithm_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_queueCounterHash_algorithm_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_queueCounterHash_seed_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t seed);
+pd_status p4_pd_orbisk_switch_hash_calc_queueCounterHash_seed_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t *seed);
+pd_status p4_pd_orbisk_switch_hash_calc_queueCounterHash_input_field_attribute_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs);
+pd_status p4_pd_orbisk_switch_hash_calc_queueCounterHash_input_field_attribute_count_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_queueCounterHash_input_field_attribute_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t capacity,
+    pd_hash_calc_attribute *attrs,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_queueCounterHash_calculate_hash_value(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs,
+    const uint32_t *widths,
+    uint8_t *hash,
+    uint32_t hash_len);
+
+/* egressL2AintfUnresolvedFlood: hash 0x0800000b, input 0x2100000b, algorithm
+ * 0x23000000 */
+pd_status p4_pd_orbisk_switch_hash_calc_egressL2AintfUnresolvedFlood_input_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input);
+pd_status p4_pd_orbisk_switch_hash_calc_egressL2AintfUnresolvedFlood_input_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *input);
+pd_status p4_pd_orbisk_switch_hash_calc_egressL2AintfUnresolvedFlood_algorithm_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_egressL2AintfUnresolvedFlood_algorithm_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t *algorithm);
+pd_status p4_pd_orbisk_switch_hash_calc_egressL2AintfUnresolvedFlood_seed_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t seed);
+pd_status p4_pd_orbisk_switch_hash_calc_egressL2AintfUnresolvedFlood_seed_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint64_t *seed);
+pd_status p4_pd_orbisk_switch_hash_calc_egressL2AintfUnresolvedFlood_input_field_attribute_set(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs);
+pd_status p4_pd_orbisk_switch_hash_calc_egressL2AintfUnresolvedFlood_input_field_attribute_count_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_egressL2AintfUnresolvedFlood_input_field_attribute_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t input,
+    uint32_t capacity,
+    pd_hash_calc_attribute *attrs,
+    uint32_t *count);
+pd_status p4_pd_orbisk_switch_hash_calc_egressL2AintfUnresolvedFlood_calculate_hash_value(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t count,
+    const pd_hash_calc_attribute *attrs,
+    const uint32_t *widths,
+    uint8_t *hash,
+    uint32_t hash_len);
+
+/* ---------------------------------------------------- snapshots --- */
+pd_status p4_pd_orbisk_switch_snapshot_create(pd_dev_target dev_tgt,
+    uint8_t start_stage,
+    uint8_t end_stage,
+    uint32_t direction,
+    uint32_t *snapshot_hdl);
+pd_status p4_pd_orbisk_switch_snapshot_delete(uint32_t snapshot_hdl);
+pd_status p4_pd_orbisk_switch_snapshot_capture_trigger_set(uint32_t snapshot_hdl,
+    const p4_pd_orbisk_switch_snapshot_record_t *trig_spec,
+    const p4_pd_orbisk_switch_snapshot_record_t *trig_mask);
+pd_status p4_pd_orbisk_switch_snapshot_capture_data_get(uint32_t snapshot_hdl,
+    uint32_t pipe,
+    p4_pd_orbisk_switch_snapshot_record_t *capture,
+    pd_snapshot_capture_ctrl *capture_ctrl,
+    uint32_t *num_captures);
+
+/* -------------------------------------------- parser value sets --- */
+
+/* fabric_port: value set 0x000001ff */
+pd_status p4_pd_orbisk_switch_pvs_fabric_port_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t argument);
+pd_status p4_pd_orbisk_switch_pvs_fabric_port_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t argument);
+pd_status p4_pd_orbisk_switch_pvs_fabric_port_entry_add(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    uint32_t key,
+    uint32_t mask,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_fabric_port_entry_modify(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t key,
+    uint32_t mask);
+pd_status p4_pd_orbisk_switch_pvs_fabric_port_entry_delete(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_fabric_port_entry_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *key,
+    uint32_t *mask);
+pd_status p4_pd_orbisk_switch_pvs_fabric_port_entry_handle_get(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    uint32_t key,
+    uint32_t mask,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_fabric_port_entry_get_first_entry_handle(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_fabric_port_entry_get_next_entry_handles(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    pd_entry_hdl entry_hdl,
+    uint32_t count,
+    pd_entry_hdl *next_entry_handles);
+pd_status p4_pd_orbisk_switch_pvs_fabric_port_entry_get_count(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    uint8_t read_from_hw,
+    uint32_t *count);
+
+/* allow_vlan0: value set 0x000001fe */
+pd_status p4_pd_orbisk_switch_pvs_allow_vlan0_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t argument);
+pd_status p4_pd_orbisk_switch_pvs_allow_vlan0_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t argument);
+pd_status p4_pd_orbisk_switch_pvs_allow_vlan0_entry_add(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    uint32_t key,
+    uint32_t mask,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_allow_vlan0_entry_modify(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t key,
+    uint32_t mask);
+pd_status p4_pd_orbisk_switch_pvs_allow_vlan0_entry_delete(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_allow_vlan0_entry_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *key,
+    uint32_t *mask);
+pd_status p4_pd_orbisk_switch_pvs_allow_vlan0_entry_handle_get(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    uint32_t key,
+    uint32_t mask,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_allow_vlan0_entry_get_first_entry_handle(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_allow_vlan0_entry_get_next_entry_handles(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    pd_entry_hdl entry_hdl,
+    uint32_t count,
+    pd_entry_hdl *next_entry_handles);
+pd_status p4_pd_orbisk_switch_pvs_allow_vlan0_entry_get_count(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    uint8_t read_from_hw,
+    uint32_t *count);
+
+/* allow_ntags: value set 0x000001fd */
+pd_status p4_pd_orbisk_switch_pvs_allow_ntags_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t argument);
+pd_status p4_pd_orbisk_switch_pvs_allow_ntags_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t argument);
+pd_status p4_pd_orbisk_switch_pvs_allow_ntags_entry_add(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    uint32_t key,
+    uint32_t mask,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_allow_ntags_entry_modify(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t key,
+    uint32_t mask);
+pd_status p4_pd_orbisk_switch_pvs_allow_ntags_entry_delete(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_allow_ntags_entry_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *key,
+    uint32_t *mask);
+pd_status p4_pd_orbisk_switch_pvs_allow_ntags_entry_handle_get(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    uint32_t key,
+    uint32_t mask,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_allow_ntags_entry_get_first_entry_handle(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_allow_ntags_entry_get_next_entry_handles(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    pd_entry_hdl entry_hdl,
+    uint32_t count,
+    pd_entry_hdl *next_entry_handles);
+pd_status p4_pd_orbisk_switch_pvs_allow_ntags_entry_get_count(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    uint8_t read_from_hw,
+    uint32_t *count);
+
+/* vxlan_ports_32bVni: value set 0x000001fc */
+pd_status p4_pd_orbisk_switch_pvs_vxlan_ports_32bVni_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t argument);
+pd_status p4_pd_orbisk_switch_pvs_vxlan_ports_32bVni_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t argument);
+pd_status p4_pd_orbisk_switch_pvs_vxlan_ports_32bVni_entry_add(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    uint32_t key,
+    uint32_t mask,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_vxlan_ports_32bVni_entry_modify(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t key,
+    uint32_t mask);
+pd_status p4_pd_orbisk_switch_pvs_vxlan_ports_32bVni_entry_delete(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_vxlan_ports_32bVni_entry_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *key,
+    uint32_t *mask);
+pd_status p4_pd_orbisk_switch_pvs_vxlan_ports_32bVni_entry_handle_get(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    uint32_t key,
+    uint32_t mask,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_vxlan_ports_32bVni_entry_get_first_entry_handle(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_vxlan_ports_32bVni_entry_get_next_entry_handles(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    pd_entry_hdl entry_hdl,
+    uint32_t count,
+    pd_entry_hdl *next_entry_handles);
+pd_status p4_pd_orbisk_switch_pvs_vxlan_ports_32bVni_entry_get_count(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    uint8_t read_from_hw,
+    uint32_t *count);
+
+/* vxlan_ports: value set 0x000001fb */
+pd_status p4_pd_orbisk_switch_pvs_vxlan_ports_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t argument);
+pd_status p4_pd_orbisk_switch_pvs_vxlan_ports_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t argument);
+pd_status p4_pd_orbisk_switch_pvs_vxlan_ports_entry_add(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    uint32_t key,
+    uint32_t mask,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_vxlan_ports_entry_modify(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t key,
+    uint32_t mask);
+pd_status p4_pd_orbisk_switch_pvs_vxlan_ports_entry_delete(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_vxlan_ports_entry_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *key,
+    uint32_t *mask);
+pd_status p4_pd_orbisk_switch_pvs_vxlan_ports_entry_handle_get(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    uint32_t key,
+    uint32_t mask,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_vxlan_ports_entry_get_first_entry_handle(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_vxlan_ports_entry_get_next_entry_handles(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    pd_entry_hdl entry_hdl,
+    uint32_t count,
+    pd_entry_hdl *next_entry_handles);
+pd_status p4_pd_orbisk_switch_pvs_vxlan_ports_entry_get_count(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    uint8_t read_from_hw,
+    uint32_t *count);
+
+/* fabric_port_folded_pipe: value set 0x100001f9 */
+pd_status p4_pd_orbisk_switch_pvs_fabric_port_folded_pipe_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t argument);
+pd_status p4_pd_orbisk_switch_pvs_fabric_port_folded_pipe_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t argument);
+pd_status p4_pd_orbisk_switch_pvs_fabric_port_folded_pipe_entry_add(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    uint32_t key,
+    uint32_t mask,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_fabric_port_folded_pipe_entry_modify(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t key,
+    uint32_t mask);
+pd_status p4_pd_orbisk_switch_pvs_fabric_port_folded_pipe_entry_delete(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_fabric_port_folded_pipe_entry_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *key,
+    uint32_t *mask);
+pd_status p4_pd_orbisk_switch_pvs_fabric_port_folded_pipe_entry_handle_get(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    uint32_t key,
+    uint32_t mask,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_fabric_port_folded_pipe_entry_get_first_entry_handle(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_fabric_port_folded_pipe_entry_get_next_entry_handles(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    pd_entry_hdl entry_hdl,
+    uint32_t count,
+    pd_entry_hdl *next_entry_handles);
+pd_status p4_pd_orbisk_switch_pvs_fabric_port_folded_pipe_entry_get_count(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    uint8_t read_from_hw,
+    uint32_t *count);
+
+/* egr_cpu_port: value set 0x000001fa */
+pd_status p4_pd_orbisk_switch_pvs_egr_cpu_port_set_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t value,
+    uint32_t argument);
+pd_status p4_pd_orbisk_switch_pvs_egr_cpu_port_get_property(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    uint32_t property,
+    uint32_t *value,
+    uint32_t argument);
+pd_status p4_pd_orbisk_switch_pvs_egr_cpu_port_entry_add(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    uint32_t key,
+    uint32_t mask,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_egr_cpu_port_entry_modify(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t key,
+    uint32_t mask);
+pd_status p4_pd_orbisk_switch_pvs_egr_cpu_port_entry_delete(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_egr_cpu_port_entry_get(pd_sess_hdl sess_hdl,
+    uint32_t dev_id,
+    pd_entry_hdl entry_hdl,
+    uint32_t *key,
+    uint32_t *mask);
+pd_status p4_pd_orbisk_switch_pvs_egr_cpu_port_entry_handle_get(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    uint32_t key,
+    uint32_t mask,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_egr_cpu_port_entry_get_first_entry_handle(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    pd_entry_hdl *entry_hdl);
+pd_status p4_pd_orbisk_switch_pvs_egr_cpu_port_entry_get_next_entry_handles(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    pd_entry_hdl entry_hdl,
+    uint32_t count,
+    pd_entry_hdl *next_entry_handles);
+pd_status p4_pd_orbisk_switch_pvs_egr_cpu_port_entry_get_count(pd_sess_hdl sess_hdl,
+    pd_parser_target prs_tgt,
+    uint8_t read_from_hw,
+    uint32_t *count);
 
 #ifdef __cplusplus
 }

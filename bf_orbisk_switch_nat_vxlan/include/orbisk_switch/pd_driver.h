@@ -162,6 +162,97 @@ pd_status pipe_stful_direct_ent_query(pd_sess_hdl sess, uint32_t device_id, pd_t
 pd_status pipe_stful_direct_database_sync(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl tbl,
                                           pd_register_sync_cb callback, void *cookie);
 
+/* Hash calculations. The two trailing words of the algorithm calls are the
+ * driver's; this library always passes 0 (null). */
+pd_status pipe_mgr_hash_calc_input_set(pd_sess_hdl sess, uint32_t device_id, uint32_t hash_hdl,
+                                       uint32_t input_hdl);
+pd_status pipe_mgr_hash_calc_input_get(pd_sess_hdl sess, uint32_t device_id, uint32_t hash_hdl,
+                                       uint32_t *input_hdl);
+pd_status pipe_mgr_hash_calc_algorithm_set(pd_sess_hdl sess, uint32_t device_id,
+                                           uint32_t hash_hdl, uint32_t algorithm_hdl,
+                                           const void *algorithm, uint64_t rotate);
+pd_status pipe_mgr_hash_calc_algorithm_get(pd_sess_hdl sess, uint32_t device_id,
+                                           uint32_t hash_hdl, uint32_t *algorithm_hdl,
+                                           void *algorithm, uint64_t *rotate);
+pd_status pipe_mgr_hash_calc_seed_set(pd_sess_hdl sess, uint32_t device_id, uint32_t hash_hdl,
+                                      uint64_t seed);
+pd_status pipe_mgr_hash_calc_seed_get(pd_sess_hdl sess, uint32_t device_id, uint32_t hash_hdl,
+                                      uint64_t *seed);
+pd_status pipe_mgr_hash_calc_input_field_attribute_set(pd_sess_hdl sess, uint32_t device_id,
+                                                       uint32_t hash_hdl, uint32_t input_hdl,
+                                                       uint32_t count,
+                                                       pd_hash_calc_driver_attribute *attrs);
+pd_status pipe_mgr_hash_calc_input_field_attribute_count_get(pd_sess_hdl sess,
+                                                             uint32_t device_id,
+                                                             uint32_t hash_hdl,
+                                                             uint32_t input_hdl,
+                                                             uint32_t *count);
+pd_status pipe_mgr_hash_calc_input_field_attribute_get(pd_sess_hdl sess, uint32_t device_id,
+                                                       uint32_t hash_hdl, uint32_t input_hdl,
+                                                       uint32_t capacity,
+                                                       pd_hash_calc_driver_attribute *attrs,
+                                                       uint32_t *count);
+/* Hashes stream_len bytes and writes hash_len bytes of the result. */
+pd_status pipe_mgr_hash_calc_calculate_hash_value(pd_sess_hdl sess, uint32_t device_id,
+                                                  uint32_t hash_hdl, const uint8_t *stream,
+                                                  uint32_t stream_len, uint8_t *hash,
+                                                  uint32_t hash_len);
+
+/* Parser value sets. The parser target is taken apart: gress, pipe and the
+ * parser id widened from its byte. entry_get's three place outputs are
+ * always null from this library. */
+pd_status pipe_mgr_pvs_set_property(pd_sess_hdl sess, uint32_t device_id, uint32_t pvs_hdl,
+                                    uint32_t property, uint32_t value,
+                                    pd_pvs_property_args args);
+pd_status pipe_mgr_pvs_get_property(pd_sess_hdl sess, uint32_t device_id, uint32_t pvs_hdl,
+                                    uint32_t property, uint32_t *value,
+                                    pd_pvs_property_args args);
+pd_status pipe_mgr_pvs_entry_add(pd_sess_hdl sess, uint32_t device_id, uint32_t pvs_hdl,
+                                 uint32_t gress, uint32_t pipe, uint32_t parser, uint32_t key,
+                                 uint32_t mask, pd_entry_hdl *entry_hdl);
+pd_status pipe_mgr_pvs_entry_modify(pd_sess_hdl sess, uint32_t device_id, uint32_t pvs_hdl,
+                                    pd_entry_hdl entry_hdl, uint32_t key, uint32_t mask);
+pd_status pipe_mgr_pvs_entry_delete(pd_sess_hdl sess, uint32_t device_id, uint32_t pvs_hdl,
+                                    pd_entry_hdl entry_hdl);
+pd_status pipe_mgr_pvs_entry_get(pd_sess_hdl sess, uint32_t device_id, uint32_t pvs_hdl,
+                                 pd_entry_hdl entry_hdl, uint32_t *key, uint32_t *mask,
+                                 uint32_t *gress, uint32_t *pipe, uint32_t *parser);
+pd_status pipe_mgr_pvs_entry_handle_get(pd_sess_hdl sess, uint32_t device_id, uint32_t pvs_hdl,
+                                        uint32_t gress, uint32_t pipe, uint32_t parser,
+                                        uint32_t key, uint32_t mask, pd_entry_hdl *entry_hdl);
+pd_status pipe_mgr_pvs_entry_get_first(pd_sess_hdl sess, uint32_t device_id, uint32_t pvs_hdl,
+                                       uint32_t gress, uint32_t pipe, uint32_t parser,
+                                       pd_entry_hdl *entry_hdl);
+pd_status pipe_mgr_pvs_entry_get_next(pd_sess_hdl sess, uint32_t device_id, uint32_t pvs_hdl,
+                                      uint32_t gress, uint32_t pipe, uint32_t parser,
+                                      pd_entry_hdl entry_hdl, uint32_t count,
+                                      pd_entry_hdl *next_hdls);
+pd_status pipe_mgr_pvs_entry_get_count(pd_sess_hdl sess, uint32_t device_id, uint32_t pvs_hdl,
+                                       uint32_t gress, uint32_t pipe, uint32_t parser,
+                                       uint32_t read_from_hw, uint32_t *count);
+
+/* Learning digests. The callback and cookie are the caller's, unchanged. */
+pd_status pipe_mgr_lrn_digest_notification_register(pd_sess_hdl sess, uint32_t device_id,
+                                                    uint32_t digest_hdl,
+                                                    pd_lrn_digest_cb callback, void *cookie);
+pd_status pipe_mgr_lrn_digest_notification_deregister(pd_sess_hdl sess, uint32_t device_id,
+                                                      uint32_t digest_hdl);
+pd_status pipe_mgr_flow_lrn_notify_ack(pd_sess_hdl sess, uint32_t digest_hdl,
+                                       pd_lrn_digest_msg *msg);
+pd_status pipe_mgr_flow_lrn_set_timeout(pd_sess_hdl sess, uint32_t device_id, uint32_t timeout);
+
+/* Snapshots. Trigger records are in the driver's byte order; captures are
+ * record_size bytes apart in the buffer. */
+pd_status bf_snapshot_create(uint32_t device_id, uint32_t pipe, uint8_t start_stage,
+                             uint8_t end_stage, uint32_t direction, uint32_t *snapshot_hdl);
+pd_status bf_snapshot_delete(uint32_t snapshot_hdl);
+pd_status bf_snapshot_capture_trigger_set(uint32_t snapshot_hdl, const void *value,
+                                          const void *mask);
+pd_status bf_snapshot_capture_phv_fields_dict_size(uint32_t snapshot_hdl, uint32_t *total_size,
+                                                   uint32_t *record_size);
+pd_status bf_snapshot_capture_get(uint32_t snapshot_hdl, uint32_t pipe, uint8_t *buffer,
+                                  pd_snapshot_capture_ctrl *ctrl, uint32_t *count);
+
 /* Member-selection service: one state for each action profile. */
 pd_status p4_pd_ms_init(void);
 pd_ms_state *p4_pd_ms_init_state(void);

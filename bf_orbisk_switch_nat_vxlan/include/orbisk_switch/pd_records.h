@@ -242,6 +242,76 @@ typedef pd_status (*pd_ms_grp_fn)(uint32_t device_id, pd_mbr_hdl mbr_hdl, pd_grp
 typedef void (*pd_ha_restore_cb)(pd_sess_hdl sess, uint32_t device_id, pd_tbl_hdl adt,
                                  pd_act_fn_hdl fn, pd_grp_hdl grp_hdl, pd_mbr_hdl mbr_hdl,
                                  uint32_t flags);
+/* The driver's form of a hash field attribute: 32 bytes. The library fills
+ * input_field, the same plus one in field_id, attr_type and the low 32 bits
+ * of value; the two reserved words are 0. */
+typedef struct pd_hash_calc_driver_attribute {
+  uint32_t input_field;
+  uint32_t reserved0;
+  uint32_t reserved1;
+  uint32_t field_id;   /* input_field + 1 */
+  uint32_t attr_type;
+  uint32_t reserved2;
+  uint64_t value;      /* only the low 32 bits are written and read */
+} pd_hash_calc_driver_attribute;
+
+PD_STATIC_ASSERT(sizeof(pd_hash_calc_driver_attribute) == 32, "hash attribute is 32 bytes");
+PD_STATIC_ASSERT(offsetof(pd_hash_calc_driver_attribute, reserved0) == 4, "reserved0 at 4");
+PD_STATIC_ASSERT(offsetof(pd_hash_calc_driver_attribute, reserved1) == 8, "reserved1 at 8");
+PD_STATIC_ASSERT(offsetof(pd_hash_calc_driver_attribute, field_id) == 12, "field_id at 12");
+PD_STATIC_ASSERT(offsetof(pd_hash_calc_driver_attribute, attr_type) == 16, "attr_type at 16");
+PD_STATIC_ASSERT(offsetof(pd_hash_calc_driver_attribute, value) == 24, "value at 24");
+
+/* The argument record of the value-set property calls, passed by value: the
+ * caller's 32-bit argument widened into the first word; the second word is
+ * 0 from this library. */
+typedef struct pd_pvs_property_args {
+  uint64_t value;
+  uint64_t reserved;
+} pd_pvs_property_args;
+
+PD_STATIC_ASSERT(sizeof(pd_pvs_property_args) == 16, "pd_pvs_property_args is 16 bytes");
+PD_STATIC_ASSERT(offsetof(pd_pvs_property_args, reserved) == 8, "reserved at 8");
+
+/* A learning digest message as the driver delivers it to the callback
+ * registered for the digest, and takes it back through notify_ack. Its
+ * entries lie back to back, entry_bytes each, packed in the program's layout
+ * with no padding (get_digest_entry_field finds a field in one); each field
+ * is most significant byte first. The message stays the driver's until it
+ * is acknowledged. */
+typedef struct pd_lrn_digest_msg {
+  pd_dev_target dev_tgt;  /* where the entries were learned */
+  uint32_t digest_hdl;
+  uint16_t num_entries;
+  uint16_t entry_bytes;
+  uint8_t *entries;
+  uint64_t msg_id;        /* the driver's number for the message */
+} pd_lrn_digest_msg;
+
+PD_STATIC_ASSERT(sizeof(pd_lrn_digest_msg) == 32, "pd_lrn_digest_msg is 32 bytes");
+PD_STATIC_ASSERT(offsetof(pd_lrn_digest_msg, digest_hdl) == 8, "digest_hdl at 8");
+PD_STATIC_ASSERT(offsetof(pd_lrn_digest_msg, num_entries) == 12, "num_entries at 12");
+PD_STATIC_ASSERT(offsetof(pd_lrn_digest_msg, entry_bytes) == 14, "entry_bytes at 14");
+PD_STATIC_ASSERT(offsetof(pd_lrn_digest_msg, entries) == 16, "entries at 16");
+PD_STATIC_ASSERT(offsetof(pd_lrn_digest_msg, msg_id) == 24, "msg_id at 24");
+
+/* Called by the driver with each digest message, on a thread of its own,
+ * never inside a driver call of the same thread. */
+typedef pd_status (*pd_lrn_digest_cb)(pd_sess_hdl sess, pd_lrn_digest_msg *msg, void *cookie);
+
+/* The driver's account of a snapshot capture, written by bf_snapshot_capture_get
+ * straight into the caller's place. */
+typedef struct pd_snapshot_capture_ctrl {
+  uint32_t state;        /* the driver's state of the snapshot */
+  uint32_t start_stage;
+  uint32_t end_stage;
+  uint32_t num_captured; /* records in the capture */
+} pd_snapshot_capture_ctrl;
+
+PD_STATIC_ASSERT(sizeof(pd_snapshot_capture_ctrl) == 16, "pd_snapshot_capture_ctrl is 16 bytes");
+PD_STATIC_ASSERT(offsetof(pd_snapshot_capture_ctrl, start_stage) == 4, "start_stage at 4");
+PD_STATIC_ASSERT(offsetof(pd_snapshot_capture_ctrl, end_stage) == 8, "end_stage at 8");
+PD_STATIC_ASSERT(offsetof(pd_snapshot_capture_ctrl, num_captured) == 12, "num_captured at 12");
 
 #ifdef __cplusplus
 }

@@ -110,6 +110,52 @@ typedef struct pd_wred_spec {
 
 PD_STATIC_ASSERT(sizeof(pd_wred_spec) == 16, "pd_wred_spec is 16 bytes");
 
+/* ------------------------------------------------ hash calculations --- */
+
+/* One field attribute of a hash calculation as a caller gives it and reads
+ * it back. For calculate_hash_value, value is the field's value for a field
+ * of up to 32 bits, and for a wider field a pointer to its bytes, most
+ * significant first, as many as its width rounded up to whole bytes. */
+typedef struct pd_hash_calc_attribute {
+  uint32_t input_field; /* the field's number in the calculation */
+  uint32_t attr_type;
+  uint64_t value;
+} pd_hash_calc_attribute;
+
+PD_STATIC_ASSERT(sizeof(pd_hash_calc_attribute) == 16, "pd_hash_calc_attribute is 16 bytes");
+PD_STATIC_ASSERT(offsetof(pd_hash_calc_attribute, attr_type) == 4, "attr_type at 4");
+PD_STATIC_ASSERT(offsetof(pd_hash_calc_attribute, value) == 8, "value at 8");
+
+/* The library's own answer when the driver reports an input or algorithm
+ * handle that is not the calculation's, or when a caller names an input
+ * other than 0 while the calculation uses its own. */
+#define PD_STATUS_HASH_HANDLE_MISMATCH ((pd_status)3)
+
+/* ------------------------------------------------- parser value sets --- */
+
+/* Where a parser value set entry lives, passed by value: device, gress in the
+ * driver's numbering, pipe, and one parser id byte. */
+typedef struct pd_parser_target {
+  uint32_t device_id;
+  uint32_t gress;
+  uint32_t pipe_id;
+  uint8_t parser_id;
+  uint8_t padding[3];
+} pd_parser_target;
+
+PD_STATIC_ASSERT(sizeof(pd_parser_target) == 16, "pd_parser_target is 16 bytes");
+PD_STATIC_ASSERT(offsetof(pd_parser_target, gress) == 4, "gress at 4");
+PD_STATIC_ASSERT(offsetof(pd_parser_target, pipe_id) == 8, "pipe_id at 8");
+PD_STATIC_ASSERT(offsetof(pd_parser_target, parser_id) == 12, "parser_id at 12");
+
+/* ---------------------------------------------------------- snapshots --- */
+
+/* The library could not allocate what a call needs (a snapshot capture read). */
+#define PD_STATUS_NO_MEMORY ((pd_status)2)
+/* A snapshot capture read whose driver gives a record size below the
+ * program's snapshot record (0 included): its records cannot be placed. */
+#define PD_STATUS_SNAPSHOT_RECORD_SIZE ((pd_status)0x20)
+
 /* Opaque member-selection state of one action profile. */
 typedef struct pd_ms_state pd_ms_state;
 

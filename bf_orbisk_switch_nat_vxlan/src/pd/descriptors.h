@@ -156,6 +156,66 @@ const TableDesc *find_table(pd_tbl_hdl handle);
 // The profile whose action data table has this handle, or null, the same way.
 const ProfileDesc *find_profile(uint32_t adt_hdl);
 
+// ------------------------------------------------------------ services ---
+
+// A hash calculation: its handle, and the one input field list and the one
+// algorithm it has.
+struct HashCalcDesc {
+  const char *name;
+  uint32_t handle;
+  uint32_t input_hdl;
+  uint32_t algorithm_hdl;
+};
+
+// A parser value set.
+struct ValueSetDesc {
+  const char *name;
+  uint32_t handle;
+};
+
+// One field of a learning digest's entry: entries are packed, with no
+// padding, so a field may start at any byte.
+struct DigestFieldDesc {
+  const char *name;
+  uint16_t offset;
+  uint16_t bytes;
+};
+
+struct DigestDesc {
+  const char *name;
+  uint32_t handle;
+  uint16_t entry_bytes;
+  uint16_t num_fields;
+  const DigestFieldDesc *fields;  // in entry order
+};
+
+// One field of the snapshot record that is kept most significant byte first
+// by a caller and the other way round by the driver: 2 or 4 bytes at offset.
+struct SnapshotFieldDesc {
+  uint16_t offset;
+  uint16_t bytes;
+};
+
+struct SnapshotLayoutDesc {
+  uint16_t num_fields;
+  const SnapshotFieldDesc *fields;
+};
+
+extern const HashCalcDesc kHashCalcs[];
+extern const std::size_t kNumHashCalcs;
+extern const ValueSetDesc kValueSets[];
+extern const std::size_t kNumValueSets;
+extern const DigestDesc kDigests[];
+extern const std::size_t kNumDigests;
+// The snapshot record's layouts by bit 1 of a snapshot handle; its size is
+// P4_PD_ORBISK_SWITCH_SNAPSHOT_RECORD_BYTES of the public header.
+extern const SnapshotLayoutDesc kSnapshotLayouts[2];
+
+// The calculation, value set or digest with this handle, or null.
+const HashCalcDesc *find_hash_calc(uint32_t handle);
+const ValueSetDesc *find_value_set(uint32_t handle);
+const DigestDesc *find_digest(uint32_t handle);
+
 }  // namespace orbisk::pd
 
 #pragma GCC visibility pop

@@ -28,7 +28,7 @@ EXPORTED_OBJECTS = [o for g in GROUPS for o in getattr(g, "EXPORTED_OBJECTS", []
 
 
 # The families whose functions are not a table's.
-NOT_OF_TABLES = ("action", "profile", "profile_action", "program", "resource", "service")
+NOT_OF_TABLES = ("action", "profile", "profile_action", "program", "resource", "service", "item")
 
 
 def table_functions(t):
@@ -46,6 +46,29 @@ def documented_families():
                      key=lambda f: f.place)
     return (table + profile + [f for f in FAMILIES if f.each == "action"]
             + [f for f in FAMILIES if f.each in ("resource", "service")])
+
+
+def item_families():
+    """The families of the program's services with one function per hash
+    calculation, value set or digest (or one in all), in module order."""
+    return [f for f in FAMILIES if f.each == "item"]
+
+
+def item_sections(prog):
+    """(section title, [Fn]) of the item families, item by item within a
+    section, in the order the header declares them."""
+    out = []
+    for g in GROUPS:
+        fams = [f for f in g.FAMILIES if f.each == "item"]
+        for section in dict.fromkeys(f.section for f in fams):
+            per = [f.item_functions(prog) for f in fams if f.section == section and f.items]
+            # Item by item: every function of the first item, then the next;
+            # then the section's functions that are one in all.
+            fns = [p[i] for i in range(max((len(p) for p in per), default=0)) for p in per]
+            fns += [fn for f in fams if f.section == section and not f.items
+                    for fn in f.item_functions(prog)]
+            out.append((section, fns))
+    return out
 
 
 def profile_functions(p):
@@ -88,4 +111,6 @@ def all_functions(prog):
         fns += profile_functions(p)
     for a in prog.actions:
         fns += action_functions(a)
+    for _, ifns in item_sections(prog):
+        fns += ifns
     return fns

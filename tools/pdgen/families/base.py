@@ -85,10 +85,11 @@ class Fn:
         return any(n == name for _, n in self.args)
 
     def proto(self, indent="    "):
+        result = self.result + ("" if self.result.endswith("*") else " ")
         if not self.args:
-            return "%s %s(void)" % (self.result, self.name)
+            return "%s%s(void)" % (result, self.name)
         parts = ["%s%s%s" % (t, "" if t.endswith("*") else " ", n) for t, n in self.args]
-        return "%s %s(%s)" % (self.result, self.name, (",\n" + indent).join(
+        return "%s%s(%s)" % (result, self.name, (",\n" + indent).join(
             [parts[0]] + parts[1:]) if len(parts) > 1 else parts[0])
 
     def body(self):
@@ -188,3 +189,35 @@ class Family:
     def doc_line(self):
         """Name, arguments and what it does, for the header's family list."""
         return "%s(%s): %s" % (self.pattern(), ", ".join(x.doc for x in self.args), self.doc)
+
+
+class ItemFamily(Family):
+    """A family with one function for each item of one of the program's
+    services (a hash calculation, a value set, a digest), or one function in
+    all when `items` is None. The name format's {i} is the item's name; the
+    body gets the Fn, whose `item` is the item (None for a single function).
+
+    items    function of the Program giving the items, or None
+    label    how the documentation shows an item, e.g. "<h>"
+    section  the header section its declarations stand in
+    """
+
+    def __init__(self, id, name, args, doc, body, items=None, label="", section="",
+                 result="pd_status"):
+        super().__init__(id, name, args, doc, body, result=result, each="item")
+        self.items = items
+        self.label = label
+        self.section = section
+
+    def item_functions(self, prog):
+        out = []
+        for item in (self.items(prog) if self.items else [None]):
+            name = self.name.format(p=PREFIX, i=item.name if item else "")
+            args = [x for arg in self.args for x in arg.resolve(item, None)]
+            fn = Fn(name, self.result, args, self.id, kind=self)
+            fn.item = item
+            out.append(fn)
+        return out
+
+    def pattern(self):
+        return self.name.format(p="", i=self.label)
