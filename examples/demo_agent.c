@@ -17,8 +17,9 @@
  * and read back; and a route is balanced over an ECMP group of three next
  * hops: one is turned off and on, the group read back each time, and the
  * device's state is logged, removed and restored, the route still resolving
- * to the same group and members. It computes the ECMP hash of a flow, and
- * prints a MAC learning digest the driver delivers, then acknowledges it. A
+ * to the same group and members. It computes the ECMP hash of a flow and asks
+ * the group which member the hash selects, and prints a MAC learning digest
+ * the driver delivers, then acknowledges it. A
  * failed status ends the program at once, and any difference makes it end
  * with status 1; either is explained on stderr.
  *
@@ -441,7 +442,7 @@ static void show_ecmp(const struct ecmp *e, int off) {
  * device's member-selection state is logged, dropped as the driver drops it
  * when a device goes, and restored from the log, and the route still
  * resolves to the same group and members. */
-static void ecmp_route(void) {
+static void ecmp_route(struct ecmp *out) {
   struct ecmp e;
   build_ecmp(&e);
   show_ecmp(&e, -1);
@@ -475,6 +476,7 @@ static void ecmp_route(void) {
   must(p4_pd_orbisk_switch_ecmpGroup_modify_entry_with_selector(SESS, DEVICE, e.group_entry,
                                                                 e.grp),
        "ecmpGroup modify after restore");
+  *out = e;
 }
 
 /* ----------------------------------------------------------- ageing --- */
@@ -578,8 +580,9 @@ static void show_schemas(void) {
  * address, source and destination port, 104 bits back to back. The model
  * hashes with the algorithm the calculation uses, started from its seed; the
  * agent checks the value against the same algorithm run on the bytes the
- * flow makes. */
-static void ecmp_hash(void) {
+ * flow makes, then asks the route's ECMP group which of its members the
+ * hash selects. */
+static void ecmp_hash(const struct ecmp *e) {
   static const uint32_t widths[5] = {8, 32, 32, 16, 16};
   const pd_hash_calc_attribute flow[5] = {
       {0, 0, 6}, {1, 0, 0x0a000001u}, {2, 0, 0xc0a80001u}, {3, 0, 49152}, {4, 0, 443}};
@@ -601,6 +604,23 @@ static void ecmp_hash(void) {
   printf("ECMP hash of flow 10.0.0.1:49152 -> 192.168.0.1:443 (tcp), seed 0x%" PRIx64 "\n",
          seed);
   print_hex("hashOuterIpAndL4Hdr", value, 8);
+
+  pd_mbr_hdl chosen = 0;
+  must(p4_pd_orbisk_switch_ecmpMemberActionProfile_group_member_get_from_hash(
+           SESS, DEVICE, e->grp, hash, sizeof hash, &chosen),
+       "ECMP group member from hash");
+  int which = -1;
+  for (int i = 0; i < ECMP_MEMBERS; ++i) {
+    if (e->mbrs[i] == chosen) which = i;
+  }
+  if (which < 0) {
+    fprintf(stderr, "orbisk_demo: error: the hash selects 0x%08" PRIx32 ", no member of the group\n",
+            chosen);
+    ++g_failures;
+    return;
+  }
+  printf("the flow goes to member 0x%08" PRIx32 " of group 0x%08" PRIx32 ": next hop %d\n", chosen,
+         e->grp, 100 + which);
 }
 
 /* ---------------------------------------------------- MAC learning --- */
@@ -742,8 +762,9 @@ int main(void) {
 
   age_out_route();
   count_drops();
-  ecmp_route();
-  ecmp_hash();
+  struct ecmp ecmp;
+  ecmp_route(&ecmp);
+  ecmp_hash(&ecmp);
   learn_mac();
 
   must(p4_pd_orbisk_switch_cleanup(), "cleanup");
