@@ -19,9 +19,9 @@
  * device's state is logged, removed and restored, the route still resolving
  * to the same group and members. It computes the ECMP hash of a flow and asks
  * the group which member the hash selects, and prints a MAC learning digest
- * the driver delivers, then acknowledges it. A
- * failed status ends the program at once, and any difference makes it end
- * with status 1; either is explained on stderr.
+ * the driver delivers, then acknowledges it. A failed status ends the
+ * program at once, and any difference makes it end with status 1; either is
+ * explained on stderr.
  *
  * Only the library's interface is used, and the driver model's clock to let
  * time pass. The driver functions it calls come from whatever implements
