@@ -155,7 +155,7 @@ BENCH_OUT_OF_LINE pd_status reference_counter_read_l2DmacClassifyCount(
 }
 
 // The direct meter set written out by hand: one resource slot with the byte
-// meter's record, colour mode from the spec.
+// meter's record, colour mode from the caller's meter record.
 BENCH_OUT_OF_LINE pd_status reference_meter_set_stormControlMeter(pd_sess_hdl sess, uint32_t dev_id,
                                                                   pd_entry_hdl entry_hdl,
                                                                   const pd_meter_spec *spec) {
