@@ -50,17 +50,7 @@ pd_status wred_set(pd_sess_hdl sess, pd_dev_target target, pd_tbl_hdl tbl, uint3
 }
 
 uint32_t get_packets_meter_type(uint32_t meter_type, bool has_pre_color) {
-  if (meter_type > PD_METER_TYPE_COLOR_UNAWARE) {
-    pd_assert_failed("0", PD_ASSERT_FMT_ZERO, __func__, __LINE__);
-  }
-  if (meter_type == PD_METER_TYPE_COLOR_AWARE && !has_pre_color) {
-    pd_assert_failed("has_pre_color == 1",
-                     "ASSERTION FAILED: \"has_pre_color == 1\" (has_pre_color == true) from %s:%d",
-                     __func__, __LINE__);
-  }
-  if (!has_pre_color) return PD_METER_TYPE_COLOR_UNAWARE;
-  return meter_type == PD_METER_TYPE_COLOR_UNAWARE ? PD_METER_TYPE_COLOR_UNAWARE
-                                                   : PD_METER_TYPE_COLOR_AWARE;
+  return meter_type_for(meter_type, has_pre_color, __func__);
 }
 
 pd_status send_direct_meter_bad_type(pd_tbl_hdl tbl, uint32_t meter_hdl, pd_sess_hdl sess,

@@ -7,18 +7,22 @@
 
 namespace orbisk::pd {
 
-uint32_t get_bytes_meter_type(uint32_t meter_type, bool has_pre_color) {
+uint32_t meter_type_for(uint32_t meter_type, bool has_pre_color, const char *function) {
   if (meter_type > PD_METER_TYPE_COLOR_UNAWARE) {
-    pd_assert_failed("0", PD_ASSERT_FMT_ZERO, __func__, __LINE__);
+    pd_assert_failed("0", PD_ASSERT_FMT_ZERO, function, __LINE__);
   }
   if (meter_type == PD_METER_TYPE_COLOR_AWARE && !has_pre_color) {
     pd_assert_failed("has_pre_color == 1",
                      "ASSERTION FAILED: \"has_pre_color == 1\" (has_pre_color == true) from %s:%d",
-                     __func__, __LINE__);
+                     function, __LINE__);
   }
   if (!has_pre_color) return PD_METER_TYPE_COLOR_UNAWARE;
   return meter_type == PD_METER_TYPE_COLOR_UNAWARE ? PD_METER_TYPE_COLOR_UNAWARE
                                                    : PD_METER_TYPE_COLOR_AWARE;
+}
+
+uint32_t get_bytes_meter_type(uint32_t meter_type, bool has_pre_color) {
+  return meter_type_for(meter_type, has_pre_color, __func__);
 }
 
 void set_direct_meter_slot(pd_action_record &rec, uint32_t meter_hdl, const pd_meter_spec &spec) {

@@ -27,7 +27,11 @@ inline void set_slot(pd_action_record &rec, uint32_t resource_hdl, uint32_t tag,
 void set_direct_meter_slot(pd_action_record &rec, uint32_t meter_hdl,
                            const pd_meter_spec &spec);
 
-// Meter type of a byte meter as the driver wants it; logs a bad type.
+// The driver's meter type for a caller's, under the named function's soft
+// assertions: a type that is neither colour mode, or colour-aware without a
+// pre-colour, is logged (and ends the process in debug mode).
+uint32_t meter_type_for(uint32_t meter_type, bool has_pre_color, const char *function);
+// The same for a byte meter, reported as get_bytes_meter_type.
 uint32_t get_bytes_meter_type(uint32_t meter_type, bool has_pre_color);
 
 // List of attached resources of a record read back (tag 1 slots), allocated
