@@ -130,16 +130,8 @@ pd_status group_member_state_get(pd_tbl_hdl sel, pd_sess_hdl sess, uint32_t devi
 
 pd_status read_indirect_entry(const TableDesc &t, pd_sess_hdl sess, uint32_t device_id,
                               pd_entry_hdl entry_hdl, bool read_from_hw, const IndirectOut &out) {
-  uint8_t value[kMaxKeyBytes];
-  uint8_t mask[kMaxKeyBytes];
-  pd_match_record key;
-  zero_record(key);
-  std::memset(value, 0, t.key_bytes);
-  std::memset(mask, 0, t.key_bytes);
-  key.value_bytes = value;
-  key.mask_bytes = mask;
-  key.num_valid_bits = t.key_bits;
-  key.num_bytes = t.key_bytes;
+  KeyRoom room(t);
+  pd_match_record &key = room.rec;
   // An entry that names a member or group has no action data: no room is offered.
   pd_action_record act;
   zero_record(act);
@@ -152,15 +144,7 @@ pd_status read_indirect_entry(const TableDesc &t, pd_sess_hdl sess, uint32_t dev
   *out.has_grp = act.record_kind == PD_RECORD_KIND_GROUP_REF;
   if (*out.has_mbr) *out.mbr_hdl = act.member_hdl;
   if (*out.has_grp) *out.grp_hdl = act.group_hdl;
-  // A default entry comes back without a key.
-  *out.is_default = key.value_bytes == nullptr || key.num_bytes == 0;
-  if (*out.is_default) {
-    std::memset(out.match_spec, 0, t.match_spec_size);
-  } else {
-    unbuild_key(t, &key, out.match_spec);
-    if (t.ternary() || t.prefix()) unbuild_mask(t, &key, out.match_spec);
-  }
-  if (out.priority) *out.priority = key.priority;
+  unbuild_entry_key(t, key, out.match_spec, out.priority, out.is_default);
   return BF_SUCCESS;
 }
 

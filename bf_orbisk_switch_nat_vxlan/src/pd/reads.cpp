@@ -31,6 +31,30 @@ const TableActionDesc *find_action(const TableDesc &t, pd_act_fn_hdl fn) {
 
 }  // namespace
 
+KeyRoom::KeyRoom(const TableDesc &t) {
+  zero_record(rec);
+  if (t.key_bytes) {
+    std::memset(value, 0, t.key_bytes);
+    std::memset(mask, 0, t.key_bytes);
+    rec.value_bytes = value;
+    rec.mask_bytes = mask;
+    rec.num_valid_bits = t.key_bits;
+    rec.num_bytes = t.key_bytes;
+  }
+}
+
+void unbuild_entry_key(const TableDesc &t, const pd_match_record &key, void *match_spec,
+                       uint32_t *priority, bool *is_default) {
+  *is_default = key.value_bytes == nullptr || key.num_bytes == 0;
+  if (*is_default) {
+    std::memset(match_spec, 0, t.match_spec_size);
+  } else {
+    unbuild_key(t, &key, match_spec);
+    if (t.ternary() || t.prefix()) unbuild_mask(t, &key, match_spec);
+  }
+  if (priority) *priority = key.priority;
+}
+
 void unbuild_key(const TableDesc &t, const pd_match_record *key, void *match_spec) {
   auto *ms = static_cast<uint8_t *>(match_spec);
   std::memset(ms, 0, t.match_spec_size);
@@ -82,19 +106,9 @@ void unbuild_action_spec(const ActionDesc &a, const pd_action_record *act,
 pd_status read_entry(const TableDesc &t, const char *function, pd_sess_hdl sess,
                      uint32_t device_id, pd_entry_hdl entry_hdl, bool read_from_hw,
                      const EntryOut &out) {
-  uint8_t value[kMaxKeyBytes];
-  uint8_t mask[kMaxKeyBytes];
   uint8_t data[kReadActionDataBytes];
-  pd_match_record key;
-  zero_record(key);
-  if (t.key_bytes) {
-    std::memset(value, 0, t.key_bytes);
-    std::memset(mask, 0, t.key_bytes);
-    key.value_bytes = value;
-    key.mask_bytes = mask;
-    key.num_valid_bits = t.key_bits;
-    key.num_bytes = t.key_bytes;
-  }
+  KeyRoom room(t);
+  pd_match_record &key = room.rec;
   pd_action_record act;
   offer_read_room(act, data);
 
@@ -122,17 +136,7 @@ pd_status read_entry(const TableDesc &t, const char *function, pd_sess_hdl sess,
     status = PD_STATUS_UNEXPECTED_RECORD;
   }
 
-  if (out.match_spec) {
-    // A default entry comes back without a key.
-    *out.is_default = key.value_bytes == nullptr || key.num_bytes == 0;
-    if (*out.is_default) {
-      std::memset(out.match_spec, 0, t.match_spec_size);
-    } else {
-      unbuild_key(t, &key, out.match_spec);
-      if (t.ternary() || t.prefix()) unbuild_mask(t, &key, out.match_spec);
-    }
-    if (out.priority) *out.priority = key.priority;
-  }
+  if (out.match_spec) unbuild_entry_key(t, key, out.match_spec, out.priority, out.is_default);
   if (list) bf_sys_free(list);
   return status;
 }

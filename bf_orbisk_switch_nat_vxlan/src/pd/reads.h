@@ -6,6 +6,7 @@
 
 #include "descriptors.h"
 #include "orbisk_switch/pd.h"
+#include "pd_limits.h"
 
 namespace orbisk::pd {
 
@@ -25,6 +26,21 @@ struct EntryOut {
   p4_pd_orbisk_switch_action_names_t *action_enum;
   bool *is_default;
 };
+
+// A key record offering the driver room for one of the table's keys on a
+// read; a keyless table's has no strings.
+struct KeyRoom {
+  explicit KeyRoom(const TableDesc &t);
+  pd_match_record rec;
+  uint8_t value[kMaxKeyBytes];
+  uint8_t mask[kMaxKeyBytes];
+};
+
+// The key part of an entry read back: is_default (a default entry comes back
+// without a key, its match spec zeroed), else the match spec; the priority
+// when asked for.
+void unbuild_entry_key(const TableDesc &t, const pd_match_record &key, void *match_spec,
+                       uint32_t *priority, bool *is_default);
 
 // get_entry of a direct table, across all pipes. `function` is the exported
 // function's name, for the assertions.
