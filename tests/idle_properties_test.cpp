@@ -25,15 +25,8 @@ constexpr pd_idle_params kNotify = {PD_IDLE_MODE_NOTIFY, 0x1122334455667788u, 0x
 
 template <typename F>
 F sym(const TableDesc &t, const char *family) {
-  const std::string name = std::string("p4_pd_orbisk_switch_") + t.name + "_" + family;
-  void *p = dlsym(RTLD_DEFAULT, name.c_str());
-  EXPECT_NE(nullptr, p) << name;
-  return reinterpret_cast<F>(p);
+  return exported<F>(std::string(t.name) + "_" + family);
 }
-
-uint64_t addr(const void *p) { return uint64_t(reinterpret_cast<uintptr_t>(p)); }
-template <typename R, typename... A>
-uint64_t addr(R (*f)(A...)) { return uint64_t(reinterpret_cast<uintptr_t>(f)); }
 
 Args args_of(const char *function) { return last(function).args; }
 Args first4(const char *function) {

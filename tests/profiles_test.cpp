@@ -26,16 +26,12 @@ constexpr pd_status kArmed = 0x5A;
 
 template <typename F>
 F sym(const std::string &name) {
-  void *p = dlsym(RTLD_DEFAULT, ("p4_pd_orbisk_switch_" + name).c_str());
-  EXPECT_NE(nullptr, p) << name;
-  return reinterpret_cast<F>(p);
+  return exported<F>(name);
 }
 template <typename F>
 F sym(const ProfileDesc &p, const std::string &family) {
-  return sym<F>(std::string(p.name) + "_" + family);
+  return exported<F>(std::string(p.name) + "_" + family);
 }
-
-uint64_t addr(const void *p) { return uint64_t(reinterpret_cast<uintptr_t>(p)); }
 
 // The driver and state functions called since the call log held `mark` calls.
 Names calls_since(size_t mark) {

@@ -24,25 +24,7 @@ constexpr pd_dev_target kAll = {kDev, PD_DEV_PIPE_ALL};
 
 template <typename F>
 F sym(const char *family, const ResourceDesc &r) {
-  const std::string name = std::string("p4_pd_orbisk_switch_") + family + r.name;
-  void *p = dlsym(RTLD_DEFAULT, name.c_str());
-  EXPECT_NE(nullptr, p) << name;
-  return reinterpret_cast<F>(p);
-}
-
-uint64_t addr(const void *p) { return uint64_t(reinterpret_cast<uintptr_t>(p)); }
-
-// A record the latest call of `function` passed, as the model copied it.
-Bytes record_of(const char *function, const char *name) {
-  for (size_t i = orbisk_model_call_count(); i-- > 0;) {
-    const orbisk_model_call *c = orbisk_model_call_at(i);
-    if (std::strcmp(c->function, function) != 0) continue;
-    size_t n = 0;
-    const uint8_t *p = orbisk_model_call_bytes(c, name, &n);
-    return p ? Bytes(p, p + n) : Bytes{};
-  }
-  ADD_FAILURE() << "no call of " << function;
-  return {};
+  return exported<F>(std::string(family) + r.name);
 }
 
 template <typename T>
@@ -125,7 +107,7 @@ TEST_F(ResourceSweep, EveryCounterSwapsItsRecordSyncsOnBitZeroAndLeavesTheCaller
     EXPECT_EQ((Args{sess, where, h}), Args(q.begin(), q.begin() + 3));
     if (!r.direct) {
       EXPECT_EQ(1u, q[4]);  // an array of exactly one index
-      EXPECT_EQ(bytes(cell), record_of(query, "indices"));
+      EXPECT_EQ(bytes(cell), handed(query, "indices"));
     } else {
       EXPECT_EQ(uint64_t(cell), q[3]);
     }
@@ -134,7 +116,7 @@ TEST_F(ResourceSweep, EveryCounterSwapsItsRecordSyncsOnBitZeroAndLeavesTheCaller
     const pd_counter_value one_two{1, 2};
     ASSERT_EQ(BF_SUCCESS, r.direct ? sym<WriteD>("counter_write_", r)(sess, kDev, cell, one_two)
                                    : sym<WriteI>("counter_write_", r)(sess, kAll, cell, one_two));
-    EXPECT_EQ(bytes(pd_counter_record{2, 1}), record_of(set, "counter"));
+    EXPECT_EQ(bytes(pd_counter_record{2, 1}), handed(set, "counter"));
     ASSERT_EQ(BF_SUCCESS, read(0, &v));
     EXPECT_EQ(1u, v.packets);
     EXPECT_EQ(2u, v.bytes);
@@ -201,7 +183,7 @@ TEST_F(ResourceSweep, EveryMeterSendsItsUnitAndTypeAndReadsBackAsSet) {
       // The entry's resource slot, by the match table, with the meter's handle in it.
       EXPECT_EQ((Args{sess, kDev, r.table_hdl, cell, last("pipe_mgr_mat_ent_set_resource").args[4], 1, 0}),
                 last("pipe_mgr_mat_ent_set_resource").args);
-      const Bytes slot = record_of("pipe_mgr_mat_ent_set_resource", "resources");
+      const Bytes slot = handed("pipe_mgr_mat_ent_set_resource", "resources");
       ASSERT_EQ(sizeof(pd_resource_record), slot.size());
       EXPECT_EQ(r.handle, w32(slot, 0));
       EXPECT_EQ(PD_RESOURCE_TAG_ATTACHED, w32(slot, 64));
@@ -210,7 +192,7 @@ TEST_F(ResourceSweep, EveryMeterSendsItsUnitAndTypeAndReadsBackAsSet) {
       EXPECT_EQ((Args{sess, target_word(kDev, PD_DEV_PIPE_ALL), r.handle, cell,
                       last("pipe_mgr_meter_ent_set").args[4], 0}),
                 last("pipe_mgr_meter_ent_set").args);
-      EXPECT_EQ(bytes(sent), record_of("pipe_mgr_meter_ent_set", "meter"));
+      EXPECT_EQ(bytes(sent), handed("pipe_mgr_meter_ent_set", "meter"));
     }
     pd_meter_spec back{};
     ASSERT_EQ(BF_SUCCESS, read(&back));
@@ -265,7 +247,7 @@ TEST_F(ResourceSweep, EveryRegisterReadsAValuePerPipeWritesOneBitAndFreesWhatItT
 
     // 0x80 on pipe 2 is a 1 there alone; a read of all pipes gives one byte each.
     ASSERT_EQ(BF_SUCCESS, sym<Write>("register_write_", r)(sess, {kDev, 2}, 7, &x80));
-    EXPECT_EQ(1, record_of("pipe_stful_ent_set", "element").at(0));
+    EXPECT_EQ(1, handed("pipe_stful_ent_set", "element").at(0));
     EXPECT_EQ(0u, last("pipe_stful_ent_set").args[5]);
     uint8_t values[8];
     std::memset(values, 0xEE, sizeof values);
@@ -344,12 +326,12 @@ TEST_F(Generic, MeterWredAndRegisterCallsPassTheCallersHandleAndRecords) {
   sent.cburst = 20;
   sent.pir = 30;
   sent.pburst = 40;
-  EXPECT_EQ(bytes(sent), record_of("pipe_mgr_meter_ent_set", "meter"));
+  EXPECT_EQ(bytes(sent), handed("pipe_mgr_meter_ent_set", "meter"));
   s.meter_type = PD_METER_TYPE_COLOR_AWARE;
   ASSERT_EQ(BF_SUCCESS, p4_pd_orbisk_switch_packets_meter_set(sess, kAll, pdp, 3, &s, true));
   sent.meter_type = 0;
   sent.cir_unit = sent.pir_unit = 1;
-  EXPECT_EQ(bytes(sent), record_of("pipe_mgr_meter_ent_set", "meter"));
+  EXPECT_EQ(bytes(sent), handed("pipe_mgr_meter_ent_set", "meter"));
   EXPECT_EQ(0u, orbisk_model_log_count());
 
   // A rate the driver holds above 32 bits reads back cut; the type as the driver has it.
@@ -364,7 +346,7 @@ TEST_F(Generic, MeterWredAndRegisterCallsPassTheCallersHandleAndRecords) {
 
   const pd_wred_spec w{0.5f, 10, 20, 0.25f};
   EXPECT_EQ(ORBISK_MODEL_NO_SUCH_RESOURCE, p4_pd_orbisk_switch_wred_set(sess, kAll, 0x77, 1, &w));
-  EXPECT_EQ(bytes(w), record_of("pipe_mgr_wred_ent_set", "wred"));
+  EXPECT_EQ(bytes(w), handed("pipe_mgr_wred_ent_set", "wred"));
   const Args wa = last("pipe_mgr_wred_ent_set").args;
   EXPECT_EQ((Args{sess, target_word(kDev, PD_DEV_PIPE_ALL), 0x77, 1, wa.at(4), 0}), wa);
 
@@ -374,7 +356,7 @@ TEST_F(Generic, MeterWredAndRegisterCallsPassTheCallersHandleAndRecords) {
   e.bytes[15] = 0xAB;
   EXPECT_EQ(ORBISK_MODEL_NO_SUCH_TABLE, p4_pd_orbisk_switch_register_write_direct(sess, 256, 0x06000001, 5, &e));
   EXPECT_EQ(0u, last("pipe_mgr_mat_ent_set_resource").args[1]);
-  const Bytes slot = record_of("pipe_mgr_mat_ent_set_resource", "resources");
+  const Bytes slot = handed("pipe_mgr_mat_ent_set_resource", "resources");
   EXPECT_EQ(0x06000001u, w32(slot, 0));
   EXPECT_EQ(bytes(e), Bytes(slot.begin() + 8, slot.begin() + 24));
   EXPECT_EQ(Bytes(40, 0), Bytes(slot.begin() + 24, slot.begin() + 64));

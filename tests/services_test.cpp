@@ -21,32 +21,11 @@ using Args = std::vector<uint64_t>;
 constexpr uint32_t kDev = 6;
 constexpr pd_status kArmed = 0x5B;
 
-template <typename F>
-F sym(const std::string &name) {
-  void *p = dlsym(RTLD_DEFAULT, ("p4_pd_orbisk_switch_" + name).c_str());
-  EXPECT_NE(nullptr, p) << name;
-  return reinterpret_cast<F>(p);
-}
-
-uint64_t addr(const void *p) { return uint64_t(reinterpret_cast<uintptr_t>(p)); }
 
 // The first n arguments of the latest call of a function.
 Args head(const char *function, size_t n) {
   const Args a = last(function).args;
   return Args(a.begin(), a.begin() + std::min(n, a.size()));
-}
-
-// The named copy the latest call of a function was handed.
-Bytes handed(const char *function, const char *name) {
-  for (size_t i = orbisk_model_call_count(); i-- > 0;) {
-    const orbisk_model_call *c = orbisk_model_call_at(i);
-    if (std::strcmp(c->function, function) != 0) continue;
-    size_t n = 0;
-    const uint8_t *p = orbisk_model_call_bytes(c, name, &n);
-    return p ? Bytes(p, p + n) : Bytes{};
-  }
-  ADD_FAILURE() << "no call of " << function;
-  return {};
 }
 
 // ------------------------------------------------------ hash calculations ---
@@ -65,7 +44,7 @@ using Calculate = pd_status (*)(pd_sess_hdl, uint32_t, uint32_t, const pd_hash_c
 
 template <typename F>
 F hash_fn(const HashCalcDesc &h, const char *op) {
-  return sym<F>(std::string("hash_calc_") + h.name + "_" + op);
+  return exported<F>(std::string("hash_calc_") + h.name + "_" + op);
 }
 
 // The stream calculate_hash_value hands the driver for these fields.
@@ -266,7 +245,7 @@ using orbisk::pd::ValueSetDesc;
 
 template <typename F>
 F pvs_fn(const ValueSetDesc &v, const char *op) {
-  return sym<F>(std::string("pvs_") + v.name + "_" + op);
+  return exported<F>(std::string("pvs_") + v.name + "_" + op);
 }
 
 using ValueSets = OnModel;

@@ -52,3 +52,15 @@ size_t calls_of(const char *function) {
   if (line.starts_with(prefix)) return ::testing::AssertionSuccess();
   return ::testing::AssertionFailure() << "logged: " << line;
 }
+
+Bytes handed(const char *function, const char *name) {
+  for (size_t i = orbisk_model_call_count(); i-- > 0;) {
+    const orbisk_model_call *c = orbisk_model_call_at(i);
+    if (std::strcmp(c->function, function) != 0) continue;
+    size_t n = 0;
+    const uint8_t *p = orbisk_model_call_bytes(c, name, &n);
+    return p ? Bytes(p, p + n) : Bytes{};
+  }
+  ADD_FAILURE() << "no call of " << function;
+  return {};
+}

@@ -2,6 +2,7 @@
 // driver model keeps a deep copy of every record passed to it.
 #pragma once
 
+#include <dlfcn.h>
 #include <gtest/gtest.h>
 
 #include <cstdint>
@@ -71,3 +72,23 @@ class OnModel : public ::testing::Test {
   static constexpr pd_sess_hdl sess = 3;
   static constexpr pd_dev_target tgt = {0, PD_DEV_PIPE_ALL};
 };
+
+// A pointer (or any function's address) as the call log keeps an argument.
+inline uint64_t addr(const void *p) { return uint64_t(reinterpret_cast<uintptr_t>(p)); }
+template <typename R, typename... A>
+uint64_t addr(R (*f)(A...)) {
+  return uint64_t(reinterpret_cast<uintptr_t>(f));
+}
+
+// The named copy of a record (e.g. "key.value") that the latest call of a
+// driver function was handed; empty, and a failure, when there is no call.
+Bytes handed(const char *function, const char *name);
+
+// The library's exported function p4_pd_orbisk_switch_<name>, found by name
+// as an agent's loader would; a failure when it is not exported.
+template <typename F>
+F exported(const std::string &name) {
+  void *p = dlsym(RTLD_DEFAULT, ("p4_pd_orbisk_switch_" + name).c_str());
+  EXPECT_NE(nullptr, p) << name;
+  return reinterpret_cast<F>(p);
+}
