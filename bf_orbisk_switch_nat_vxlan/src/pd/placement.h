@@ -1,0 +1,47 @@
+// Placement data: the opaque record the driver keeps for what it placed on
+// the chip (a match entry, an action data entry, a selector entry), fetched
+// through the driver and turned back into host records here. The library
+// never looks inside a placement record: the driver decodes it into the same
+// driver-facing records a write sends, and these decoders turn those into
+// the host records of the table or profile.
+//
+// Value text, comparison with hardware and the printers build on these, so
+// each is one loop over descriptors, written once.
+#pragma once
+
+#include <cstdint>
+
+#include "descriptors.h"
+#include "orbisk_switch/pd.h"
+
+#pragma GCC visibility push(hidden)
+
+namespace orbisk::pd {
+
+// Where a match entry's decoding puts what it found. A null member is not
+// asked for: match_spec is null on a keyless table, priority is null unless
+// the table's entries take a priority. The selector members are used only
+// for a table reached through a selector, action only for any other.
+struct PlacementOut {
+  void *match_spec;
+  uint32_t *priority;
+  p4_pd_orbisk_switch_action_specs_t *action;
+  pd_mbr_hdl *mbr_hdl;
+  pd_grp_hdl *grp_hdl;
+  bool *has_mbr;
+  bool *has_grp;
+  bool *is_default;
+};
+
+// get_entry_from_plcmt_data of any table. `function` names the exported
+// function for the unknown-action assertion.
+pd_status decode_entry(const TableDesc &t, const char *function, const void *plcmt_data,
+                       const PlacementOut &out);
+
+// get_member_from_plcmt_data of a profile.
+pd_status decode_member(const ProfileDesc &p, const char *function, const void *plcmt_data,
+                        p4_pd_orbisk_switch_action_specs_t *out);
+
+}  // namespace orbisk::pd
+
+#pragma GCC visibility pop
