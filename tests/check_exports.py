@@ -85,6 +85,17 @@ def main(lib, root):
     for p in program["profiles"]:
         add("profile_schema", "%s%s_schema" % (P, p["name"]))
     add("cli_schema", P + "cli_schema")
+    # Value text and comparison.
+    for t in tables:
+        add("table_value", "%s%s_value" % (P, t["name"]))
+        if t.get("fields"):
+            add("match_spec_value", "%s%s_match_spec_value" % (P, t["name"]))
+            add("match_specs_are_equal", "%s%s_match_specs_are_equal" % (P, t["name"]))
+    for a, ps in params.items():
+        add("action_value", "%s%s_value" % (P, a))
+        if ps:
+            add("action_specs_are_equal", "%s%s_action_specs_are_equal" % (P, a))
+    add("value_dispatch", P + "entry_value")
     for p in program["profiles"]:
         for a in p["actions"]:
             add("add_member", "%s%s_add_member_with_%s" % (P, p["name"], a["name"]))
@@ -161,6 +172,8 @@ def main(lib, root):
              "counter": 51, "meter": 16, "meter_generic": 5, "register": 28, "register_generic": 9,
              "add_member": 15, "modify_member": 15, "members": 42, "groups": 126,
              "indirect": 48, "indirect_get_entry": 6,
+             "table_value": 154, "match_spec_value": 136, "action_value": 296,
+             "match_specs_are_equal": 136, "action_specs_are_equal": 150, "value_dispatch": 1,
              "hash_calc": 120, "pvs": 70, "digest": 9, "snapshot": 4}
     failed = False
     for k, v in known.items():
