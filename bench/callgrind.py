@@ -28,8 +28,8 @@ PAIRS = [("l2Lookup_add", "l2Lookup_add_reference"),
          ("counter_read_l2DmacClassifyCount", "counter_read_l2DmacClassifyCount_reference"),
          ("meter_set_stormControlMeter", "meter_set_stormControlMeter_reference")]
 FLOOR = "driver_call_only"
-# Kinds of case that must not allocate: write paths, schema text, counter and
-# meter calls.
+# Kinds of case that must not allocate: write paths, schema and value text,
+# comparison with hardware, counter and meter calls.
 NO_ALLOCATION = ("write", "text", "resource")
 
 
