@@ -36,8 +36,6 @@ constexpr std::size_t kSlot = sizeof(pd_resource_record);
 // Where each kind's variable part starts.
 constexpr std::size_t kMatchFixed = 60;
 constexpr std::size_t kMemberFixed = 36;
-constexpr std::size_t kGroupFixed = 36;
-constexpr std::size_t kGroupMember = 5;
 // Flags of a match entry record.
 constexpr uint8_t kFlagDefault = 1;
 
