@@ -112,8 +112,19 @@
  *  <t>_<f>_width(): the key field's width in bits.
  *  <t>_supports_entry_priority(): 1 when the table's key has a mask field,
  *      else 0.
+ *  <t>_get_plcmt_data(sess, target, table handle (ignored), entry handle,
+ *      placement data, in room, out length): fetches an entry's placement
+ *      data from the driver, with the table's own handle; *size is the room
+ *      going in and the record's length coming out.
  *  <t>_match_spec_value(match spec, out text): writes the key as value text,
  *      "( " each number "),", and a NUL; its length.
+ *  <t>_get_entry_from_plcmt_data(placement data, [out match spec], [out
+ *      priority], [out action], [out member handle], [out group handle], [out
+ *      has-member], [out has-group], out is-default): decodes placement data
+ *      into the entry's key, priority and action (or, reached through a
+ *      selector, the member or group it names; flags untouched for neither).
+ *      A keyless table says is-default for every record; 3 for an action not
+ *      the table's.
  *  <t>_value(sess, device id, entry handle, read from hardware, out text):
  *      reads an entry and writes it as value text: ((key, action), (priority,
  *      True)); its length, or 0 and out untouched when the read fails.
@@ -195,6 +206,19 @@
  *  <r>_register_sel_update_cb(sess, device id, update callback, cookie): the
  *      callback told of each group made or deleted and each member added or
  *      removed.
+ *  <r>_get_plcmt_data(sess, target, table handle (ignored), member handle,
+ *      placement data, in room, out length): fetches a member's placement
+ *      data, with the action data table's handle.
+ *  <r>_sel_get_plcmt_data(sess, target, table handle (ignored), group handle,
+ *      placement data, in room, out length): fetches a group's placement
+ *      data, with the selector table's handle; it has no decoder.
+ *  <r>_get_member_from_plcmt_data(placement data, out action): decodes a
+ *      member's placement data into its action; the driver's status, even
+ *      after the action is filled; 15 for an action not the profile's.
+ *  <r>_get_full_member_info_from_plcmt_data(device id, member handle,
+ *      placement data, out action): the same, asking the member-selection
+ *      state for the member's resources first (an action with parameters);
+ *      what it answers is not used.
  *  <a>_action_specs_are_equal(pd action spec, hw action spec, out message): 1
  *      when every parameter agrees in its width; else 0 and "aspec
  *      action_<parameter> differs ..." for the first that does not.
@@ -660,6 +684,12 @@ typedef enum p4_pd_orbisk_switch_action_names {
 
 /* Room for any full action name and its final zero. */
 #define P4_PD_ORBISK_SWITCH_ACTION_NAME_MAX 61
+
+/* The longest key string (value or mask) and the longest action data the
+ * program passes to the driver, in bytes: what a driver sizes its own
+ * records of the program's entries by (placement data among them). */
+#define P4_PD_ORBISK_SWITCH_MAX_KEY_BYTES 51
+#define P4_PD_ORBISK_SWITCH_MAX_ACTION_DATA_BYTES 20
 
 /* Room for any text a <t>_schema, <r>_schema or cli_schema writes, its
  * final zero included. */
@@ -1762,8 +1792,18 @@ const char *p4_pd_orbisk_switch_ingressPortMapping_match_spec_schema(void);
 int p4_pd_orbisk_switch_ingressPortMapping_schema(char *out);
 int p4_pd_orbisk_switch_ingressPortMapping_ig_intr_md_ingress_port_width(void);
 int p4_pd_orbisk_switch_ingressPortMapping_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ingressPortMapping_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_ingressPortMapping_match_spec_value(const p4_pd_orbisk_switch_ingressPortMapping_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_ingressPortMapping_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ingressPortMapping_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_ingressPortMapping_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -1909,8 +1949,19 @@ int p4_pd_orbisk_switch_l2DomainLookup_phase0_ingVPort_width(void);
 int p4_pd_orbisk_switch_l2DomainLookup_vlanHdr_0__width(void);
 int p4_pd_orbisk_switch_l2DomainLookup_vlanHdr_0__vlanId_width(void);
 int p4_pd_orbisk_switch_l2DomainLookup_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_l2DomainLookup_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_l2DomainLookup_match_spec_value(const p4_pd_orbisk_switch_l2DomainLookup_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_l2DomainLookup_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_l2DomainLookup_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_l2DomainLookup_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -2012,8 +2063,18 @@ int p4_pd_orbisk_switch_taggedXlatePktToL3_schema(char *out);
 int p4_pd_orbisk_switch_taggedXlatePktToL3_phase0_ingVPort_width(void);
 int p4_pd_orbisk_switch_taggedXlatePktToL3_vlanHdr_0__vlanId_width(void);
 int p4_pd_orbisk_switch_taggedXlatePktToL3_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_taggedXlatePktToL3_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_taggedXlatePktToL3_match_spec_value(const p4_pd_orbisk_switch_taggedXlatePktToL3_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_taggedXlatePktToL3_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_taggedXlatePktToL3_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_taggedXlatePktToL3_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -2113,8 +2174,18 @@ const char *p4_pd_orbisk_switch_taggedPktToL3_match_spec_schema(void);
 int p4_pd_orbisk_switch_taggedPktToL3_schema(char *out);
 int p4_pd_orbisk_switch_taggedPktToL3_vlanHdr_0__vlanId_width(void);
 int p4_pd_orbisk_switch_taggedPktToL3_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_taggedPktToL3_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_taggedPktToL3_match_spec_value(const p4_pd_orbisk_switch_taggedPktToL3_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_taggedPktToL3_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_taggedPktToL3_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_taggedPktToL3_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -2214,8 +2285,18 @@ const char *p4_pd_orbisk_switch_untaggedPktToL3_match_spec_schema(void);
 int p4_pd_orbisk_switch_untaggedPktToL3_schema(char *out);
 int p4_pd_orbisk_switch_untaggedPktToL3_phase0_nativeAintf_width(void);
 int p4_pd_orbisk_switch_untaggedPktToL3_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_untaggedPktToL3_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_untaggedPktToL3_match_spec_value(const p4_pd_orbisk_switch_untaggedPktToL3_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_untaggedPktToL3_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_untaggedPktToL3_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_untaggedPktToL3_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -2273,6 +2354,15 @@ pd_status p4_pd_orbisk_switch_ingStpCheck_register_mat_update_cb(pd_sess_hdl ses
     void *cookie);
 int p4_pd_orbisk_switch_ingStpCheck_schema(char *out);
 int p4_pd_orbisk_switch_ingStpCheck_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ingStpCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_ingStpCheck_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_ingStpCheck_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -2327,6 +2417,15 @@ pd_status p4_pd_orbisk_switch_ingVlanCheck_register_mat_update_cb(pd_sess_hdl se
     void *cookie);
 int p4_pd_orbisk_switch_ingVlanCheck_schema(char *out);
 int p4_pd_orbisk_switch_ingVlanCheck_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ingVlanCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_ingVlanCheck_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_ingVlanCheck_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -2414,8 +2513,18 @@ const char *p4_pd_orbisk_switch_vlanProperties_match_spec_schema(void);
 int p4_pd_orbisk_switch_vlanProperties_schema(char *out);
 int p4_pd_orbisk_switch_vlanProperties_ingMd_ingL2Domain_width(void);
 int p4_pd_orbisk_switch_vlanProperties_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_vlanProperties_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_vlanProperties_match_spec_value(const p4_pd_orbisk_switch_vlanProperties_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_vlanProperties_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_vlanProperties_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_vlanProperties_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -2536,8 +2645,19 @@ int p4_pd_orbisk_switch_ingressPortDropCheck_ingMd_illegalDmac_width(void);
 int p4_pd_orbisk_switch_ingressPortDropCheck_parserMd_outerHdrFlags_width(void);
 int p4_pd_orbisk_switch_ingressPortDropCheck_parserMd_checksumErr_width(void);
 int p4_pd_orbisk_switch_ingressPortDropCheck_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ingressPortDropCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_value(const p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_ingressPortDropCheck_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_ingressPortDropCheck_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -2626,8 +2746,18 @@ int p4_pd_orbisk_switch_ingL2DomainCount_schema(char *out);
 int p4_pd_orbisk_switch_ingL2DomainCount_egrMd_decapType_width(void);
 int p4_pd_orbisk_switch_ingL2DomainCount_ingMd_ingL3Aintf_width(void);
 int p4_pd_orbisk_switch_ingL2DomainCount_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ingL2DomainCount_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_ingL2DomainCount_match_spec_value(const p4_pd_orbisk_switch_ingL2DomainCount_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_ingL2DomainCount_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ingL2DomainCount_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_ingL2DomainCount_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -2716,8 +2846,18 @@ int p4_pd_orbisk_switch_egrL2DomainCount_schema(char *out);
 int p4_pd_orbisk_switch_egrL2DomainCount_egrMd_decapType_width(void);
 int p4_pd_orbisk_switch_egrL2DomainCount_egrMd_egrL2Domain_width(void);
 int p4_pd_orbisk_switch_egrL2DomainCount_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_egrL2DomainCount_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_egrL2DomainCount_match_spec_value(const p4_pd_orbisk_switch_egrL2DomainCount_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_egrL2DomainCount_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_egrL2DomainCount_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_egrL2DomainCount_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -2832,8 +2972,18 @@ int p4_pd_orbisk_switch_egressVlanXlate_schema(char *out);
 int p4_pd_orbisk_switch_egressVlanXlate_eg_intr_md_egress_port_width(void);
 int p4_pd_orbisk_switch_egressVlanXlate_egrMd_egrL2Domain_width(void);
 int p4_pd_orbisk_switch_egressVlanXlate_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_egressVlanXlate_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_egressVlanXlate_match_spec_value(const p4_pd_orbisk_switch_egressVlanXlate_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_egressVlanXlate_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_egressVlanXlate_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_egressVlanXlate_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -2891,6 +3041,15 @@ pd_status p4_pd_orbisk_switch_egrStpCheck_register_mat_update_cb(pd_sess_hdl ses
     void *cookie);
 int p4_pd_orbisk_switch_egrStpCheck_schema(char *out);
 int p4_pd_orbisk_switch_egrStpCheck_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_egrStpCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_egrStpCheck_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_egrStpCheck_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -2945,6 +3104,15 @@ pd_status p4_pd_orbisk_switch_egrVlanCheck_register_mat_update_cb(pd_sess_hdl se
     void *cookie);
 int p4_pd_orbisk_switch_egrVlanCheck_schema(char *out);
 int p4_pd_orbisk_switch_egrVlanCheck_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_egrVlanCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_egrVlanCheck_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_egrVlanCheck_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -3042,8 +3210,18 @@ int p4_pd_orbisk_switch_vlanEncap_egrMd_vlanId_width(void);
 int p4_pd_orbisk_switch_vlanEncap_eg_intr_md_egress_port_width(void);
 int p4_pd_orbisk_switch_vlanEncap_egrMd_subIntf_width(void);
 int p4_pd_orbisk_switch_vlanEncap_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_vlanEncap_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_vlanEncap_match_spec_value(const p4_pd_orbisk_switch_vlanEncap_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_vlanEncap_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_vlanEncap_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_vlanEncap_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -3101,6 +3279,15 @@ pd_status p4_pd_orbisk_switch_vlanDecap_register_mat_update_cb(pd_sess_hdl sess_
     void *cookie);
 int p4_pd_orbisk_switch_vlanDecap_schema(char *out);
 int p4_pd_orbisk_switch_vlanDecap_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_vlanDecap_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_vlanDecap_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_vlanDecap_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -3155,6 +3342,15 @@ pd_status p4_pd_orbisk_switch_copyOverlayL2Domain_register_mat_update_cb(pd_sess
     void *cookie);
 int p4_pd_orbisk_switch_copyOverlayL2Domain_schema(char *out);
 int p4_pd_orbisk_switch_copyOverlayL2Domain_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_copyOverlayL2Domain_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_copyOverlayL2Domain_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_copyOverlayL2Domain_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -3255,8 +3451,18 @@ const char *p4_pd_orbisk_switch_srcIntfToOvoIntf_match_spec_schema(void);
 int p4_pd_orbisk_switch_srcIntfToOvoIntf_schema(char *out);
 int p4_pd_orbisk_switch_srcIntfToOvoIntf_egrMd_ingressPort_width(void);
 int p4_pd_orbisk_switch_srcIntfToOvoIntf_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_srcIntfToOvoIntf_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_srcIntfToOvoIntf_match_spec_value(const p4_pd_orbisk_switch_srcIntfToOvoIntf_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_srcIntfToOvoIntf_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_srcIntfToOvoIntf_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_srcIntfToOvoIntf_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -3397,8 +3603,18 @@ int p4_pd_orbisk_switch_egrIntfToOvoIntf_schema(char *out);
 int p4_pd_orbisk_switch_egrIntfToOvoIntf_egrMd_egrAintfType_width(void);
 int p4_pd_orbisk_switch_egrIntfToOvoIntf_egrMd_egrAintfPort_width(void);
 int p4_pd_orbisk_switch_egrIntfToOvoIntf_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_egrIntfToOvoIntf_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_egrIntfToOvoIntf_match_spec_value(const p4_pd_orbisk_switch_egrIntfToOvoIntf_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_egrIntfToOvoIntf_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_egrIntfToOvoIntf_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_egrIntfToOvoIntf_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -3538,8 +3754,19 @@ int p4_pd_orbisk_switch_ovoIntfToPhysical_orbiskCpuHdr_lane_width(void);
 int p4_pd_orbisk_switch_ovoIntfToPhysical_orbiskCpuHdr_portChannel_width(void);
 int p4_pd_orbisk_switch_ovoIntfToPhysical_egrMd_decapType_width(void);
 int p4_pd_orbisk_switch_ovoIntfToPhysical_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ovoIntfToPhysical_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_ovoIntfToPhysical_match_spec_value(const p4_pd_orbisk_switch_ovoIntfToPhysical_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_ovoIntfToPhysical_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ovoIntfToPhysical_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_ovoIntfToPhysical_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -3669,8 +3896,19 @@ int p4_pd_orbisk_switch_egressPortDropCheck_outerIpv4Hdr_width(void);
 int p4_pd_orbisk_switch_egressPortDropCheck_egrMd_routed_width(void);
 int p4_pd_orbisk_switch_egressPortDropCheck_pktGen_width(void);
 int p4_pd_orbisk_switch_egressPortDropCheck_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_egressPortDropCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_egressPortDropCheck_match_spec_value(const p4_pd_orbisk_switch_egressPortDropCheck_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_egressPortDropCheck_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_egressPortDropCheck_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_egressPortDropCheck_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -3769,8 +4007,18 @@ int p4_pd_orbisk_switch_egressSamePortBridgingTest_schema(char *out);
 int p4_pd_orbisk_switch_egressSamePortBridgingTest_egrMd_ingressPortType_width(void);
 int p4_pd_orbisk_switch_egressSamePortBridgingTest_eg_intr_md_egress_port_width(void);
 int p4_pd_orbisk_switch_egressSamePortBridgingTest_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_egressSamePortBridgingTest_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_egressSamePortBridgingTest_match_spec_value(const p4_pd_orbisk_switch_egressSamePortBridgingTest_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_egressSamePortBridgingTest_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_egressSamePortBridgingTest_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_egressSamePortBridgingTest_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -3828,6 +4076,15 @@ pd_status p4_pd_orbisk_switch_samePortBridgingTest_register_mat_update_cb(pd_ses
     void *cookie);
 int p4_pd_orbisk_switch_samePortBridgingTest_schema(char *out);
 int p4_pd_orbisk_switch_samePortBridgingTest_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_samePortBridgingTest_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_samePortBridgingTest_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_samePortBridgingTest_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -3921,8 +4178,18 @@ const char *p4_pd_orbisk_switch_mlagUcastPrune_match_spec_schema(void);
 int p4_pd_orbisk_switch_mlagUcastPrune_schema(char *out);
 int p4_pd_orbisk_switch_mlagUcastPrune_egrMd_egrL2AintfUnresolved_width(void);
 int p4_pd_orbisk_switch_mlagUcastPrune_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_mlagUcastPrune_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_mlagUcastPrune_match_spec_value(const p4_pd_orbisk_switch_mlagUcastPrune_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_mlagUcastPrune_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_mlagUcastPrune_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_mlagUcastPrune_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -4116,8 +4383,19 @@ int p4_pd_orbisk_switch_l2DmacClassify_ig_intr_md_ingress_port_width(void);
 int p4_pd_orbisk_switch_l2DmacClassify_outerEthHdr_dmacOui_width(void);
 int p4_pd_orbisk_switch_l2DmacClassify_outerEthHdr_dmacStation_width(void);
 int p4_pd_orbisk_switch_l2DmacClassify_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_l2DmacClassify_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_l2DmacClassify_match_spec_value(const p4_pd_orbisk_switch_l2DmacClassify_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_l2DmacClassify_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_l2DmacClassify_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_l2DmacClassify_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -4227,8 +4505,19 @@ int p4_pd_orbisk_switch_l2SmacCheck_schema(char *out);
 int p4_pd_orbisk_switch_l2SmacCheck_outerEthHdr_smacOui_width(void);
 int p4_pd_orbisk_switch_l2SmacCheck_outerEthHdr_smacStation_width(void);
 int p4_pd_orbisk_switch_l2SmacCheck_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_l2SmacCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_l2SmacCheck_match_spec_value(const p4_pd_orbisk_switch_l2SmacCheck_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_l2SmacCheck_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_l2SmacCheck_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_l2SmacCheck_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -4329,8 +4618,18 @@ int p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_ingMd_smacOui_width(void);
 int p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_ingMd_smacStation_width(void);
 int p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_ingMd_ingL2Domain_width(void);
 int p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_match_spec_value(const p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -4466,8 +4765,18 @@ int p4_pd_orbisk_switch_l2LearningLookup_ingMd_smacStation_width(void);
 int p4_pd_orbisk_switch_l2LearningLookup_ingMd_ingL2Domain_width(void);
 int p4_pd_orbisk_switch_l2LearningLookup_ingMd_ingL2Aintf_width(void);
 int p4_pd_orbisk_switch_l2LearningLookup_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_l2LearningLookup_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_l2LearningLookup_match_spec_value(const p4_pd_orbisk_switch_l2LearningLookup_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_l2LearningLookup_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_l2LearningLookup_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_l2LearningLookup_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -4607,8 +4916,18 @@ int p4_pd_orbisk_switch_l2Lookup_egrMd_dmacOui_width(void);
 int p4_pd_orbisk_switch_l2Lookup_egrMd_dmacStation_width(void);
 int p4_pd_orbisk_switch_l2Lookup_egrMd_egrL2Domain_width(void);
 int p4_pd_orbisk_switch_l2Lookup_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_l2Lookup_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_l2Lookup_match_spec_value(const p4_pd_orbisk_switch_l2Lookup_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_l2Lookup_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_l2Lookup_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_l2Lookup_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -4758,8 +5077,19 @@ int p4_pd_orbisk_switch_l2LookupMiss_ig_intr_md_ingress_port_width(void);
 int p4_pd_orbisk_switch_l2LookupMiss_egrMd_dmacOui_width(void);
 int p4_pd_orbisk_switch_l2LookupMiss_egrMd_dmacStation_width(void);
 int p4_pd_orbisk_switch_l2LookupMiss_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_l2LookupMiss_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_l2LookupMiss_match_spec_value(const p4_pd_orbisk_switch_l2LookupMiss_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_l2LookupMiss_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_l2LookupMiss_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_l2LookupMiss_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -4850,8 +5180,18 @@ const char *p4_pd_orbisk_switch_l2ForwardParams_match_spec_schema(void);
 int p4_pd_orbisk_switch_l2ForwardParams_schema(char *out);
 int p4_pd_orbisk_switch_l2ForwardParams_outerEthHdr_width(void);
 int p4_pd_orbisk_switch_l2ForwardParams_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_l2ForwardParams_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_l2ForwardParams_match_spec_value(const p4_pd_orbisk_switch_l2ForwardParams_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_l2ForwardParams_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_l2ForwardParams_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_l2ForwardParams_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -4942,8 +5282,18 @@ const char *p4_pd_orbisk_switch_l2XRemap_match_spec_schema(void);
 int p4_pd_orbisk_switch_l2XRemap_schema(char *out);
 int p4_pd_orbisk_switch_l2XRemap_ig_intr_md_ingress_port_width(void);
 int p4_pd_orbisk_switch_l2XRemap_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_l2XRemap_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_l2XRemap_match_spec_value(const p4_pd_orbisk_switch_l2XRemap_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_l2XRemap_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_l2XRemap_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_l2XRemap_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -5103,8 +5453,19 @@ int p4_pd_orbisk_switch_learningDigestGeneration_ingVlanStpCheck_stpBlocked_widt
 int p4_pd_orbisk_switch_learningDigestGeneration_ingVlanStpCheck_invalidVlan_width(void);
 int p4_pd_orbisk_switch_learningDigestGeneration_ingMd_l2Control_width(void);
 int p4_pd_orbisk_switch_learningDigestGeneration_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_learningDigestGeneration_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_learningDigestGeneration_match_spec_value(const p4_pd_orbisk_switch_learningDigestGeneration_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_learningDigestGeneration_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_learningDigestGeneration_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_learningDigestGeneration_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -5162,6 +5523,15 @@ pd_status p4_pd_orbisk_switch_bridgeToEA_register_mat_update_cb(pd_sess_hdl sess
     void *cookie);
 int p4_pd_orbisk_switch_bridgeToEA_schema(char *out);
 int p4_pd_orbisk_switch_bridgeToEA_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_bridgeToEA_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_bridgeToEA_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_bridgeToEA_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -5293,8 +5663,19 @@ int p4_pd_orbisk_switch_l3DmacCheck_ingMd_dmacStation_width(void);
 int p4_pd_orbisk_switch_l3DmacCheck_ingMd_v4V6Valid_width(void);
 int p4_pd_orbisk_switch_l3DmacCheck_phase0_portType_width(void);
 int p4_pd_orbisk_switch_l3DmacCheck_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_l3DmacCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_l3DmacCheck_match_spec_value(const p4_pd_orbisk_switch_l3DmacCheck_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_l3DmacCheck_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_l3DmacCheck_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_l3DmacCheck_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -5395,8 +5776,18 @@ int p4_pd_orbisk_switch_vrrpMacCheck_ingMd_ingL3Aintf_width(void);
 int p4_pd_orbisk_switch_vrrpMacCheck_ingMd_dmacOui_width(void);
 int p4_pd_orbisk_switch_vrrpMacCheck_ingMd_dmacStation_width(void);
 int p4_pd_orbisk_switch_vrrpMacCheck_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_vrrpMacCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_vrrpMacCheck_match_spec_value(const p4_pd_orbisk_switch_vrrpMacCheck_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_vrrpMacCheck_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_vrrpMacCheck_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_vrrpMacCheck_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -5568,8 +5959,18 @@ int p4_pd_orbisk_switch_ipv4Host_schema(char *out);
 int p4_pd_orbisk_switch_ipv4Host_l3Info_vrfId_width(void);
 int p4_pd_orbisk_switch_ipv4Host_ingIpv4_dip_width(void);
 int p4_pd_orbisk_switch_ipv4Host_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ipv4Host_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_ipv4Host_match_spec_value(const p4_pd_orbisk_switch_ipv4Host_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_ipv4Host_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ipv4Host_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_ipv4Host_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -5744,8 +6145,18 @@ int p4_pd_orbisk_switch_ipv4ShortMaskLpm_schema(char *out);
 int p4_pd_orbisk_switch_ipv4ShortMaskLpm_l3Info_vrfId_width(void);
 int p4_pd_orbisk_switch_ipv4ShortMaskLpm_ingIpv4_dip_width(void);
 int p4_pd_orbisk_switch_ipv4ShortMaskLpm_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ipv4ShortMaskLpm_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec_value(const p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_ipv4ShortMaskLpm_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_ipv4ShortMaskLpm_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -5881,8 +6292,18 @@ int p4_pd_orbisk_switch_ipv4Partition0_schema(char *out);
 int p4_pd_orbisk_switch_ipv4Partition0_l3Info_vrfId_width(void);
 int p4_pd_orbisk_switch_ipv4Partition0_ingIpv4_dipAndVrf_width(void);
 int p4_pd_orbisk_switch_ipv4Partition0_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ipv4Partition0_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_ipv4Partition0_match_spec_value(const p4_pd_orbisk_switch_ipv4Partition0_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_ipv4Partition0_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ipv4Partition0_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_ipv4Partition0_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -6057,8 +6478,18 @@ int p4_pd_orbisk_switch_ipv4FinalResolve0_schema(char *out);
 int p4_pd_orbisk_switch_ipv4FinalResolve0_fibV4ResultX_partIdx_width(void);
 int p4_pd_orbisk_switch_ipv4FinalResolve0_ingIpv4_dip_width(void);
 int p4_pd_orbisk_switch_ipv4FinalResolve0_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ipv4FinalResolve0_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_ipv4FinalResolve0_match_spec_value(const p4_pd_orbisk_switch_ipv4FinalResolve0_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_ipv4FinalResolve0_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ipv4FinalResolve0_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_ipv4FinalResolve0_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -6230,8 +6661,18 @@ int p4_pd_orbisk_switch_ipv6Host_schema(char *out);
 int p4_pd_orbisk_switch_ipv6Host_l3Info_vrfId_width(void);
 int p4_pd_orbisk_switch_ipv6Host_ingIpv6_dip_width(void);
 int p4_pd_orbisk_switch_ipv6Host_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ipv6Host_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_ipv6Host_match_spec_value(const p4_pd_orbisk_switch_ipv6Host_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_ipv6Host_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ipv6Host_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_ipv6Host_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -6406,8 +6847,18 @@ int p4_pd_orbisk_switch_ipv6ShortMaskLpm_schema(char *out);
 int p4_pd_orbisk_switch_ipv6ShortMaskLpm_l3Info_vrfId_width(void);
 int p4_pd_orbisk_switch_ipv6ShortMaskLpm_ingIpv6_dip_width(void);
 int p4_pd_orbisk_switch_ipv6ShortMaskLpm_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ipv6ShortMaskLpm_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_ipv6ShortMaskLpm_match_spec_value(const p4_pd_orbisk_switch_ipv6ShortMaskLpm_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_ipv6ShortMaskLpm_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ipv6ShortMaskLpm_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_ipv6ShortMaskLpm_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -6582,8 +7033,18 @@ int p4_pd_orbisk_switch_ipv6Partition_schema(char *out);
 int p4_pd_orbisk_switch_ipv6Partition_l3Info_vrfId_width(void);
 int p4_pd_orbisk_switch_ipv6Partition_ingIpv6_dip_width(void);
 int p4_pd_orbisk_switch_ipv6Partition_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ipv6Partition_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_ipv6Partition_match_spec_value(const p4_pd_orbisk_switch_ipv6Partition_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_ipv6Partition_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ipv6Partition_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_ipv6Partition_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -6758,8 +7219,18 @@ int p4_pd_orbisk_switch_ipv6FinalResolve_schema(char *out);
 int p4_pd_orbisk_switch_ipv6FinalResolve_ingIpv6_fibPartitionIndex_width(void);
 int p4_pd_orbisk_switch_ipv6FinalResolve_ingIpv6_dip_width(void);
 int p4_pd_orbisk_switch_ipv6FinalResolve_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ipv6FinalResolve_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_ipv6FinalResolve_match_spec_value(const p4_pd_orbisk_switch_ipv6FinalResolve_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_ipv6FinalResolve_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ipv6FinalResolve_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_ipv6FinalResolve_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -6895,8 +7366,18 @@ int p4_pd_orbisk_switch_ipv6LgMaskPartition0_schema(char *out);
 int p4_pd_orbisk_switch_ipv6LgMaskPartition0_l3Info_vrfId_width(void);
 int p4_pd_orbisk_switch_ipv6LgMaskPartition0_ingIpv6_dip_width(void);
 int p4_pd_orbisk_switch_ipv6LgMaskPartition0_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ipv6LgMaskPartition0_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_ipv6LgMaskPartition0_match_spec_value(const p4_pd_orbisk_switch_ipv6LgMaskPartition0_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_ipv6LgMaskPartition0_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ipv6LgMaskPartition0_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_ipv6LgMaskPartition0_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -7071,8 +7552,18 @@ int p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_schema(char *out);
 int p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_fibV6ResultX_partIdx_width(void);
 int p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_ingIpv6_dip_width(void);
 int p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_match_spec_value(const p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -7185,8 +7676,21 @@ const char *p4_pd_orbisk_switch_ecmpGroup_match_spec_schema(void);
 int p4_pd_orbisk_switch_ecmpGroup_schema(char *out);
 int p4_pd_orbisk_switch_ecmpGroup_l3_nextHop_width(void);
 int p4_pd_orbisk_switch_ecmpGroup_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ecmpGroup_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_ecmpGroup_match_spec_value(const p4_pd_orbisk_switch_ecmpGroup_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_ecmpGroup_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ecmpGroup_match_spec_t *match_spec,
+    pd_mbr_hdl *mbr_hdl,
+    pd_grp_hdl *grp_hdl,
+    bool *has_mbr,
+    bool *has_grp,
+    bool *is_default);
 int p4_pd_orbisk_switch_ecmpGroup_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -7286,8 +7790,18 @@ const char *p4_pd_orbisk_switch_reservedNextHop_match_spec_schema(void);
 int p4_pd_orbisk_switch_reservedNextHop_schema(char *out);
 int p4_pd_orbisk_switch_reservedNextHop_l3_nextHop_width(void);
 int p4_pd_orbisk_switch_reservedNextHop_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_reservedNextHop_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_reservedNextHop_match_spec_value(const p4_pd_orbisk_switch_reservedNextHop_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_reservedNextHop_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_reservedNextHop_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_reservedNextHop_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -7378,8 +7892,18 @@ const char *p4_pd_orbisk_switch_nextHop0_match_spec_schema(void);
 int p4_pd_orbisk_switch_nextHop0_schema(char *out);
 int p4_pd_orbisk_switch_nextHop0_l3_nextHop_width(void);
 int p4_pd_orbisk_switch_nextHop0_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_nextHop0_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_nextHop0_match_spec_value(const p4_pd_orbisk_switch_nextHop0_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_nextHop0_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_nextHop0_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_nextHop0_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -7470,8 +7994,18 @@ const char *p4_pd_orbisk_switch_routerNextHop0_match_spec_schema(void);
 int p4_pd_orbisk_switch_routerNextHop0_schema(char *out);
 int p4_pd_orbisk_switch_routerNextHop0_l3_nextHop_width(void);
 int p4_pd_orbisk_switch_routerNextHop0_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_routerNextHop0_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_routerNextHop0_match_spec_value(const p4_pd_orbisk_switch_routerNextHop0_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_routerNextHop0_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_routerNextHop0_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_routerNextHop0_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -7590,8 +8124,22 @@ const char *p4_pd_orbisk_switch_lagGroup_match_spec_schema(void);
 int p4_pd_orbisk_switch_lagGroup_schema(char *out);
 int p4_pd_orbisk_switch_lagGroup_egrMd_egrL2AintfUnresolved_width(void);
 int p4_pd_orbisk_switch_lagGroup_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_lagGroup_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_lagGroup_match_spec_value(const p4_pd_orbisk_switch_lagGroup_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_lagGroup_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_lagGroup_match_spec_t *match_spec,
+    uint32_t *priority,
+    pd_mbr_hdl *mbr_hdl,
+    pd_grp_hdl *grp_hdl,
+    bool *has_mbr,
+    bool *has_grp,
+    bool *is_default);
 int p4_pd_orbisk_switch_lagGroup_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -7770,8 +8318,19 @@ int p4_pd_orbisk_switch_ecmpHashSelection_outerIpv6Hdr_width(void);
 int p4_pd_orbisk_switch_ecmpHashSelection_outerIpv4Hdr_width(void);
 int p4_pd_orbisk_switch_ecmpHashSelection_outerIpv4Hdr_flagsMf_width(void);
 int p4_pd_orbisk_switch_ecmpHashSelection_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ecmpHashSelection_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_ecmpHashSelection_match_spec_value(const p4_pd_orbisk_switch_ecmpHashSelection_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_ecmpHashSelection_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ecmpHashSelection_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_ecmpHashSelection_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -7965,8 +8524,19 @@ int p4_pd_orbisk_switch_lagHashSelection_outerIpv4Hdr_width(void);
 int p4_pd_orbisk_switch_lagHashSelection_outerIpv4Hdr_flagsMf_width(void);
 int p4_pd_orbisk_switch_lagHashSelection_outerEthHdr_width(void);
 int p4_pd_orbisk_switch_lagHashSelection_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_lagHashSelection_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_lagHashSelection_match_spec_value(const p4_pd_orbisk_switch_lagHashSelection_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_lagHashSelection_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_lagHashSelection_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_lagHashSelection_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -8075,8 +8645,18 @@ int p4_pd_orbisk_switch_hashComputeInnerIpHdr_schema(char *out);
 int p4_pd_orbisk_switch_hashComputeInnerIpHdr_innerIpv4Hdr_width(void);
 int p4_pd_orbisk_switch_hashComputeInnerIpHdr_innerIpv6Hdr_width(void);
 int p4_pd_orbisk_switch_hashComputeInnerIpHdr_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_hashComputeInnerIpHdr_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_hashComputeInnerIpHdr_match_spec_value(const p4_pd_orbisk_switch_hashComputeInnerIpHdr_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_hashComputeInnerIpHdr_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_hashComputeInnerIpHdr_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_hashComputeInnerIpHdr_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -8134,6 +8714,15 @@ pd_status p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_register_mat_update_cb(pd_
     void *cookie);
 int p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_schema(char *out);
 int p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -8188,6 +8777,15 @@ pd_status p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_register_mat_update_cb(pd_
     void *cookie);
 int p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_schema(char *out);
 int p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -8242,6 +8840,15 @@ pd_status p4_pd_orbisk_switch_hashComputeInnerEthHdr_register_mat_update_cb(pd_s
     void *cookie);
 int p4_pd_orbisk_switch_hashComputeInnerEthHdr_schema(char *out);
 int p4_pd_orbisk_switch_hashComputeInnerEthHdr_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_hashComputeInnerEthHdr_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_hashComputeInnerEthHdr_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_hashComputeInnerEthHdr_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -8296,6 +8903,15 @@ pd_status p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_register_mat_update_cb(pd_se
     void *cookie);
 int p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_schema(char *out);
 int p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -8350,6 +8966,15 @@ pd_status p4_pd_orbisk_switch_hashFromCpuHdr_register_mat_update_cb(pd_sess_hdl 
     void *cookie);
 int p4_pd_orbisk_switch_hashFromCpuHdr_schema(char *out);
 int p4_pd_orbisk_switch_hashFromCpuHdr_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_hashFromCpuHdr_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_hashFromCpuHdr_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_hashFromCpuHdr_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -8483,8 +9108,18 @@ int p4_pd_orbisk_switch_ipv4McGroupVlan_schema(char *out);
 int p4_pd_orbisk_switch_ipv4McGroupVlan_ingIpv4_dip_width(void);
 int p4_pd_orbisk_switch_ipv4McGroupVlan_ingMd_ingL3Aintf_width(void);
 int p4_pd_orbisk_switch_ipv4McGroupVlan_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ipv4McGroupVlan_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_ipv4McGroupVlan_match_spec_value(const p4_pd_orbisk_switch_ipv4McGroupVlan_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_ipv4McGroupVlan_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ipv4McGroupVlan_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_ipv4McGroupVlan_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -8617,8 +9252,18 @@ int p4_pd_orbisk_switch_ipv4McSourceGroupVlan_schema(char *out);
 int p4_pd_orbisk_switch_ipv4McSourceGroupVlan_ingIpv4_sip_width(void);
 int p4_pd_orbisk_switch_ipv4McSourceGroupVlan_ingIpmcSGVLookup_index_width(void);
 int p4_pd_orbisk_switch_ipv4McSourceGroupVlan_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ipv4McSourceGroupVlan_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_ipv4McSourceGroupVlan_match_spec_value(const p4_pd_orbisk_switch_ipv4McSourceGroupVlan_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_ipv4McSourceGroupVlan_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ipv4McSourceGroupVlan_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_ipv4McSourceGroupVlan_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -8722,8 +9367,18 @@ int p4_pd_orbisk_switch_l2Multicast_egrMd_dmacOui_width(void);
 int p4_pd_orbisk_switch_l2Multicast_egrMd_dmacStation_width(void);
 int p4_pd_orbisk_switch_l2Multicast_egrMd_egrL2Domain_width(void);
 int p4_pd_orbisk_switch_l2Multicast_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_l2Multicast_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_l2Multicast_match_spec_value(const p4_pd_orbisk_switch_l2Multicast_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_l2Multicast_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_l2Multicast_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_l2Multicast_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -8929,8 +9584,19 @@ int p4_pd_orbisk_switch_finalizeMcResult_egrMd_trapToCpu_width(void);
 int p4_pd_orbisk_switch_finalizeMcResult_ingMd_ttl_width(void);
 int p4_pd_orbisk_switch_finalizeMcResult_l3Info_ipRouting_width(void);
 int p4_pd_orbisk_switch_finalizeMcResult_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_finalizeMcResult_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_finalizeMcResult_match_spec_value(const p4_pd_orbisk_switch_finalizeMcResult_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_finalizeMcResult_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_finalizeMcResult_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_finalizeMcResult_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -9030,8 +9696,18 @@ const char *p4_pd_orbisk_switch_egressMcRemap_match_spec_schema(void);
 int p4_pd_orbisk_switch_egressMcRemap_schema(char *out);
 int p4_pd_orbisk_switch_egressMcRemap_eg_intr_md_egress_rid_width(void);
 int p4_pd_orbisk_switch_egressMcRemap_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_egressMcRemap_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_egressMcRemap_match_spec_value(const p4_pd_orbisk_switch_egressMcRemap_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_egressMcRemap_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_egressMcRemap_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_egressMcRemap_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -9196,8 +9872,19 @@ int p4_pd_orbisk_switch_mcastPrune_phase0_portType_width(void);
 int p4_pd_orbisk_switch_mcastPrune_egrMd_egrL2AintfUnresolved_width(void);
 int p4_pd_orbisk_switch_mcastPrune_ig_intr_md_for_tm_mcast_grp_a_width(void);
 int p4_pd_orbisk_switch_mcastPrune_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_mcastPrune_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_mcastPrune_match_spec_value(const p4_pd_orbisk_switch_mcastPrune_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_mcastPrune_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_mcastPrune_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_mcastPrune_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -9334,8 +10021,19 @@ int p4_pd_orbisk_switch_tunnelTermination_outerIpv4Hdr_dip_width(void);
 int p4_pd_orbisk_switch_tunnelTermination_ingMd_tunnelType_width(void);
 int p4_pd_orbisk_switch_tunnelTermination_outerIpv6Hdr_width(void);
 int p4_pd_orbisk_switch_tunnelTermination_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_tunnelTermination_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_tunnelTermination_match_spec_value(const p4_pd_orbisk_switch_tunnelTermination_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_tunnelTermination_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_tunnelTermination_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_tunnelTermination_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -9465,8 +10163,18 @@ const char *p4_pd_orbisk_switch_vxlanL2AintfLookup_match_spec_schema(void);
 int p4_pd_orbisk_switch_vxlanL2AintfLookup_schema(char *out);
 int p4_pd_orbisk_switch_vxlanL2AintfLookup_outerIpv4Hdr_sip_width(void);
 int p4_pd_orbisk_switch_vxlanL2AintfLookup_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_vxlanL2AintfLookup_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_vxlanL2AintfLookup_match_spec_value(const p4_pd_orbisk_switch_vxlanL2AintfLookup_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_vxlanL2AintfLookup_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_vxlanL2AintfLookup_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_vxlanL2AintfLookup_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -9587,8 +10295,18 @@ int p4_pd_orbisk_switch_vxlanVniResolution_ingMd_ingressVniLow_width(void);
 int p4_pd_orbisk_switch_vxlanVniResolution_ingMd_ingressVniHigh_width(void);
 int p4_pd_orbisk_switch_vxlanVniResolution_ingMd_tunnelType_width(void);
 int p4_pd_orbisk_switch_vxlanVniResolution_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_vxlanVniResolution_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_vxlanVniResolution_match_spec_value(const p4_pd_orbisk_switch_vxlanVniResolution_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_vxlanVniResolution_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_vxlanVniResolution_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_vxlanVniResolution_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -9702,8 +10420,19 @@ int p4_pd_orbisk_switch_vxlanVarp_innerEthHdr_dmacStation_width(void);
 int p4_pd_orbisk_switch_vxlanVarp_outerIpv4Hdr_width(void);
 int p4_pd_orbisk_switch_vxlanVarp_ingMd_vxlanVarpIp_width(void);
 int p4_pd_orbisk_switch_vxlanVarp_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_vxlanVarp_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_vxlanVarp_match_spec_value(const p4_pd_orbisk_switch_vxlanVarp_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_vxlanVarp_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_vxlanVarp_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_vxlanVarp_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -9761,6 +10490,15 @@ pd_status p4_pd_orbisk_switch_vxlanArp_register_mat_update_cb(pd_sess_hdl sess_h
     void *cookie);
 int p4_pd_orbisk_switch_vxlanArp_schema(char *out);
 int p4_pd_orbisk_switch_vxlanArp_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_vxlanArp_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_vxlanArp_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_vxlanArp_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -9848,8 +10586,18 @@ const char *p4_pd_orbisk_switch_tunnelDip0_match_spec_schema(void);
 int p4_pd_orbisk_switch_tunnelDip0_schema(char *out);
 int p4_pd_orbisk_switch_tunnelDip0_egrMd_tunnelInfo_width(void);
 int p4_pd_orbisk_switch_tunnelDip0_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_tunnelDip0_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_tunnelDip0_match_spec_value(const p4_pd_orbisk_switch_tunnelDip0_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_tunnelDip0_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_tunnelDip0_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_tunnelDip0_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -9949,8 +10697,18 @@ const char *p4_pd_orbisk_switch_tunnelVniAndVti_match_spec_schema(void);
 int p4_pd_orbisk_switch_tunnelVniAndVti_schema(char *out);
 int p4_pd_orbisk_switch_tunnelVniAndVti_egrMd_egrL2Domain_width(void);
 int p4_pd_orbisk_switch_tunnelVniAndVti_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_tunnelVniAndVti_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_tunnelVniAndVti_match_spec_value(const p4_pd_orbisk_switch_tunnelVniAndVti_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_tunnelVniAndVti_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_tunnelVniAndVti_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_tunnelVniAndVti_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -10050,8 +10808,18 @@ const char *p4_pd_orbisk_switch_tunnelL2Info_match_spec_schema(void);
 int p4_pd_orbisk_switch_tunnelL2Info_schema(char *out);
 int p4_pd_orbisk_switch_tunnelL2Info_egrMd_tunnelInfo_width(void);
 int p4_pd_orbisk_switch_tunnelL2Info_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_tunnelL2Info_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_tunnelL2Info_match_spec_value(const p4_pd_orbisk_switch_tunnelL2Info_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_tunnelL2Info_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_tunnelL2Info_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_tunnelL2Info_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -10160,8 +10928,21 @@ const char *p4_pd_orbisk_switch_tunnelResolve_match_spec_schema(void);
 int p4_pd_orbisk_switch_tunnelResolve_schema(char *out);
 int p4_pd_orbisk_switch_tunnelResolve_egrMd_tunnelNextHop_width(void);
 int p4_pd_orbisk_switch_tunnelResolve_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_tunnelResolve_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_tunnelResolve_match_spec_value(const p4_pd_orbisk_switch_tunnelResolve_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_tunnelResolve_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_tunnelResolve_match_spec_t *match_spec,
+    pd_mbr_hdl *mbr_hdl,
+    pd_grp_hdl *grp_hdl,
+    bool *has_mbr,
+    bool *has_grp,
+    bool *is_default);
 int p4_pd_orbisk_switch_tunnelResolve_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -10368,8 +11149,19 @@ int p4_pd_orbisk_switch_encapDecap_outerIpv4Hdr_width(void);
 int p4_pd_orbisk_switch_encapDecap_outerIpv6Hdr_width(void);
 int p4_pd_orbisk_switch_encapDecap_egrMd_tunnelInfo_width(void);
 int p4_pd_orbisk_switch_encapDecap_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_encapDecap_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_encapDecap_match_spec_value(const p4_pd_orbisk_switch_encapDecap_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_encapDecap_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_encapDecap_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_encapDecap_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -10510,8 +11302,18 @@ int p4_pd_orbisk_switch_decapIngress_egrMd_decapType_width(void);
 int p4_pd_orbisk_switch_decapIngress_outerIpv4Hdr_width(void);
 int p4_pd_orbisk_switch_decapIngress_outerIpv6Hdr_width(void);
 int p4_pd_orbisk_switch_decapIngress_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_decapIngress_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_decapIngress_match_spec_value(const p4_pd_orbisk_switch_decapIngress_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_decapIngress_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_decapIngress_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_decapIngress_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -10662,8 +11464,19 @@ int p4_pd_orbisk_switch_globalFields_egrMd_encapType_width(void);
 int p4_pd_orbisk_switch_globalFields_egrMd_ingressTagged_width(void);
 int p4_pd_orbisk_switch_globalFields_egrMd_tunnelInfo_width(void);
 int p4_pd_orbisk_switch_globalFields_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_globalFields_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_globalFields_match_spec_value(const p4_pd_orbisk_switch_globalFields_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_globalFields_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_globalFields_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_globalFields_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -10758,8 +11571,18 @@ const char *p4_pd_orbisk_switch_ingressNatProfile_match_spec_schema(void);
 int p4_pd_orbisk_switch_ingressNatProfile_schema(char *out);
 int p4_pd_orbisk_switch_ingressNatProfile_ingMd_ingL3Aintf_width(void);
 int p4_pd_orbisk_switch_ingressNatProfile_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ingressNatProfile_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_ingressNatProfile_match_spec_value(const p4_pd_orbisk_switch_ingressNatProfile_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_ingressNatProfile_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ingressNatProfile_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_ingressNatProfile_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -10875,8 +11698,19 @@ int p4_pd_orbisk_switch_staticDnatAcl_ingIpv4_sip_width(void);
 int p4_pd_orbisk_switch_staticDnatAcl_ingMd_protocol_width(void);
 int p4_pd_orbisk_switch_staticDnatAcl_haloKeyOrig_isFrag_width(void);
 int p4_pd_orbisk_switch_staticDnatAcl_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_staticDnatAcl_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_staticDnatAcl_match_spec_value(const p4_pd_orbisk_switch_staticDnatAcl_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_staticDnatAcl_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_staticDnatAcl_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_staticDnatAcl_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -11021,8 +11855,18 @@ int p4_pd_orbisk_switch_addrPortDnat_ingIpv4_dip_width(void);
 int p4_pd_orbisk_switch_addrPortDnat_ingMd_dstPort_width(void);
 int p4_pd_orbisk_switch_addrPortDnat_ingMd_ingNatProfile_width(void);
 int p4_pd_orbisk_switch_addrPortDnat_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_addrPortDnat_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_addrPortDnat_match_spec_value(const p4_pd_orbisk_switch_addrPortDnat_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_addrPortDnat_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_addrPortDnat_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_addrPortDnat_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -11139,8 +11983,18 @@ int p4_pd_orbisk_switch_addrOnlyDnat_ingMd_dnatAclId_width(void);
 int p4_pd_orbisk_switch_addrOnlyDnat_ingIpv4_dip_width(void);
 int p4_pd_orbisk_switch_addrOnlyDnat_ingMd_ingNatProfile_width(void);
 int p4_pd_orbisk_switch_addrOnlyDnat_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_addrOnlyDnat_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_addrOnlyDnat_match_spec_value(const p4_pd_orbisk_switch_addrOnlyDnat_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_addrOnlyDnat_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_addrOnlyDnat_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_addrOnlyDnat_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -11294,8 +12148,18 @@ int p4_pd_orbisk_switch_dynamicDnat1_ingIpv4_dip_width(void);
 int p4_pd_orbisk_switch_dynamicDnat1_ingMd_dstPort_width(void);
 int p4_pd_orbisk_switch_dynamicDnat1_l3Info_vrfId_width(void);
 int p4_pd_orbisk_switch_dynamicDnat1_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_dynamicDnat1_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_dynamicDnat1_match_spec_value(const p4_pd_orbisk_switch_dynamicDnat1_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_dynamicDnat1_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_dynamicDnat1_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_dynamicDnat1_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -11386,8 +12250,18 @@ const char *p4_pd_orbisk_switch_dynamicFullConeCompressDip_match_spec_schema(voi
 int p4_pd_orbisk_switch_dynamicFullConeCompressDip_schema(char *out);
 int p4_pd_orbisk_switch_dynamicFullConeCompressDip_ingIpv4_dip_width(void);
 int p4_pd_orbisk_switch_dynamicFullConeCompressDip_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_dynamicFullConeCompressDip_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_dynamicFullConeCompressDip_match_spec_value(const p4_pd_orbisk_switch_dynamicFullConeCompressDip_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_dynamicFullConeCompressDip_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_dynamicFullConeCompressDip_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_dynamicFullConeCompressDip_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -11524,8 +12398,18 @@ int p4_pd_orbisk_switch_dynamicFullConeDnat_ingMd_fullConeDipRangeId_width(void)
 int p4_pd_orbisk_switch_dynamicFullConeDnat_ingMd_protocol_width(void);
 int p4_pd_orbisk_switch_dynamicFullConeDnat_ingMd_dstPort_width(void);
 int p4_pd_orbisk_switch_dynamicFullConeDnat_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_dynamicFullConeDnat_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_dynamicFullConeDnat_match_spec_value(const p4_pd_orbisk_switch_dynamicFullConeDnat_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_dynamicFullConeDnat_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_dynamicFullConeDnat_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_dynamicFullConeDnat_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -11616,8 +12500,18 @@ const char *p4_pd_orbisk_switch_egressNatProfile_match_spec_schema(void);
 int p4_pd_orbisk_switch_egressNatProfile_schema(char *out);
 int p4_pd_orbisk_switch_egressNatProfile_egrMd_egrL2Domain_width(void);
 int p4_pd_orbisk_switch_egressNatProfile_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_egressNatProfile_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_egressNatProfile_match_spec_value(const p4_pd_orbisk_switch_egressNatProfile_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_egressNatProfile_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_egressNatProfile_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_egressNatProfile_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -11733,8 +12627,19 @@ int p4_pd_orbisk_switch_staticSnatAcl_outerIpv4Hdr_dip_width(void);
 int p4_pd_orbisk_switch_staticSnatAcl_ingMd_protocol_width(void);
 int p4_pd_orbisk_switch_staticSnatAcl_haloKeyOrig_isFrag_width(void);
 int p4_pd_orbisk_switch_staticSnatAcl_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_staticSnatAcl_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_staticSnatAcl_match_spec_value(const p4_pd_orbisk_switch_staticSnatAcl_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_staticSnatAcl_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_staticSnatAcl_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_staticSnatAcl_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -11853,8 +12758,18 @@ int p4_pd_orbisk_switch_addrPortSnat_outerIpv4Hdr_sip_width(void);
 int p4_pd_orbisk_switch_addrPortSnat_l4PortHdr_srcPort_width(void);
 int p4_pd_orbisk_switch_addrPortSnat_ingMd_egrNatProfile_width(void);
 int p4_pd_orbisk_switch_addrPortSnat_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_addrPortSnat_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_addrPortSnat_match_spec_value(const p4_pd_orbisk_switch_addrPortSnat_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_addrPortSnat_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_addrPortSnat_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_addrPortSnat_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -11958,8 +12873,18 @@ int p4_pd_orbisk_switch_addrOnlySnat_ingMd_snatAclId_width(void);
 int p4_pd_orbisk_switch_addrOnlySnat_outerIpv4Hdr_sip_width(void);
 int p4_pd_orbisk_switch_addrOnlySnat_ingMd_egrNatProfile_width(void);
 int p4_pd_orbisk_switch_addrOnlySnat_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_addrOnlySnat_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_addrOnlySnat_match_spec_value(const p4_pd_orbisk_switch_addrOnlySnat_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_addrOnlySnat_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_addrOnlySnat_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_addrOnlySnat_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -12081,8 +13006,19 @@ int p4_pd_orbisk_switch_dynamicSnatAcl_l4PortHdr_srcPort_width(void);
 int p4_pd_orbisk_switch_dynamicSnatAcl_l4PortHdr_dstPort_width(void);
 int p4_pd_orbisk_switch_dynamicSnatAcl_ingMd_protocol_width(void);
 int p4_pd_orbisk_switch_dynamicSnatAcl_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_dynamicSnatAcl_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_dynamicSnatAcl_match_spec_value(const p4_pd_orbisk_switch_dynamicSnatAcl_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_dynamicSnatAcl_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_dynamicSnatAcl_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_dynamicSnatAcl_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -12236,8 +13172,18 @@ int p4_pd_orbisk_switch_dynamicSnat1_ingMd_dynNatDip_width(void);
 int p4_pd_orbisk_switch_dynamicSnat1_ingMd_dynNatDport_width(void);
 int p4_pd_orbisk_switch_dynamicSnat1_l3Info_vrfId_width(void);
 int p4_pd_orbisk_switch_dynamicSnat1_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_dynamicSnat1_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_dynamicSnat1_match_spec_value(const p4_pd_orbisk_switch_dynamicSnat1_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_dynamicSnat1_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_dynamicSnat1_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_dynamicSnat1_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -12354,8 +13300,19 @@ int p4_pd_orbisk_switch_dynamicNatCount_ingMd_protocol_width(void);
 int p4_pd_orbisk_switch_dynamicNatCount_ingMd_ingNatProfile_width(void);
 int p4_pd_orbisk_switch_dynamicNatCount_ingMd_egrNatProfile_width(void);
 int p4_pd_orbisk_switch_dynamicNatCount_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_dynamicNatCount_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_dynamicNatCount_match_spec_value(const p4_pd_orbisk_switch_dynamicNatCount_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_dynamicNatCount_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_dynamicNatCount_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_dynamicNatCount_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -12452,8 +13409,18 @@ const char *p4_pd_orbisk_switch_natTcpFlags_match_spec_schema(void);
 int p4_pd_orbisk_switch_natTcpFlags_schema(char *out);
 int p4_pd_orbisk_switch_natTcpFlags_outerTcpHdr_flags_width(void);
 int p4_pd_orbisk_switch_natTcpFlags_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_natTcpFlags_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_natTcpFlags_match_spec_value(const p4_pd_orbisk_switch_natTcpFlags_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_natTcpFlags_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_natTcpFlags_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_natTcpFlags_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -12614,8 +13581,19 @@ int p4_pd_orbisk_switch_natCpuTrapAcl_l4PortHdr_srcPort_width(void);
 int p4_pd_orbisk_switch_natCpuTrapAcl_l4PortHdr_dstPort_width(void);
 int p4_pd_orbisk_switch_natCpuTrapAcl_outerIpv4Hdr_protocol_width(void);
 int p4_pd_orbisk_switch_natCpuTrapAcl_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_natCpuTrapAcl_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_natCpuTrapAcl_match_spec_value(const p4_pd_orbisk_switch_natCpuTrapAcl_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_natCpuTrapAcl_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_natCpuTrapAcl_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_natCpuTrapAcl_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -12725,8 +13703,19 @@ int p4_pd_orbisk_switch_natCpuReasonCode_schema(char *out);
 int p4_pd_orbisk_switch_natCpuReasonCode_outerTcpHdr_width(void);
 int p4_pd_orbisk_switch_natCpuReasonCode_outerTcpHdr_flags_width(void);
 int p4_pd_orbisk_switch_natCpuReasonCode_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_natCpuReasonCode_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_natCpuReasonCode_match_spec_value(const p4_pd_orbisk_switch_natCpuReasonCode_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_natCpuReasonCode_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_natCpuReasonCode_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_natCpuReasonCode_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -12902,8 +13891,19 @@ int p4_pd_orbisk_switch_natChecksumUpdate_outerUdpHdr_width(void);
 int p4_pd_orbisk_switch_natChecksumUpdate_outerL4Checksum_checksum_width(void);
 int p4_pd_orbisk_switch_natChecksumUpdate_egrMd_decapType_width(void);
 int p4_pd_orbisk_switch_natChecksumUpdate_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_natChecksumUpdate_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_natChecksumUpdate_match_spec_value(const p4_pd_orbisk_switch_natChecksumUpdate_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_natChecksumUpdate_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_natChecksumUpdate_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_natChecksumUpdate_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -13022,8 +14022,18 @@ int p4_pd_orbisk_switch_egressNatCpuTrapHeader_schema(char *out);
 int p4_pd_orbisk_switch_egressNatCpuTrapHeader_egrMd_natAclIdHi_width(void);
 int p4_pd_orbisk_switch_egressNatCpuTrapHeader_egrMd_natAclIdLo_width(void);
 int p4_pd_orbisk_switch_egressNatCpuTrapHeader_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_egressNatCpuTrapHeader_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_egressNatCpuTrapHeader_match_spec_value(const p4_pd_orbisk_switch_egressNatCpuTrapHeader_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_egressNatCpuTrapHeader_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_egressNatCpuTrapHeader_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_egressNatCpuTrapHeader_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -13129,8 +14139,18 @@ int p4_pd_orbisk_switch_haloPaclCrlId_schema(char *out);
 int p4_pd_orbisk_switch_haloPaclCrlId_ingMd_v4V6Valid_width(void);
 int p4_pd_orbisk_switch_haloPaclCrlId_ig_intr_md_ingress_port_width(void);
 int p4_pd_orbisk_switch_haloPaclCrlId_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_haloPaclCrlId_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_haloPaclCrlId_match_spec_value(const p4_pd_orbisk_switch_haloPaclCrlId_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_haloPaclCrlId_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_haloPaclCrlId_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_haloPaclCrlId_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -13232,8 +14252,18 @@ int p4_pd_orbisk_switch_haloRaclCrlId_schema(char *out);
 int p4_pd_orbisk_switch_haloRaclCrlId_ingMd_v4V6Valid_width(void);
 int p4_pd_orbisk_switch_haloRaclCrlId_ingMd_ingL3Aintf_width(void);
 int p4_pd_orbisk_switch_haloRaclCrlId_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_haloRaclCrlId_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_haloRaclCrlId_match_spec_value(const p4_pd_orbisk_switch_haloRaclCrlId_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_haloRaclCrlId_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_haloRaclCrlId_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_haloRaclCrlId_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -13355,8 +14385,19 @@ const char *p4_pd_orbisk_switch_haloXformIpv4Sip_match_spec_schema(void);
 int p4_pd_orbisk_switch_haloXformIpv4Sip_schema(char *out);
 int p4_pd_orbisk_switch_haloXformIpv4Sip_ingIpv4_sip_width(void);
 int p4_pd_orbisk_switch_haloXformIpv4Sip_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_haloXformIpv4Sip_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_haloXformIpv4Sip_match_spec_value(const p4_pd_orbisk_switch_haloXformIpv4Sip_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_haloXformIpv4Sip_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_haloXformIpv4Sip_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_haloXformIpv4Sip_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -13478,8 +14519,19 @@ const char *p4_pd_orbisk_switch_haloXformIpv4Dip_match_spec_schema(void);
 int p4_pd_orbisk_switch_haloXformIpv4Dip_schema(char *out);
 int p4_pd_orbisk_switch_haloXformIpv4Dip_ingIpv4_dip_width(void);
 int p4_pd_orbisk_switch_haloXformIpv4Dip_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_haloXformIpv4Dip_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_haloXformIpv4Dip_match_spec_value(const p4_pd_orbisk_switch_haloXformIpv4Dip_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_haloXformIpv4Dip_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_haloXformIpv4Dip_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_haloXformIpv4Dip_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -13601,8 +14653,19 @@ const char *p4_pd_orbisk_switch_haloXformIpv6Sip_match_spec_schema(void);
 int p4_pd_orbisk_switch_haloXformIpv6Sip_schema(char *out);
 int p4_pd_orbisk_switch_haloXformIpv6Sip_ingIpv6_sip_width(void);
 int p4_pd_orbisk_switch_haloXformIpv6Sip_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_haloXformIpv6Sip_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_haloXformIpv6Sip_match_spec_value(const p4_pd_orbisk_switch_haloXformIpv6Sip_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_haloXformIpv6Sip_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_haloXformIpv6Sip_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_haloXformIpv6Sip_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -13724,8 +14787,19 @@ const char *p4_pd_orbisk_switch_haloXformIpv6Dip_match_spec_schema(void);
 int p4_pd_orbisk_switch_haloXformIpv6Dip_schema(char *out);
 int p4_pd_orbisk_switch_haloXformIpv6Dip_ingIpv6_dip_width(void);
 int p4_pd_orbisk_switch_haloXformIpv6Dip_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_haloXformIpv6Dip_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_haloXformIpv6Dip_match_spec_value(const p4_pd_orbisk_switch_haloXformIpv6Dip_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_haloXformIpv6Dip_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_haloXformIpv6Dip_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_haloXformIpv6Dip_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -13835,8 +14909,19 @@ const char *p4_pd_orbisk_switch_haloXformSrcPort_match_spec_schema(void);
 int p4_pd_orbisk_switch_haloXformSrcPort_schema(char *out);
 int p4_pd_orbisk_switch_haloXformSrcPort_ingMd_srcPort_width(void);
 int p4_pd_orbisk_switch_haloXformSrcPort_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_haloXformSrcPort_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_haloXformSrcPort_match_spec_value(const p4_pd_orbisk_switch_haloXformSrcPort_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_haloXformSrcPort_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_haloXformSrcPort_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_haloXformSrcPort_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -13946,8 +15031,19 @@ const char *p4_pd_orbisk_switch_haloXformDstPort_match_spec_schema(void);
 int p4_pd_orbisk_switch_haloXformDstPort_schema(char *out);
 int p4_pd_orbisk_switch_haloXformDstPort_ingMd_dstPort_width(void);
 int p4_pd_orbisk_switch_haloXformDstPort_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_haloXformDstPort_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_haloXformDstPort_match_spec_value(const p4_pd_orbisk_switch_haloXformDstPort_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_haloXformDstPort_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_haloXformDstPort_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_haloXformDstPort_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -14038,8 +15134,18 @@ const char *p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_match_spec_schema(void)
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_schema(char *out);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_haloKeyOrig_crlId_width(void);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_match_spec_value(const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -14157,8 +15263,18 @@ int p4_pd_orbisk_switch_haloRow1Stage2_haloKeyMaskedRow1_ttl_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage2_haloKeyMaskedRow1_flags_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage2_haloKeyMaskedRow1_isFrag_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage2_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_haloRow1Stage2_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_haloRow1Stage2_match_spec_value(const p4_pd_orbisk_switch_haloRow1Stage2_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_haloRow1Stage2_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_haloRow1Stage2_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_haloRow1Stage2_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -14249,8 +15365,18 @@ const char *p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_match_spec_schema(void)
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_schema(char *out);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_haloKeyOrig_crlId_width(void);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_match_spec_value(const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -14368,8 +15494,18 @@ int p4_pd_orbisk_switch_haloRow1Stage3_haloKeyMaskedRow1_ttl_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage3_haloKeyMaskedRow1_flags_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage3_haloKeyMaskedRow1_isFrag_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage3_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_haloRow1Stage3_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_haloRow1Stage3_match_spec_value(const p4_pd_orbisk_switch_haloRow1Stage3_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_haloRow1Stage3_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_haloRow1Stage3_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_haloRow1Stage3_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -14460,8 +15596,18 @@ const char *p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_match_spec_schema(void)
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_schema(char *out);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_haloKeyOrig_crlId_width(void);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_match_spec_value(const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -14579,8 +15725,18 @@ int p4_pd_orbisk_switch_haloRow1Stage4_haloKeyMaskedRow1_ttl_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage4_haloKeyMaskedRow1_flags_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage4_haloKeyMaskedRow1_isFrag_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage4_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_haloRow1Stage4_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_haloRow1Stage4_match_spec_value(const p4_pd_orbisk_switch_haloRow1Stage4_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_haloRow1Stage4_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_haloRow1Stage4_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_haloRow1Stage4_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -14671,8 +15827,18 @@ const char *p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_match_spec_schema(void)
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_schema(char *out);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_haloKeyOrig_crlId_width(void);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_match_spec_value(const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -14790,8 +15956,18 @@ int p4_pd_orbisk_switch_haloRow1Stage5_haloKeyMaskedRow1_ttl_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage5_haloKeyMaskedRow1_flags_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage5_haloKeyMaskedRow1_isFrag_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage5_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_haloRow1Stage5_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_haloRow1Stage5_match_spec_value(const p4_pd_orbisk_switch_haloRow1Stage5_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_haloRow1Stage5_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_haloRow1Stage5_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_haloRow1Stage5_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -14882,8 +16058,18 @@ const char *p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_match_spec_schema(void)
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_schema(char *out);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_haloKeyOrig_crlId_width(void);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_match_spec_value(const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -15001,8 +16187,18 @@ int p4_pd_orbisk_switch_haloRow1Stage6_haloKeyMaskedRow1_ttl_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage6_haloKeyMaskedRow1_flags_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage6_haloKeyMaskedRow1_isFrag_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage6_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_haloRow1Stage6_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_haloRow1Stage6_match_spec_value(const p4_pd_orbisk_switch_haloRow1Stage6_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_haloRow1Stage6_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_haloRow1Stage6_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_haloRow1Stage6_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -15060,6 +16256,15 @@ pd_status p4_pd_orbisk_switch_haloBypass_register_mat_update_cb(pd_sess_hdl sess
     void *cookie);
 int p4_pd_orbisk_switch_haloBypass_schema(char *out);
 int p4_pd_orbisk_switch_haloBypass_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_haloBypass_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_haloBypass_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_haloBypass_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -15143,8 +16348,18 @@ const char *p4_pd_orbisk_switch_haloCounters_match_spec_schema(void);
 int p4_pd_orbisk_switch_haloCounters_schema(char *out);
 int p4_pd_orbisk_switch_haloCounters_haloResultRow1_bestResult_width(void);
 int p4_pd_orbisk_switch_haloCounters_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_haloCounters_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_haloCounters_match_spec_value(const p4_pd_orbisk_switch_haloCounters_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_haloCounters_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_haloCounters_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_haloCounters_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -15303,8 +16518,19 @@ int p4_pd_orbisk_switch_ingressMirrorSession_haloKeyOrig_isFrag_width(void);
 int p4_pd_orbisk_switch_ingressMirrorSession_haloKeyOrig_flags_width(void);
 int p4_pd_orbisk_switch_ingressMirrorSession_ingMd_v4V6Valid_width(void);
 int p4_pd_orbisk_switch_ingressMirrorSession_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ingressMirrorSession_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_ingressMirrorSession_match_spec_value(const p4_pd_orbisk_switch_ingressMirrorSession_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_ingressMirrorSession_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ingressMirrorSession_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_ingressMirrorSession_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -15413,8 +16639,21 @@ const char *p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_schema(void);
 int p4_pd_orbisk_switch_ingressMirrorLagGroup_schema(char *out);
 int p4_pd_orbisk_switch_ingressMirrorLagGroup_ingMirrorMd_mirrorSession_width(void);
 int p4_pd_orbisk_switch_ingressMirrorLagGroup_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_value(const p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_t *match_spec,
+    pd_mbr_hdl *mbr_hdl,
+    pd_grp_hdl *grp_hdl,
+    bool *has_mbr,
+    bool *has_grp,
+    bool *is_default);
 int p4_pd_orbisk_switch_ingressMirrorLagGroup_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -15514,8 +16753,18 @@ const char *p4_pd_orbisk_switch_ingressMirrorRate_match_spec_schema(void);
 int p4_pd_orbisk_switch_ingressMirrorRate_schema(char *out);
 int p4_pd_orbisk_switch_ingressMirrorRate_ingMirrorMd_mirrorBufId_width(void);
 int p4_pd_orbisk_switch_ingressMirrorRate_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ingressMirrorRate_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_ingressMirrorRate_match_spec_value(const p4_pd_orbisk_switch_ingressMirrorRate_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_ingressMirrorRate_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ingressMirrorRate_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_ingressMirrorRate_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -15608,8 +16857,18 @@ int p4_pd_orbisk_switch_ingressMirrorResult_schema(char *out);
 int p4_pd_orbisk_switch_ingressMirrorResult_ingMirrorMd_mirrorColor_width(void);
 int p4_pd_orbisk_switch_ingressMirrorResult_ingMirrorMd_mirrorSession_width(void);
 int p4_pd_orbisk_switch_ingressMirrorResult_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ingressMirrorResult_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_ingressMirrorResult_match_spec_value(const p4_pd_orbisk_switch_ingressMirrorResult_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_ingressMirrorResult_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ingressMirrorResult_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_ingressMirrorResult_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -15751,8 +17010,19 @@ int p4_pd_orbisk_switch_egressMirrorSession_outerIpv4Hdr_protocol_width(void);
 int p4_pd_orbisk_switch_egressMirrorSession_outerIpv6Hdr_nextHdr_width(void);
 int p4_pd_orbisk_switch_egressMirrorSession_haloKeyOrig_isFrag_width(void);
 int p4_pd_orbisk_switch_egressMirrorSession_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_egressMirrorSession_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_egressMirrorSession_match_spec_value(const p4_pd_orbisk_switch_egressMirrorSession_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_egressMirrorSession_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_egressMirrorSession_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_egressMirrorSession_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -15861,8 +17131,21 @@ const char *p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_schema(void);
 int p4_pd_orbisk_switch_egressMirrorLagGroup_schema(char *out);
 int p4_pd_orbisk_switch_egressMirrorLagGroup_egrMirrorMd_mirrorSession_width(void);
 int p4_pd_orbisk_switch_egressMirrorLagGroup_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_value(const p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_t *match_spec,
+    pd_mbr_hdl *mbr_hdl,
+    pd_grp_hdl *grp_hdl,
+    bool *has_mbr,
+    bool *has_grp,
+    bool *is_default);
 int p4_pd_orbisk_switch_egressMirrorLagGroup_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -15962,8 +17245,18 @@ const char *p4_pd_orbisk_switch_egressMirrorRate_match_spec_schema(void);
 int p4_pd_orbisk_switch_egressMirrorRate_schema(char *out);
 int p4_pd_orbisk_switch_egressMirrorRate_egrMirrorMd_mirrorBufId_width(void);
 int p4_pd_orbisk_switch_egressMirrorRate_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_egressMirrorRate_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_egressMirrorRate_match_spec_value(const p4_pd_orbisk_switch_egressMirrorRate_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_egressMirrorRate_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_egressMirrorRate_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_egressMirrorRate_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -16060,8 +17353,18 @@ const char *p4_pd_orbisk_switch_egressMirrorResult_match_spec_schema(void);
 int p4_pd_orbisk_switch_egressMirrorResult_schema(char *out);
 int p4_pd_orbisk_switch_egressMirrorResult_egrMirrorMd_mirrorColor_width(void);
 int p4_pd_orbisk_switch_egressMirrorResult_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_egressMirrorResult_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_egressMirrorResult_match_spec_value(const p4_pd_orbisk_switch_egressMirrorResult_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_egressMirrorResult_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_egressMirrorResult_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_egressMirrorResult_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -16186,8 +17489,18 @@ int p4_pd_orbisk_switch_mirrorPacketEncap_schema(char *out);
 int p4_pd_orbisk_switch_mirrorPacketEncap_eg_intr_md_egress_rid_width(void);
 int p4_pd_orbisk_switch_mirrorPacketEncap_eg_intr_md_egress_port_width(void);
 int p4_pd_orbisk_switch_mirrorPacketEncap_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_mirrorPacketEncap_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_mirrorPacketEncap_match_spec_value(const p4_pd_orbisk_switch_mirrorPacketEncap_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_mirrorPacketEncap_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_mirrorPacketEncap_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_mirrorPacketEncap_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -16282,8 +17595,18 @@ const char *p4_pd_orbisk_switch_qosPortProperties_match_spec_schema(void);
 int p4_pd_orbisk_switch_qosPortProperties_schema(char *out);
 int p4_pd_orbisk_switch_qosPortProperties_ig_intr_md_ingress_port_width(void);
 int p4_pd_orbisk_switch_qosPortProperties_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_qosPortProperties_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_qosPortProperties_match_spec_value(const p4_pd_orbisk_switch_qosPortProperties_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_qosPortProperties_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_qosPortProperties_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_qosPortProperties_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -16415,8 +17738,18 @@ int p4_pd_orbisk_switch_normalizeCos_qosMd_defaultCos_width(void);
 int p4_pd_orbisk_switch_normalizeCos_vlanHdr_0__priority_width(void);
 int p4_pd_orbisk_switch_normalizeCos_vlanHdr_1__width(void);
 int p4_pd_orbisk_switch_normalizeCos_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_normalizeCos_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_normalizeCos_match_spec_value(const p4_pd_orbisk_switch_normalizeCos_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_normalizeCos_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_normalizeCos_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_normalizeCos_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -16570,8 +17903,18 @@ int p4_pd_orbisk_switch_normalizeDscp_schema(char *out);
 int p4_pd_orbisk_switch_normalizeDscp_egrMd_decapType_width(void);
 int p4_pd_orbisk_switch_normalizeDscp_ingMd_v4V6Valid_width(void);
 int p4_pd_orbisk_switch_normalizeDscp_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_normalizeDscp_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_normalizeDscp_match_spec_value(const p4_pd_orbisk_switch_normalizeDscp_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_normalizeDscp_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_normalizeDscp_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_normalizeDscp_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -16691,8 +18034,19 @@ int p4_pd_orbisk_switch_ingressTrafficClass_egrMd_decapType_width(void);
 int p4_pd_orbisk_switch_ingressTrafficClass_orbiskCpuHdr_trustMode_width(void);
 int p4_pd_orbisk_switch_ingressTrafficClass_orbiskCpuHdr_tc_width(void);
 int p4_pd_orbisk_switch_ingressTrafficClass_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ingressTrafficClass_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_ingressTrafficClass_match_spec_value(const p4_pd_orbisk_switch_ingressTrafficClass_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_ingressTrafficClass_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ingressTrafficClass_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_ingressTrafficClass_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -16796,8 +18150,18 @@ const char *p4_pd_orbisk_switch_tcDscpMap_match_spec_schema(void);
 int p4_pd_orbisk_switch_tcDscpMap_schema(char *out);
 int p4_pd_orbisk_switch_tcDscpMap_ig_intr_md_for_tm_ingress_cos_width(void);
 int p4_pd_orbisk_switch_tcDscpMap_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_tcDscpMap_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_tcDscpMap_match_spec_value(const p4_pd_orbisk_switch_tcDscpMap_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_tcDscpMap_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_tcDscpMap_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_tcDscpMap_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -16856,6 +18220,15 @@ pd_status p4_pd_orbisk_switch_qosRewriteConfig_register_mat_update_cb(pd_sess_hd
     void *cookie);
 int p4_pd_orbisk_switch_qosRewriteConfig_schema(char *out);
 int p4_pd_orbisk_switch_qosRewriteConfig_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_qosRewriteConfig_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_qosRewriteConfig_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_qosRewriteConfig_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -16986,8 +18359,18 @@ int p4_pd_orbisk_switch_qosRewrite_qosMd_dscpRewrite_width(void);
 int p4_pd_orbisk_switch_qosRewrite_ig_intr_md_for_tm_ingress_cos_width(void);
 int p4_pd_orbisk_switch_qosRewrite_egrMd_decapType_width(void);
 int p4_pd_orbisk_switch_qosRewrite_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_qosRewrite_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_qosRewrite_match_spec_value(const p4_pd_orbisk_switch_qosRewrite_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_qosRewrite_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_qosRewrite_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_qosRewrite_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -17181,8 +18564,19 @@ int p4_pd_orbisk_switch_packetDscpRewrite_outerIpv4Hdr_width(void);
 int p4_pd_orbisk_switch_packetDscpRewrite_outerIpv6Hdr_width(void);
 int p4_pd_orbisk_switch_packetDscpRewrite_encapIpv4Hdr_width(void);
 int p4_pd_orbisk_switch_packetDscpRewrite_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_packetDscpRewrite_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_packetDscpRewrite_match_spec_value(const p4_pd_orbisk_switch_packetDscpRewrite_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_packetDscpRewrite_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_packetDscpRewrite_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_packetDscpRewrite_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -17240,6 +18634,15 @@ pd_status p4_pd_orbisk_switch_queueCounters_register_mat_update_cb(pd_sess_hdl s
     void *cookie);
 int p4_pd_orbisk_switch_queueCounters_schema(char *out);
 int p4_pd_orbisk_switch_queueCounters_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_queueCounters_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_queueCounters_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_queueCounters_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -17371,8 +18774,19 @@ int p4_pd_orbisk_switch_pdpClassify_ingMd_protocol_width(void);
 int p4_pd_orbisk_switch_pdpClassify_ingMd_srcPort_width(void);
 int p4_pd_orbisk_switch_pdpClassify_ingMd_dstPort_width(void);
 int p4_pd_orbisk_switch_pdpClassify_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_pdpClassify_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_pdpClassify_match_spec_value(const p4_pd_orbisk_switch_pdpClassify_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_pdpClassify_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_pdpClassify_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_pdpClassify_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -17474,8 +18888,18 @@ int p4_pd_orbisk_switch_pdpPolicy_schema(char *out);
 int p4_pd_orbisk_switch_pdpPolicy_qosMd_pdpDrop_width(void);
 int p4_pd_orbisk_switch_pdpPolicy_qosMd_pdpClassId_width(void);
 int p4_pd_orbisk_switch_pdpPolicy_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_pdpPolicy_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_pdpPolicy_match_spec_value(const p4_pd_orbisk_switch_pdpPolicy_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_pdpPolicy_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_pdpPolicy_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_pdpPolicy_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -17685,8 +19109,19 @@ int p4_pd_orbisk_switch_trapToCpu_ingIpv6_dip_width(void);
 int p4_pd_orbisk_switch_trapToCpu_ingMd_cpuMemberOfIngressVlan_width(void);
 int p4_pd_orbisk_switch_trapToCpu_egrMd_cpuReasonCode_width(void);
 int p4_pd_orbisk_switch_trapToCpu_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_trapToCpu_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_trapToCpu_match_spec_value(const p4_pd_orbisk_switch_trapToCpu_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_trapToCpu_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_trapToCpu_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_trapToCpu_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -17779,8 +19214,18 @@ int p4_pd_orbisk_switch_switchToCpu_schema(char *out);
 int p4_pd_orbisk_switch_switchToCpu_l3Info_ipRouting_width(void);
 int p4_pd_orbisk_switch_switchToCpu_ingMd_v4V6Valid_width(void);
 int p4_pd_orbisk_switch_switchToCpu_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_switchToCpu_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_switchToCpu_match_spec_value(const p4_pd_orbisk_switch_switchToCpu_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_switchToCpu_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_switchToCpu_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_switchToCpu_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -17990,8 +19435,19 @@ int p4_pd_orbisk_switch_cpuEncap_ingMd_subIntf_width(void);
 int p4_pd_orbisk_switch_cpuEncap_vlanHdr_0__width(void);
 int p4_pd_orbisk_switch_cpuEncap_l3RsvdQueue_width(void);
 int p4_pd_orbisk_switch_cpuEncap_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_cpuEncap_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_cpuEncap_match_spec_value(const p4_pd_orbisk_switch_cpuEncap_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_cpuEncap_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_cpuEncap_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_cpuEncap_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -18129,8 +19585,18 @@ int p4_pd_orbisk_switch_cpuEncapFields_egrMd_ingressTagged_width(void);
 int p4_pd_orbisk_switch_cpuEncapFields_egrMd_decapType_width(void);
 int p4_pd_orbisk_switch_cpuEncapFields_encapEthHdr_width(void);
 int p4_pd_orbisk_switch_cpuEncapFields_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_cpuEncapFields_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_cpuEncapFields_match_spec_value(const p4_pd_orbisk_switch_cpuEncapFields_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_cpuEncapFields_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_cpuEncapFields_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_cpuEncapFields_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -18251,8 +19717,19 @@ int p4_pd_orbisk_switch_ingMtu_outerIpv4Hdr_width(void);
 int p4_pd_orbisk_switch_ingMtu_outerIpv4Hdr_totalLen_width(void);
 int p4_pd_orbisk_switch_ingMtu_outerIpv6Hdr_payloadLen_width(void);
 int p4_pd_orbisk_switch_ingMtu_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ingMtu_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_ingMtu_match_spec_value(const p4_pd_orbisk_switch_ingMtu_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_ingMtu_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ingMtu_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_ingMtu_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -18373,8 +19850,19 @@ int p4_pd_orbisk_switch_mtuCheck_ingMd_egrMtuId_width(void);
 int p4_pd_orbisk_switch_mtuCheck_egrMd_routed_width(void);
 int p4_pd_orbisk_switch_mtuCheck_egrMd_egrL2AintfUnresolved_width(void);
 int p4_pd_orbisk_switch_mtuCheck_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_mtuCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_mtuCheck_match_spec_value(const p4_pd_orbisk_switch_mtuCheck_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_mtuCheck_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_mtuCheck_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_mtuCheck_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -18600,8 +20088,19 @@ int p4_pd_orbisk_switch_finalDropControl_ingMd_stormControlDrop_width(void);
 int p4_pd_orbisk_switch_finalDropControl_ingMd_bcast_width(void);
 int p4_pd_orbisk_switch_finalDropControl_ingMd_mcast_width(void);
 int p4_pd_orbisk_switch_finalDropControl_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_finalDropControl_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_finalDropControl_match_spec_value(const p4_pd_orbisk_switch_finalDropControl_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_finalDropControl_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_finalDropControl_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_finalDropControl_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -18729,8 +20228,19 @@ int p4_pd_orbisk_switch_finalDropControlIB_egrMd_trapToCpu_width(void);
 int p4_pd_orbisk_switch_finalDropControlIB_egrMd_routed_width(void);
 int p4_pd_orbisk_switch_finalDropControlIB_eif_eifDrop_width(void);
 int p4_pd_orbisk_switch_finalDropControlIB_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_finalDropControlIB_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_finalDropControlIB_match_spec_value(const p4_pd_orbisk_switch_finalDropControlIB_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_finalDropControlIB_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_finalDropControlIB_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_finalDropControlIB_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -18825,8 +20335,18 @@ const char *p4_pd_orbisk_switch_eifIngPolicy_match_spec_schema(void);
 int p4_pd_orbisk_switch_eifIngPolicy_schema(char *out);
 int p4_pd_orbisk_switch_eifIngPolicy_ingMd_ingL3Aintf_width(void);
 int p4_pd_orbisk_switch_eifIngPolicy_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_eifIngPolicy_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_eifIngPolicy_match_spec_value(const p4_pd_orbisk_switch_eifIngPolicy_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_eifIngPolicy_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_eifIngPolicy_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_eifIngPolicy_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -18884,6 +20404,15 @@ pd_status p4_pd_orbisk_switch_eifParamsForIngress_register_mat_update_cb(pd_sess
     void *cookie);
 int p4_pd_orbisk_switch_eifParamsForIngress_schema(char *out);
 int p4_pd_orbisk_switch_eifParamsForIngress_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_eifParamsForIngress_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_eifParamsForIngress_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_eifParamsForIngress_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -18971,8 +20500,18 @@ const char *p4_pd_orbisk_switch_eifParamsForEgress_match_spec_schema(void);
 int p4_pd_orbisk_switch_eifParamsForEgress_schema(char *out);
 int p4_pd_orbisk_switch_eifParamsForEgress_egrMd_egrL2Domain_width(void);
 int p4_pd_orbisk_switch_eifParamsForEgress_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_eifParamsForEgress_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_eifParamsForEgress_match_spec_value(const p4_pd_orbisk_switch_eifParamsForEgress_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_eifParamsForEgress_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_eifParamsForEgress_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_eifParamsForEgress_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -19078,8 +20617,18 @@ int p4_pd_orbisk_switch_eifPinHole_ingMd_protocol_width(void);
 int p4_pd_orbisk_switch_eifPinHole_eif_matchAddr_width(void);
 int p4_pd_orbisk_switch_eifPinHole_eif_matchL4Port_width(void);
 int p4_pd_orbisk_switch_eifPinHole_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_eifPinHole_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_eifPinHole_match_spec_value(const p4_pd_orbisk_switch_eifPinHole_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_eifPinHole_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_eifPinHole_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_eifPinHole_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -19197,8 +20746,18 @@ const char *p4_pd_orbisk_switch_eifPinHoleHits_match_spec_schema(void);
 int p4_pd_orbisk_switch_eifPinHoleHits_schema(char *out);
 int p4_pd_orbisk_switch_eifPinHoleHits_eif_matchedIdx_width(void);
 int p4_pd_orbisk_switch_eifPinHoleHits_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_eifPinHoleHits_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_eifPinHoleHits_match_spec_value(const p4_pd_orbisk_switch_eifPinHoleHits_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_eifPinHoleHits_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_eifPinHoleHits_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_eifPinHoleHits_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -19358,8 +20917,19 @@ int p4_pd_orbisk_switch_eifAcl_ingIpv6_sip_width(void);
 int p4_pd_orbisk_switch_eifAcl_ingMd_srcPort_width(void);
 int p4_pd_orbisk_switch_eifAcl_ingMd_dstPort_width(void);
 int p4_pd_orbisk_switch_eifAcl_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_eifAcl_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_eifAcl_match_spec_value(const p4_pd_orbisk_switch_eifAcl_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_eifAcl_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_eifAcl_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_eifAcl_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -19488,8 +21058,19 @@ int p4_pd_orbisk_switch_eifForwardToPeerAcl_eif_policy_width(void);
 int p4_pd_orbisk_switch_eifForwardToPeerAcl_ingIpv6_dip_width(void);
 int p4_pd_orbisk_switch_eifForwardToPeerAcl_ingIpv6_sip_width(void);
 int p4_pd_orbisk_switch_eifForwardToPeerAcl_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_eifForwardToPeerAcl_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec_value(const p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_eifForwardToPeerAcl_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_eifForwardToPeerAcl_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -19614,8 +21195,22 @@ int p4_pd_orbisk_switch_foldedPipeDest_l3Info_vrfId_width(void);
 int p4_pd_orbisk_switch_foldedPipeDest_l3Info_ingL3DmacValid_width(void);
 int p4_pd_orbisk_switch_foldedPipeDest_ig_intr_md_ingress_port_width(void);
 int p4_pd_orbisk_switch_foldedPipeDest_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_foldedPipeDest_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_foldedPipeDest_match_spec_value(const p4_pd_orbisk_switch_foldedPipeDest_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_foldedPipeDest_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_foldedPipeDest_match_spec_t *match_spec,
+    uint32_t *priority,
+    pd_mbr_hdl *mbr_hdl,
+    pd_grp_hdl *grp_hdl,
+    bool *has_mbr,
+    bool *has_grp,
+    bool *is_default);
 int p4_pd_orbisk_switch_foldedPipeDest_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -19743,8 +21338,19 @@ int p4_pd_orbisk_switch_foldedPipeQos_ingMd_tcpFlags_width(void);
 int p4_pd_orbisk_switch_foldedPipeQos_qosMd_dscp_width(void);
 int p4_pd_orbisk_switch_foldedPipeQos_l3Info_ingL3DmacValid_width(void);
 int p4_pd_orbisk_switch_foldedPipeQos_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_foldedPipeQos_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_foldedPipeQos_match_spec_value(const p4_pd_orbisk_switch_foldedPipeQos_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_foldedPipeQos_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_foldedPipeQos_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_foldedPipeQos_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -19833,8 +21439,18 @@ int p4_pd_orbisk_switch_foldedPipeCounters_schema(char *out);
 int p4_pd_orbisk_switch_foldedPipeCounters_ig_intr_md_for_tm_ucast_egress_port_width(void);
 int p4_pd_orbisk_switch_foldedPipeCounters_ingMd_foldedPipeQid_width(void);
 int p4_pd_orbisk_switch_foldedPipeCounters_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_foldedPipeCounters_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
 int p4_pd_orbisk_switch_foldedPipeCounters_match_spec_value(const p4_pd_orbisk_switch_foldedPipeCounters_match_spec_t *match_spec,
     char *out);
+pd_status p4_pd_orbisk_switch_foldedPipeCounters_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_foldedPipeCounters_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 int p4_pd_orbisk_switch_foldedPipeCounters_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -19972,6 +21588,24 @@ pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_register_sel_update_
     uint32_t dev_id,
     pd_sel_update_cb callback,
     void *cookie);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_mbr_hdl mbr_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_sel_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_grp_hdl grp_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_get_member_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_get_full_member_info_from_plcmt_data(uint8_t dev_id,
+    pd_mbr_hdl mbr_hdl,
+    const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec);
 
 /* mirrorLagPortActionProfile: action data table 0x0200001d, selector table 0x03000001;
  * entries of ingressMirrorLagGroup name its members and groups.
@@ -20097,6 +21731,24 @@ pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_register_sel_update_cb(
     uint32_t dev_id,
     pd_sel_update_cb callback,
     void *cookie);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_mbr_hdl mbr_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_sel_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_grp_hdl grp_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_get_member_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_get_full_member_info_from_plcmt_data(uint8_t dev_id,
+    pd_mbr_hdl mbr_hdl,
+    const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec);
 
 /* foldedPipeActionProfile: action data table 0x02000021, selector table 0x03000002;
  * entries of foldedPipeDest name its members and groups.
@@ -20222,6 +21874,24 @@ pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_register_sel_update_cb(pd_
     uint32_t dev_id,
     pd_sel_update_cb callback,
     void *cookie);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_mbr_hdl mbr_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_sel_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_grp_hdl grp_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_get_member_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_get_full_member_info_from_plcmt_data(uint8_t dev_id,
+    pd_mbr_hdl mbr_hdl,
+    const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec);
 
 /* ecmpMemberActionProfile: action data table 0x12010003, selector table 0x13010001;
  * entries of ecmpGroup name its members and groups.
@@ -20347,6 +22017,24 @@ pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_register_sel_update_cb(pd_
     uint32_t dev_id,
     pd_sel_update_cb callback,
     void *cookie);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_mbr_hdl mbr_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_sel_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_grp_hdl grp_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_get_member_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_get_full_member_info_from_plcmt_data(uint8_t dev_id,
+    pd_mbr_hdl mbr_hdl,
+    const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec);
 
 /* tunnelMemberActionProfile: action data table 0x1201000c, selector table 0x13010002;
  * entries of tunnelResolve name its members and groups.
@@ -20472,6 +22160,24 @@ pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_register_sel_update_cb(p
     uint32_t dev_id,
     pd_sel_update_cb callback,
     void *cookie);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_mbr_hdl mbr_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_sel_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_grp_hdl grp_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_get_member_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_get_full_member_info_from_plcmt_data(uint8_t dev_id,
+    pd_mbr_hdl mbr_hdl,
+    const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec);
 
 /* lagPortActionProfile: action data table 0x1201000e, selector table 0x13010003;
  * entries of lagGroup name its members and groups.
@@ -20616,6 +22322,24 @@ pd_status p4_pd_orbisk_switch_lagPortActionProfile_register_sel_update_cb(pd_ses
     uint32_t dev_id,
     pd_sel_update_cb callback,
     void *cookie);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_mbr_hdl mbr_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_sel_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_grp_hdl grp_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_get_member_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_get_full_member_info_from_plcmt_data(uint8_t dev_id,
+    pd_mbr_hdl mbr_hdl,
+    const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec);
 
 /* ------------------------------------------------------------------ */
 /* counters, meters and registers */
