@@ -366,6 +366,20 @@ pd_status case_finalDropControl_value(uint32_t i) {
   return n > 0 ? BF_SUCCESS : 1;
 }
 
+// An l2Lookup entry's placement record against the chip: the stub decodes
+// any record as the entry its read answers, so the two sides agree and every
+// field is compared.
+char g_error[128];
+uint8_t g_plcmt[64];
+
+pd_status case_l2Lookup_plcmt_data_eq_to_hw(uint32_t i) {
+  pd_entry_hdl hdl = 1 + (i & 0xFFFFu);
+  benchmark::DoNotOptimize(hdl);
+  const int eq = p4_pd_orbisk_switch_l2Lookup_plcmt_data_eq_to_hw(kSess, 0, 0, hdl, g_plcmt, g_error);
+  benchmark::DoNotOptimize(g_error);
+  return eq == 1 ? BF_SUCCESS : 1;
+}
+
 // Schema text: the longest table text, written into a buffer just big
 // enough; the same table through the dispatch by handle; and an action tuple,
 // which is a constant handed out as it stands.
@@ -606,6 +620,7 @@ constexpr Case kCases[] = {
     make_case<case_cli_schema_by_handle>("cli_schema_by_handle", "text"),
     make_case<case_setNextHop_schema>("setNextHop_schema", "text"),
     make_case<case_finalDropControl_value>("finalDropControl_value", "text"),
+    make_case<case_l2Lookup_plcmt_data_eq_to_hw>("l2Lookup_plcmt_data_eq_to_hw", "text"),
     make_case<case_counter_read>("counter_read_l2DmacClassifyCount", "resource"),
     make_case<case_counter_read_reference>("counter_read_l2DmacClassifyCount_reference", "resource"),
     make_case<case_meter_set>("meter_set_stormControlMeter", "resource"),

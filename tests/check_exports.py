@@ -90,6 +90,8 @@ def main(lib, root):
     # Value text and comparison.
     for t in tables:
         add("table_value", "%s%s_value" % (P, t["name"]))
+        add("plcmt_data_value", "%s%s_plcmt_data_value" % (P, t["name"]))
+        add("plcmt_data_eq_to_hw", "%s%s_plcmt_data_eq_to_hw" % (P, t["name"]))
         if t.get("fields"):
             add("match_spec_value", "%s%s_match_spec_value" % (P, t["name"]))
             add("match_specs_are_equal", "%s%s_match_specs_are_equal" % (P, t["name"]))
@@ -97,7 +99,10 @@ def main(lib, root):
         add("action_value", "%s%s_value" % (P, a))
         if ps:
             add("action_specs_are_equal", "%s%s_action_specs_are_equal" % (P, a))
-    add("value_dispatch", P + "entry_value")
+    for p in program["profiles"]:
+        add("profile_plcmt_data_value", "%s%s_plcmt_data_value" % (P, p["name"]))
+    for s in ("entry_value", "plcmt_data_value", "adt_plcmt_data_value", "plcmt_data_eq_to_hw"):
+        add("value_dispatch", P + s)
     for p in program["profiles"]:
         for a in p["actions"]:
             add("add_member", "%s%s_add_member_with_%s" % (P, p["name"], a["name"]))
@@ -179,7 +184,8 @@ def main(lib, root):
              "add_member": 15, "modify_member": 15, "members": 42, "groups": 126,
              "indirect": 48, "indirect_get_entry": 6,
              "table_value": 154, "match_spec_value": 136, "action_value": 296,
-             "match_specs_are_equal": 136, "action_specs_are_equal": 150, "value_dispatch": 1,
+             "match_specs_are_equal": 136, "action_specs_are_equal": 150, "value_dispatch": 4,
+             "plcmt_data_value": 154, "profile_plcmt_data_value": 6, "plcmt_data_eq_to_hw": 154,
              "hash_calc": 120, "pvs": 70, "digest": 9, "snapshot": 4,
              "plcmt_data": 154, "plcmt_decode": 154, "profile_plcmt": 24}
     failed = False

@@ -10,7 +10,7 @@ Input lines, tab-separated:
   S table schema-text
   E|D table value-text written-key action written-params priority
       match-spec-value-text action-value-text value-text-from-hardware
-      entry_value-text
+      entry_value-text placement-text plcmt_data_value-text eq_to_hw
 E is an entry, D the default entry; written values are raw hexadecimal, one
 per key element (field, then its mask or prefix length), "-" for none."""
 
@@ -42,7 +42,8 @@ def main(path):
     for r in rows:
         if r[0] not in "ED":
             continue
-        kind, table, text, key, action, params, prio, key_text, act_text, hw_text, by_hdl = r
+        (kind, table, text, key, action, params, prio, key_text, act_text, hw_text, by_hdl, plcmt, plcmt_by_hdl,
+         eq) = r
         head, keys, acts = schema[table]
         written = [int(x, 16) for x in key.split(",")[:-1]] if key != "-" else []
         got = ast.literal_eval(text)
@@ -67,6 +68,11 @@ def main(path):
         check(text == full, "%s %s: %s, want %s" % (table, kind, text, full))
         check(hw_text == text, "%s %s: from hardware %s" % (table, kind, hw_text))
         check(by_hdl == text, "%s %s: entry_value %s" % (table, kind, by_hdl))
+        # The placement record: the same pair of key and action, no priority.
+        check(plcmt == "(" + expect + act + ")", "%s %s: placement text %s" % (table, kind, plcmt))
+        check(ast.literal_eval(plcmt) == want[0], "%s %s: placement evaluates to %r" % (table, kind, plcmt))
+        check(plcmt_by_hdl == plcmt, "%s %s: plcmt_data_value %s" % (table, kind, plcmt_by_hdl))
+        check(eq == "1 untouched", "%s %s: against the chip: %s" % (table, kind, eq))
     check(checked > 300, "only %d entries" % checked)
     for f in fails[:30]:
         print("FAIL", f)

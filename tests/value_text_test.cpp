@@ -1,6 +1,7 @@
 // Value text and comparison. The sweep writes an entry of every action of
 // every direct table through the driver model, and the default entries,
-// reads each back as value text, and hands all the texts with what was
+// reads each back as value text and its placement record as text, compares
+// it with the chip, and hands all the texts with what was
 // written to check_value_text.py, which evaluates them with python3's own
 // literal evaluator, pairs them with the schema texts and renders the texts
 // it expects on its own. The worked texts and messages are checked byte for
@@ -9,6 +10,9 @@
 
 #include <cstdio>
 #include <fstream>
+#include <functional>
+
+#include <zlib.h>
 #include <sstream>
 #include <string>
 
@@ -121,6 +125,55 @@ std::string text(F write) {
   return std::strlen(buf) == std::size_t(n) && n < P4_PD_ORBISK_SWITCH_VALUE_MAX ? std::string(buf) : "overrun";
 }
 
+// ------------------------------------------------- placement and hardware ---
+
+using PlacementFetchFn = pd_status (*)(pd_sess_hdl, pd_dev_target, pd_tbl_hdl, uint32_t, void *, uint32_t *);
+using PlacementValueFn = int (*)(const void *, char *);
+using EqToHwFn = int (*)(pd_sess_hdl, uint8_t, pd_tbl_hdl, pd_entry_hdl, const void *, char *);
+
+// A placement record as the model hands it out: of an entry of a table, or
+// of a member of a profile.
+struct Placement {
+  alignas(8) uint8_t bytes[ORBISK_MODEL_PLACEMENT_MAX_BYTES];
+  uint32_t size = sizeof bytes;
+};
+
+Placement placement_of(const std::string &object, uint32_t hdl) {
+  Placement p;
+  EXPECT_EQ(BF_SUCCESS, exported<PlacementFetchFn>(object + "_get_plcmt_data")(kSess, {0, PD_DEV_PIPE_ALL}, 0, hdl,
+                                                                                 p.bytes, &p.size))
+      << object << " " << hdl;
+  return p;
+}
+
+// A selector entry's record made to name neither a member nor a group: its
+// record kind (byte 48 of the model's documented format) that of an entry
+// holding its own action, its checksum (bytes 12 to 15, over the rest) made
+// again.
+void name_neither(Placement &p) {
+  p.bytes[48] = PD_RECORD_KIND_DIRECT;
+  uint32_t length;
+  std::memcpy(&length, p.bytes + 8, 4);
+  uLong c = crc32(crc32(0L, Z_NULL, 0), p.bytes, 12);
+  c = crc32(c, p.bytes + 16, uInt(length - 16));
+  const uint32_t crc = uint32_t(c);
+  std::memcpy(p.bytes + 12, &crc, 4);
+}
+
+// The comparison of a table's entry with the chip: its result, and the
+// message or "untouched".
+std::string eq_to_hw(const TableDesc &t, pd_entry_hdl hdl, bool neither = false) {
+  Placement p = placement_of(t.name, hdl);
+  if (neither) name_neither(p);
+  char error[128] = "untouched";
+  const int eq = exported<EqToHwFn>(std::string(t.name) + "_plcmt_data_eq_to_hw")(kSess, 0, 0, hdl, p.bytes, error);
+  char by_handle[128] = "untouched";
+  const int again = p4_pd_orbisk_switch_plcmt_data_eq_to_hw(kSess, 0, t.handle, hdl, p.bytes, 0xDEAD, by_handle);
+  EXPECT_EQ(eq, again) << "by handle";
+  EXPECT_STREQ(error, by_handle) << "by handle";
+  return std::to_string(eq) + " " + error;
+}
+
 class ValueText : public OnModel {};
 
 // One line per text, tab-separated, for check_value_text.py.
@@ -139,9 +192,16 @@ struct Sweep {
     const std::string act = a.num_params
         ? text([&](char *o) { return exported<RecordValueFn>(std::string(a.name) + "_value")(as, o); })
         : text(exported<BareValueFn>(std::string(a.name) + "_value"));
+    // The entry's placement record, as text by table and by handle, and
+    // against the chip, which holds what software wrote.
+    const Placement p = placement_of(t.name, hdl);
+    const std::string plcmt =
+        text([&](char *o) { return exported<PlacementValueFn>(std::string(t.name) + "_plcmt_data_value")(p.bytes, o); });
+    const std::string plcmt_by_hdl =
+        text([&](char *o) { return p4_pd_orbisk_switch_plcmt_data_value(t.handle, p.bytes, o); });
     out << kind << '\t' << t.name << '\t' << v << '\t' << (ms ? written_key(t, ms) : "-") << '\t' << a.name << '\t'
         << written_params(a, as) << '\t' << priority << '\t' << key << '\t' << act << '\t' << hw << '\t' << by_hdl
-        << '\n';
+        << '\t' << plcmt << '\t' << plcmt_by_hdl << '\t' << eq_to_hw(t, hdl) << '\n';
   }
 };
 
@@ -403,6 +463,186 @@ TEST(Compare, KeysAndParametersUnderTheSchemaMasks) {
     EXPECT_EQ(c.want ? 0 : 1, eq) << c.name << " at " << c.field;
     EXPECT_STREQ(c.want ? c.want : "untouched", error) << c.name << " at " << c.field;
   }
+}
+
+using Change = std::function<pd_status(pd_tbl_hdl, pd_entry_hdl)>;
+
+// One field of the chip's copy of an entry changed: the exact message, or 1
+// with the buffer untouched; each row a fresh model.
+TEST_F(ValueText, HardwareDifferencesOfEveryKind) {
+  const TableDesc &port = table("ingressPortMapping"), &dmac = table("l2DmacClassify"),
+                  &vlan = table("l2DomainLookup"), &v6 = table("ipv6Host"), &v4 = table("ipv4Host"),
+                  &decap = table("vlanDecap");
+  const auto &vlan_id = vlan.fields[3];
+  const auto &v6_dip = v6.fields[1];
+  const uint32_t next_hop = by_name::use(v4, "setNextHop").action->enum_value;
+  const uint32_t next_hop2 = by_name::use(v4, "setNextHop2").action->enum_value;
+  const pd_act_fn_hdl fn2 = by_name::fn(v4, "setNextHop2");
+  struct Case {
+    const char *what;
+    const TableDesc &t;
+    const char *action;  // nullptr: the table's default entry
+    Change change;
+    std::string want;
+  };
+  const Case cases[] = {
+      {"key", port, "setPhase0", [](pd_tbl_hdl t, pd_entry_hdl e) { return orbisk_model_hw_flip_key(0, t, e, 1, 1); },
+       "0 mspec ig_intr_md_ingress_port differs 0x11 vs 0x10"},
+      {"key bit under no mask", dmac, "setBcast",
+       [](pd_tbl_hdl t, pd_entry_hdl e) { return orbisk_model_hw_flip_key(0, t, e, 0, 1); }, "1 untouched"},
+      {"mask", vlan, "setL2DomainTagged",
+       [&](pd_tbl_hdl t, pd_entry_hdl e) { return orbisk_model_hw_flip_mask(0, t, e, vlan_id.key_offset + 1, 1); },
+       "0 mspec vlanHdr_0__vlanId_mask differs 0xfff vs 0xffe"},
+      {"128-bit key", v6, "setNextHop",
+       [&](pd_tbl_hdl t, pd_entry_hdl e) { return orbisk_model_hw_flip_key(0, t, e, v6_dip.key_offset + 3, 0x10); },
+       "0 mspec ingIpv6_dip differs"},
+      {"action", v4, "setNextHop", [&](pd_tbl_hdl t, pd_entry_hdl e) { return orbisk_model_hw_set_action(0, t, e, fn2); },
+       "0 actions differ 0x" + hex(next_hop) + ", vs 0x" + hex(next_hop2)},
+      {"parameter", v4, "setNextHop",
+       [](pd_tbl_hdl t, pd_entry_hdl e) { return orbisk_model_hw_flip_data(0, t, e, 3, 1); },
+       "0 aspec action_nextHop differs 0x7 vs 0x6"},
+      {"priority alone", dmac, "setBcast",
+       [](pd_tbl_hdl t, pd_entry_hdl e) { return orbisk_model_hw_set_priority(0, t, e, 99); }, "1 untouched"},
+      {"hw default, pd not: the keys decide", v4, "setNextHop",
+       [](pd_tbl_hdl t, pd_entry_hdl e) { return orbisk_model_hw_set_default(0, t, e, true); },
+       "0 mspec l3Info_vrfId differs 0x11 vs 0x0"},
+      {"pd default, hw not", v4, nullptr,
+       [](pd_tbl_hdl t, pd_entry_hdl e) { return orbisk_model_hw_set_default(0, t, e, false); },
+       "0 pd entry is default but not hw"},
+      {"both default: keys skipped, actions compared", v4, nullptr,
+       [&](pd_tbl_hdl t, pd_entry_hdl e) { return orbisk_model_hw_set_action(0, t, e, fn2); },
+       "0 actions differ 0x" + hex(by_name::use(v4, "onMiss").action->enum_value) + ", vs 0x" + hex(next_hop2)},
+      {"keyless table, hw not default", decap, nullptr,
+       [](pd_tbl_hdl t, pd_entry_hdl e) { return orbisk_model_hw_set_default(0, t, e, false); }, "1 untouched"},
+      {"dropped from hardware", v4, "setNextHop",
+       [](pd_tbl_hdl t, pd_entry_hdl e) { return orbisk_model_hw_drop(0, t, e); },
+       "0 p4_pd_orbisk_switch_ipv4Host_get_entry failed"},
+      {"unchanged", v6, "setNextHop", [](pd_tbl_hdl, pd_entry_hdl) { return BF_SUCCESS; }, "1 untouched"},
+  };
+  for (const Case &c : cases) {
+    SetUp();
+    Record ms, as;
+    if (c.t.keyed()) store(ms.b + c.t.fields[0].host_offset, c.t.fields[0].bits, 0x11);
+    if (c.t.keyed() && c.t.fields[0].match == FieldMatch::Ternary) store(ms.b + c.t.fields[0].partner_offset, 9, 0x1FF);
+    if (&c.t == &vlan) store(ms.b + vlan_id.partner_offset, 12, 0xFFF);
+    store(as.b, 32, 7);
+    const pd_entry_hdl e = c.action ? add(c.t, c.action, ms, as) : ORBISK_MODEL_DEFAULT_ENTRY_HDL;
+    ASSERT_EQ(BF_SUCCESS, c.change(c.t.handle, e)) << c.what;
+    EXPECT_EQ(c.want, eq_to_hw(c.t, e)) << c.what;
+    TearDown();
+  }
+}
+
+// The decision on what an entry reached through a selector names, row by
+// row: software's side from the entry's placement record, the chip's set
+// through the model.
+TEST_F(ValueText, SelectorDecisionRows) {
+  const TableDesc &t = table("ecmpGroup");
+  enum Pd { kMember, kGroup, kDefaultGroup, kNeither };
+  struct Row {
+    Pd pd;
+    uint8_t hw_kind;   // 0 none, 2 member, 4 group; 0xFF unchanged
+    int32_t hw_hdl;    // -1: software's own handle, -2: another
+    const char *want;  // "%pd" and "%hw" stand for the two handles
+  };
+  const Row rows[] = {
+      {kMember, 0, 0, "0 no mbr_hdl in hw"},
+      {kMember, 2, 0, "1 untouched"},
+      {kMember, 0xFF, 0, "1 untouched"},
+      {kMember, 2, -2, "0 mbr_hdl differs: mbr_hdl_pd=0x%pd, mbr_hdl_hw=0x%hw"},
+      {kGroup, 4, -2, "1 untouched"},
+      {kGroup, 0, 0, "0 pd has group handle but not hw"},
+      {kGroup, 2, -1, "0 pd has group handle but not hw"},
+      {kDefaultGroup, 0, 0, "1 untouched"},
+      {kNeither, 2, 0, "1 untouched"},
+      {kNeither, 2, 5, "0 hw has mbr_hdl but not pd"},
+      {kNeither, 0, 0, "1 untouched"},
+      {kNeither, 4, 0, "1 untouched"},
+      {kNeither, 4, 3, "0 hw has grp_hdl but not pd"},
+  };
+  for (const Row &r : rows) {
+    SetUp();
+    Record ms;
+    store(ms.b, 15, 0x12);
+    uint32_t pd_hdl = 0;
+    // Software's record of an entry naming neither is a member's made so.
+    pd_entry_hdl e = add_selection(t, ms, r.pd == kGroup || r.pd == kDefaultGroup, pd_hdl);
+    if (r.pd == kDefaultGroup) {
+      pd_entry_hdl d = 0;
+      ASSERT_EQ(BF_SUCCESS, exported<pd_status (*)(pd_sess_hdl, pd_dev_target, pd_grp_hdl, pd_entry_hdl *)>(
+                                "ecmpGroup_set_default_entry_with_selector")(kSess, {0, PD_DEV_PIPE_ALL}, pd_hdl, &d));
+      e = d;
+    }
+    const uint32_t hw_hdl = r.hw_hdl == -1 ? pd_hdl : r.hw_hdl == -2 ? pd_hdl + 1 : uint32_t(r.hw_hdl);
+    if (r.hw_kind != 0xFF) {
+      ASSERT_EQ(BF_SUCCESS, orbisk_model_hw_set_selection(0, t.handle, e, r.hw_kind, hw_hdl));
+    }
+    std::string want = r.want;
+    if (auto at = want.find("%pd"); at != std::string::npos) want.replace(at, 3, hex(pd_hdl));
+    if (auto at = want.find("%hw"); at != std::string::npos) want.replace(at, 3, hex(hw_hdl));
+    EXPECT_EQ(want, eq_to_hw(t, e, r.pd == kNeither)) << "pd " << r.pd << ", hw kind " << int(r.hw_kind) << " handle " << hw_hdl;
+    TearDown();
+  }
+}
+
+// Placement records as value text: the worked texts, a record that cannot
+// be decoded (0, the buffer untouched), and the dispatchers' misses.
+TEST_F(ValueText, PlacementTexts) {
+  const TableDesc &ecmp = table("ecmpGroup");
+  const orbisk::pd::ProfileDesc &members = *ecmp.profile;
+  Record ms;
+  store(ms.b, 15, 0x12);
+  uint32_t grp = 0;
+  const Placement entry = placement_of(ecmp.name, add_selection(ecmp, ms, true, grp));
+  ref = grp;
+  EXPECT_EQ("(( 0x0012,),('setGrpHdl',(0x9,)))",
+            as_handle(text([&](char *o) { return exported<PlacementValueFn>("ecmpGroup_plcmt_data_value")(entry.bytes, o); }),
+                      "9"));
+  Placement neither = entry;
+  name_neither(neither);
+  EXPECT_EQ("(( 0x0012,),)", text([&](char *o) { return p4_pd_orbisk_switch_plcmt_data_value(ecmp.handle, neither.bytes, o); }))
+      << "a selector entry naming neither: its key, then the end";
+  pd_mbr_hdl mbr = 0;
+  const p4_pd_orbisk_switch_setEcmpNextHop_action_spec_t next_hop = {5, 7};
+  ASSERT_EQ(BF_SUCCESS, p4_pd_orbisk_switch_ecmpMemberActionProfile_add_member_with_setEcmpNextHop(
+                            kSess, {0, PD_DEV_PIPE_ALL}, &next_hop, &mbr));
+  const Placement member = placement_of(members.name, mbr);
+  const std::string worked = "('setEcmpNextHop',(0x05,0x00000007,)),";
+  EXPECT_EQ(worked, text([&](char *o) {
+              return exported<PlacementValueFn>("ecmpMemberActionProfile_plcmt_data_value")(member.bytes, o);
+            }));
+  EXPECT_EQ(worked, text([&](char *o) { return p4_pd_orbisk_switch_adt_plcmt_data_value(members.adt_hdl, member.bytes, o); }));
+
+  const uint8_t foreign[ORBISK_MODEL_PLACEMENT_MAX_BYTES] = {};
+  const pd_tbl_hdl misses[] = {0x01000055, 0x01000000, 0x01000076, 0x11010002, 0x11010029, members.sel_hdl, 0};
+  for (pd_tbl_hdl h : misses) {
+    char buf[8] = "before";
+    EXPECT_EQ(0, p4_pd_orbisk_switch_plcmt_data_value(h, entry.bytes, buf)) << std::hex << h;
+    EXPECT_EQ(0, p4_pd_orbisk_switch_adt_plcmt_data_value(h, member.bytes, buf)) << std::hex << h;
+    EXPECT_STREQ("before", buf);
+  }
+  char buf[8] = "before";
+  EXPECT_EQ(0, p4_pd_orbisk_switch_adt_plcmt_data_value(ecmp.handle, member.bytes, buf)) << "a table to the profiles'";
+  EXPECT_EQ(0, p4_pd_orbisk_switch_plcmt_data_value(members.adt_hdl, entry.bytes, buf)) << "a profile to the tables'";
+  EXPECT_EQ(0, p4_pd_orbisk_switch_plcmt_data_value(ecmp.handle, foreign, buf)) << "a record the model did not make";
+  EXPECT_EQ(0, exported<PlacementValueFn>("ecmpMemberActionProfile_plcmt_data_value")(foreign, buf));
+  EXPECT_STREQ("before", buf);
+}
+
+// What ends the process: a handle of no table, and a record that cannot be
+// decoded, each with its exact text, source and function.
+TEST_F(ValueText, ComparisonDeaths) {
+  const uint8_t foreign[ORBISK_MODEL_PLACEMENT_MAX_BYTES] = {};
+  char error[128];
+  EXPECT_DEATH(p4_pd_orbisk_switch_plcmt_data_eq_to_hw(kSess, 0, 0x01000055, 1, foreign, 0, error),
+               "bf_orbisk_switch_nat_vxlan/src/pd_orbisk:[0-9]+: p4_pd_orbisk_switch_plcmt_data_eq_to_hw: "
+               "Assertion `false && \"unknown table\"' failed");
+  EXPECT_DEATH(p4_pd_orbisk_switch_plcmt_data_eq_to_hw(kSess, 0, table("ecmpGroup").profile->adt_hdl, 1, foreign, 0, error),
+               "unknown table");
+  EXPECT_DEATH(exported<EqToHwFn>("ingressPortMapping_plcmt_data_eq_to_hw")(kSess, 0, 0, 1, foreign, error),
+               "bf_orbisk_switch_nat_vxlan/src/pd_orbisk:[0-9]+: "
+               "p4_pd_orbisk_switch_ingressPortMapping_plcmt_data_eq_to_hw: Assertion `false && \"Failed to decode "
+               "plcmt_data in table ingressPortMapping\"' failed");
 }
 
 }  // namespace

@@ -128,9 +128,16 @@
  *  <t>_value(sess, device id, entry handle, read from hardware, out text):
  *      reads an entry and writes it as value text: ((key, action), (priority,
  *      True)); its length, or 0 and out untouched when the read fails.
+ *  <t>_plcmt_data_value(placement data, out text): decodes a placement record
+ *      and writes it as value text: (key, action), no priority; its length,
+ *      or 0 and out untouched when decoding fails.
  *  <t>_match_specs_are_equal(pd match spec, hw match spec, out message): 1
  *      when every key element agrees under the schema's mask; else 0 and
  *      "mspec <field> differs ..." for the first that does not.
+ *  <t>_plcmt_data_eq_to_hw(sess, device id, table handle (ignored), entry
+ *      handle, placement data, out message): 1 when the chip holds what the
+ *      placement record says (priority aside); else 0 and the first
+ *      difference. A record that cannot be decoded ends the process.
  *  <r>_schema(out text): writes the profile's action tuples as schema text
  *      and a NUL; its length.
  *  <r>_add_member_with_<a>(sess, target, [action spec], out member handle):
@@ -219,6 +226,9 @@
  *      placement data, out action): the same, asking the member-selection
  *      state for the member's resources first (an action with parameters);
  *      what it answers is not used.
+ *  <r>_plcmt_data_value(placement data, out text): decodes a member's
+ *      placement record and writes its action as value text; its length, or 0
+ *      and out untouched when decoding fails.
  *  <a>_action_specs_are_equal(pd action spec, hw action spec, out message): 1
  *      when every parameter agrees in its width; else 0 and "aspec
  *      action_<parameter> differs ..." for the first that does not.
@@ -1668,6 +1678,14 @@ PD_STATIC_ASSERT(offsetof(p4_pd_orbisk_switch_action_specs_t, u) == 4,
 
 /* ---------------------------------------- lifecycle and dispatch --- */
 
+/* <t>_plcmt_data_eq_to_hw of the table with this handle; any other handle ends the process. */
+int p4_pd_orbisk_switch_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    uint32_t plcmt_data_size,
+    char *error);
 /* Registers with the driver; call before anything else. */
 void p4_pd_orbisk_switch_init(void);
 /* Deregisters from the driver. */
@@ -1709,6 +1727,14 @@ int p4_pd_orbisk_switch_entry_value(pd_sess_hdl sess_hdl,
     pd_tbl_hdl tbl_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
+    char *out);
+/* <t>_plcmt_data_value of the table with this handle; 0, out untouched, for any other. */
+int p4_pd_orbisk_switch_plcmt_data_value(pd_tbl_hdl tbl_hdl,
+    const void *plcmt_data,
+    char *out);
+/* <r>_plcmt_data_value of the profile with this action data table handle; 0, out untouched, for any other. */
+int p4_pd_orbisk_switch_adt_plcmt_data_value(pd_tbl_hdl tbl_hdl,
+    const void *plcmt_data,
     char *out);
 
 /* ================================================================== */
@@ -1809,8 +1835,16 @@ int p4_pd_orbisk_switch_ingressPortMapping_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_ingressPortMapping_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_ingressPortMapping_match_specs_are_equal(const p4_pd_orbisk_switch_ingressPortMapping_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_ingressPortMapping_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ingressPortMapping_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* l2DomainLookup: table 0x01000004, pipeline A, ternary match, 6 key bytes (28 bits) */
@@ -1967,8 +2001,16 @@ int p4_pd_orbisk_switch_l2DomainLookup_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_l2DomainLookup_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_l2DomainLookup_match_specs_are_equal(const p4_pd_orbisk_switch_l2DomainLookup_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_l2DomainLookup_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_l2DomainLookup_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* taggedXlatePktToL3: table 0x01000005, pipeline A, exact match, 4 key bytes (26 bits) */
@@ -2080,8 +2122,16 @@ int p4_pd_orbisk_switch_taggedXlatePktToL3_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_taggedXlatePktToL3_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_taggedXlatePktToL3_match_specs_are_equal(const p4_pd_orbisk_switch_taggedXlatePktToL3_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_taggedXlatePktToL3_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_taggedXlatePktToL3_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* taggedPktToL3: table 0x01000007, pipeline A, exact match, 2 key bytes (12 bits) */
@@ -2191,8 +2241,16 @@ int p4_pd_orbisk_switch_taggedPktToL3_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_taggedPktToL3_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_taggedPktToL3_match_specs_are_equal(const p4_pd_orbisk_switch_taggedPktToL3_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_taggedPktToL3_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_taggedPktToL3_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* untaggedPktToL3: table 0x01000006, pipeline A, exact match, 2 key bytes (12 bits) */
@@ -2302,8 +2360,16 @@ int p4_pd_orbisk_switch_untaggedPktToL3_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_untaggedPktToL3_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_untaggedPktToL3_match_specs_are_equal(const p4_pd_orbisk_switch_untaggedPktToL3_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_untaggedPktToL3_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_untaggedPktToL3_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* ingStpCheck: table 0x0100000b, pipeline A, no key */
@@ -2368,6 +2434,14 @@ int p4_pd_orbisk_switch_ingStpCheck_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_ingStpCheck_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_ingStpCheck_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* ingVlanCheck: table 0x0100000c, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_ingVlanCheck_get_entry(pd_sess_hdl sess_hdl,
@@ -2431,6 +2505,14 @@ int p4_pd_orbisk_switch_ingVlanCheck_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_ingVlanCheck_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_ingVlanCheck_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* vlanProperties: table 0x01000018, pipeline A, exact match, 2 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_vlanProperties_match_spec {
@@ -2530,8 +2612,16 @@ int p4_pd_orbisk_switch_vlanProperties_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_vlanProperties_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_vlanProperties_match_specs_are_equal(const p4_pd_orbisk_switch_vlanProperties_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_vlanProperties_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_vlanProperties_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* ingressPortDropCheck: table 0x01000010, pipeline A, ternary match, 7 key bytes (17 bits), entries carry ingressPortDropCount */
@@ -2663,8 +2753,16 @@ int p4_pd_orbisk_switch_ingressPortDropCheck_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_ingressPortDropCheck_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_ingressPortDropCheck_match_specs_are_equal(const p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ingressPortDropCheck_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* ingL2DomainCount: table 0x01000062, pipeline A, exact match, 3 key bytes (15 bits), entries carry ingL2DomainCounters */
@@ -2763,8 +2861,16 @@ int p4_pd_orbisk_switch_ingL2DomainCount_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_ingL2DomainCount_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_ingL2DomainCount_match_specs_are_equal(const p4_pd_orbisk_switch_ingL2DomainCount_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_ingL2DomainCount_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ingL2DomainCount_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* egrL2DomainCount: table 0x01000065, pipeline A, exact match, 3 key bytes (15 bits), entries carry egrL2DomainCounters */
@@ -2863,8 +2969,16 @@ int p4_pd_orbisk_switch_egrL2DomainCount_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_egrL2DomainCount_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_egrL2DomainCount_match_specs_are_equal(const p4_pd_orbisk_switch_egrL2DomainCount_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_egrL2DomainCount_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_egrL2DomainCount_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* egressVlanXlate: table 0x0100006c, pipeline A, exact match, 4 key bytes (21 bits) */
@@ -2989,8 +3103,16 @@ int p4_pd_orbisk_switch_egressVlanXlate_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_egressVlanXlate_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_egressVlanXlate_match_specs_are_equal(const p4_pd_orbisk_switch_egressVlanXlate_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_egressVlanXlate_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_egressVlanXlate_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* egrStpCheck: table 0x01000071, pipeline A, no key */
@@ -3055,6 +3177,14 @@ int p4_pd_orbisk_switch_egrStpCheck_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_egrStpCheck_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_egrStpCheck_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* egrVlanCheck: table 0x01000072, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_egrVlanCheck_get_entry(pd_sess_hdl sess_hdl,
@@ -3118,6 +3248,14 @@ int p4_pd_orbisk_switch_egrVlanCheck_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_egrVlanCheck_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_egrVlanCheck_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* vlanEncap: table 0x01000073, pipeline A, exact match, 5 key bytes (22 bits) */
 typedef struct p4_pd_orbisk_switch_vlanEncap_match_spec {
@@ -3227,8 +3365,16 @@ int p4_pd_orbisk_switch_vlanEncap_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_vlanEncap_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_vlanEncap_match_specs_are_equal(const p4_pd_orbisk_switch_vlanEncap_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_vlanEncap_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_vlanEncap_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* vlanDecap: table 0x11010026, pipeline B, no key */
@@ -3293,6 +3439,14 @@ int p4_pd_orbisk_switch_vlanDecap_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_vlanDecap_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_vlanDecap_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* copyOverlayL2Domain: table 0x0100006b, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_copyOverlayL2Domain_get_entry(pd_sess_hdl sess_hdl,
@@ -3356,6 +3510,14 @@ int p4_pd_orbisk_switch_copyOverlayL2Domain_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_copyOverlayL2Domain_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_copyOverlayL2Domain_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* srcIntfToOvoIntf: table 0x0100006a, pipeline A, exact match, 2 key bytes (9 bits) */
 typedef struct p4_pd_orbisk_switch_srcIntfToOvoIntf_match_spec {
@@ -3468,8 +3630,16 @@ int p4_pd_orbisk_switch_srcIntfToOvoIntf_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_srcIntfToOvoIntf_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_srcIntfToOvoIntf_match_specs_are_equal(const p4_pd_orbisk_switch_srcIntfToOvoIntf_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_srcIntfToOvoIntf_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_srcIntfToOvoIntf_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* egrIntfToOvoIntf: table 0x0100006f, pipeline A, exact match, 3 key bytes (20 bits) */
@@ -3620,8 +3790,16 @@ int p4_pd_orbisk_switch_egrIntfToOvoIntf_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_egrIntfToOvoIntf_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_egrIntfToOvoIntf_match_specs_are_equal(const p4_pd_orbisk_switch_egrIntfToOvoIntf_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_egrIntfToOvoIntf_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_egrIntfToOvoIntf_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* ovoIntfToPhysical: table 0x0100002a, pipeline A, ternary match, 6 key bytes (29 bits) */
@@ -3772,8 +3950,16 @@ int p4_pd_orbisk_switch_ovoIntfToPhysical_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_ovoIntfToPhysical_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_ovoIntfToPhysical_match_specs_are_equal(const p4_pd_orbisk_switch_ovoIntfToPhysical_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_ovoIntfToPhysical_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ovoIntfToPhysical_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* egressPortDropCheck: table 0x01000074, pipeline A, ternary match, 9 key bytes (23 bits), entries carry egressPortDropCount */
@@ -3914,8 +4100,16 @@ int p4_pd_orbisk_switch_egressPortDropCheck_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_egressPortDropCheck_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_egressPortDropCheck_match_specs_are_equal(const p4_pd_orbisk_switch_egressPortDropCheck_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_egressPortDropCheck_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_egressPortDropCheck_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* egressSamePortBridgingTest: table 0x0100006d, pipeline A, exact match, 3 key bytes (11 bits) */
@@ -4024,8 +4218,16 @@ int p4_pd_orbisk_switch_egressSamePortBridgingTest_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_egressSamePortBridgingTest_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_egressSamePortBridgingTest_match_specs_are_equal(const p4_pd_orbisk_switch_egressSamePortBridgingTest_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_egressSamePortBridgingTest_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_egressSamePortBridgingTest_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* samePortBridgingTest: table 0x0100004f, pipeline A, no key */
@@ -4090,6 +4292,14 @@ int p4_pd_orbisk_switch_samePortBridgingTest_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_samePortBridgingTest_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_samePortBridgingTest_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* mlagUcastPrune: table 0x01000050, pipeline A, exact match, 3 key bytes (20 bits) */
 typedef struct p4_pd_orbisk_switch_mlagUcastPrune_match_spec {
@@ -4195,8 +4405,16 @@ int p4_pd_orbisk_switch_mlagUcastPrune_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_mlagUcastPrune_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_mlagUcastPrune_match_specs_are_equal(const p4_pd_orbisk_switch_mlagUcastPrune_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_mlagUcastPrune_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_mlagUcastPrune_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* ================================================================== */
@@ -4401,8 +4619,16 @@ int p4_pd_orbisk_switch_l2DmacClassify_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_l2DmacClassify_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_l2DmacClassify_match_specs_are_equal(const p4_pd_orbisk_switch_l2DmacClassify_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_l2DmacClassify_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_l2DmacClassify_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* l2SmacCheck: table 0x0100000d, pipeline A, ternary match, 6 key bytes (48 bits) */
@@ -4523,8 +4749,16 @@ int p4_pd_orbisk_switch_l2SmacCheck_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_l2SmacCheck_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_l2SmacCheck_match_specs_are_equal(const p4_pd_orbisk_switch_l2SmacCheck_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_l2SmacCheck_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_l2SmacCheck_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* l2StaticMacSrcAddrDrop: table 0x01000013, pipeline A, exact match, 8 key bytes (60 bits) */
@@ -4635,8 +4869,16 @@ int p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_match_specs_are_equal(const p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* l2LearningLookup: table 0x01000014, pipeline A, exact match, 11 key bytes (80 bits), idle timeout */
@@ -4782,8 +5024,16 @@ int p4_pd_orbisk_switch_l2LearningLookup_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_l2LearningLookup_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_l2LearningLookup_match_specs_are_equal(const p4_pd_orbisk_switch_l2LearningLookup_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_l2LearningLookup_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_l2LearningLookup_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* l2Lookup: table 0x0100002f, pipeline A, exact match, 8 key bytes (60 bits) */
@@ -4933,8 +5183,16 @@ int p4_pd_orbisk_switch_l2Lookup_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_l2Lookup_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_l2Lookup_match_specs_are_equal(const p4_pd_orbisk_switch_l2Lookup_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_l2Lookup_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_l2Lookup_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* l2LookupMiss: table 0x01000030, pipeline A, ternary match, 8 key bytes (57 bits), entries carry stormControlMeter */
@@ -5095,8 +5353,16 @@ int p4_pd_orbisk_switch_l2LookupMiss_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_l2LookupMiss_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_l2LookupMiss_match_specs_are_equal(const p4_pd_orbisk_switch_l2LookupMiss_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_l2LookupMiss_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_l2LookupMiss_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* l2ForwardParams: table 0x01000017, pipeline A, exact match, 1 key bytes (1 bits) */
@@ -5197,8 +5463,16 @@ int p4_pd_orbisk_switch_l2ForwardParams_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_l2ForwardParams_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_l2ForwardParams_match_specs_are_equal(const p4_pd_orbisk_switch_l2ForwardParams_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_l2ForwardParams_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_l2ForwardParams_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* l2XRemap: table 0x11010007, pipeline B, exact match, 2 key bytes (9 bits) */
@@ -5299,8 +5573,16 @@ int p4_pd_orbisk_switch_l2XRemap_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_l2XRemap_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_l2XRemap_match_specs_are_equal(const p4_pd_orbisk_switch_l2XRemap_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_l2XRemap_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_l2XRemap_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* learningDigestGeneration: table 0x0100003b, pipeline A, ternary match, 10 key bytes (35 bits) */
@@ -5471,8 +5753,16 @@ int p4_pd_orbisk_switch_learningDigestGeneration_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_learningDigestGeneration_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_learningDigestGeneration_match_specs_are_equal(const p4_pd_orbisk_switch_learningDigestGeneration_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_learningDigestGeneration_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_learningDigestGeneration_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* bridgeToEA: table 0x11010024, pipeline B, no key */
@@ -5537,6 +5827,14 @@ int p4_pd_orbisk_switch_bridgeToEA_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_bridgeToEA_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_bridgeToEA_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* ================================================================== */
 /* IP routing tables */
@@ -5681,8 +5979,16 @@ int p4_pd_orbisk_switch_l3DmacCheck_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_l3DmacCheck_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_l3DmacCheck_match_specs_are_equal(const p4_pd_orbisk_switch_l3DmacCheck_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_l3DmacCheck_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_l3DmacCheck_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* vrrpMacCheck: table 0x01000012, pipeline A, exact match, 8 key bytes (60 bits) */
@@ -5793,8 +6099,16 @@ int p4_pd_orbisk_switch_vrrpMacCheck_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_vrrpMacCheck_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_vrrpMacCheck_match_specs_are_equal(const p4_pd_orbisk_switch_vrrpMacCheck_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_vrrpMacCheck_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_vrrpMacCheck_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* ipv4Host: table 0x11010008, pipeline B, exact match, 5 key bytes (40 bits), idle timeout */
@@ -5976,8 +6290,16 @@ int p4_pd_orbisk_switch_ipv4Host_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_ipv4Host_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_ipv4Host_match_specs_are_equal(const p4_pd_orbisk_switch_ipv4Host_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_ipv4Host_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ipv4Host_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* ipv4ShortMaskLpm: table 0x1101000c, pipeline B, longest prefix match, 5 key bytes (40 bits), idle timeout */
@@ -6162,8 +6484,16 @@ int p4_pd_orbisk_switch_ipv4ShortMaskLpm_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_ipv4ShortMaskLpm_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_specs_are_equal(const p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ipv4ShortMaskLpm_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* ipv4Partition0: table 0x1101000a, pipeline B, longest prefix match, 5 key bytes (40 bits), idle timeout */
@@ -6309,8 +6639,16 @@ int p4_pd_orbisk_switch_ipv4Partition0_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_ipv4Partition0_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_ipv4Partition0_match_specs_are_equal(const p4_pd_orbisk_switch_ipv4Partition0_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_ipv4Partition0_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ipv4Partition0_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* ipv4FinalResolve0: table 0x1101000b, pipeline B, partitioned longest prefix match, 6 key bytes (48 bits), idle timeout */
@@ -6495,8 +6833,16 @@ int p4_pd_orbisk_switch_ipv4FinalResolve0_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_ipv4FinalResolve0_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_ipv4FinalResolve0_match_specs_are_equal(const p4_pd_orbisk_switch_ipv4FinalResolve0_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_ipv4FinalResolve0_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ipv4FinalResolve0_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* ipv6Host: table 0x01000022, pipeline A, exact match, 17 key bytes (136 bits), idle timeout */
@@ -6678,8 +7024,16 @@ int p4_pd_orbisk_switch_ipv6Host_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_ipv6Host_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_ipv6Host_match_specs_are_equal(const p4_pd_orbisk_switch_ipv6Host_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_ipv6Host_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ipv6Host_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* ipv6ShortMaskLpm: table 0x0100002e, pipeline A, longest prefix match, 17 key bytes (136 bits), idle timeout */
@@ -6864,8 +7218,16 @@ int p4_pd_orbisk_switch_ipv6ShortMaskLpm_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_ipv6ShortMaskLpm_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_ipv6ShortMaskLpm_match_specs_are_equal(const p4_pd_orbisk_switch_ipv6ShortMaskLpm_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_ipv6ShortMaskLpm_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ipv6ShortMaskLpm_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* ipv6Partition: table 0x0100002d, pipeline A, longest prefix match, 17 key bytes (136 bits), idle timeout */
@@ -7050,8 +7412,16 @@ int p4_pd_orbisk_switch_ipv6Partition_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_ipv6Partition_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_ipv6Partition_match_specs_are_equal(const p4_pd_orbisk_switch_ipv6Partition_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_ipv6Partition_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ipv6Partition_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* ipv6FinalResolve: table 0x01000031, pipeline A, partitioned longest prefix match, 18 key bytes (144 bits), idle timeout */
@@ -7236,8 +7606,16 @@ int p4_pd_orbisk_switch_ipv6FinalResolve_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_ipv6FinalResolve_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_ipv6FinalResolve_match_specs_are_equal(const p4_pd_orbisk_switch_ipv6FinalResolve_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_ipv6FinalResolve_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ipv6FinalResolve_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* ipv6LgMaskPartition0: table 0x01000023, pipeline A, longest prefix match, 17 key bytes (136 bits), idle timeout */
@@ -7383,8 +7761,16 @@ int p4_pd_orbisk_switch_ipv6LgMaskPartition0_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_ipv6LgMaskPartition0_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_ipv6LgMaskPartition0_match_specs_are_equal(const p4_pd_orbisk_switch_ipv6LgMaskPartition0_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_ipv6LgMaskPartition0_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ipv6LgMaskPartition0_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* ipv6LgMaskFinalResolve0: table 0x0100002c, pipeline A, partitioned longest prefix match, 18 key bytes (144 bits), idle timeout */
@@ -7569,8 +7955,16 @@ int p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_match_specs_are_equal(const p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* ================================================================== */
@@ -7696,8 +8090,16 @@ int p4_pd_orbisk_switch_ecmpGroup_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_ecmpGroup_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_ecmpGroup_match_specs_are_equal(const p4_pd_orbisk_switch_ecmpGroup_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_ecmpGroup_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ecmpGroup_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* reservedNextHop: table 0x1101000e, pipeline B, exact match, 2 key bytes (15 bits) */
@@ -7807,8 +8209,16 @@ int p4_pd_orbisk_switch_reservedNextHop_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_reservedNextHop_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_reservedNextHop_match_specs_are_equal(const p4_pd_orbisk_switch_reservedNextHop_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_reservedNextHop_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_reservedNextHop_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* nextHop0: table 0x1101000f, pipeline B, exact match, 2 key bytes (15 bits) */
@@ -7909,8 +8319,16 @@ int p4_pd_orbisk_switch_nextHop0_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_nextHop0_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_nextHop0_match_specs_are_equal(const p4_pd_orbisk_switch_nextHop0_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_nextHop0_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_nextHop0_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* routerNextHop0: table 0x11010010, pipeline B, exact match, 2 key bytes (15 bits) */
@@ -8011,8 +8429,16 @@ int p4_pd_orbisk_switch_routerNextHop0_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_routerNextHop0_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_routerNextHop0_match_specs_are_equal(const p4_pd_orbisk_switch_routerNextHop0_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_routerNextHop0_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_routerNextHop0_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* lagGroup: table 0x11010023, pipeline B, ternary match, 3 key bytes (20 bits), entries name a member or group of lagPortActionProfile */
@@ -8145,8 +8571,16 @@ int p4_pd_orbisk_switch_lagGroup_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_lagGroup_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_lagGroup_match_specs_are_equal(const p4_pd_orbisk_switch_lagGroup_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_lagGroup_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_lagGroup_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* ecmpHashSelection: table 0x01000043, pipeline A, ternary match, 9 key bytes (9 bits) */
@@ -8336,8 +8770,16 @@ int p4_pd_orbisk_switch_ecmpHashSelection_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_ecmpHashSelection_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_ecmpHashSelection_match_specs_are_equal(const p4_pd_orbisk_switch_ecmpHashSelection_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_ecmpHashSelection_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ecmpHashSelection_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* lagHashSelection: table 0x01000042, pipeline A, ternary match, 10 key bytes (10 bits) */
@@ -8542,8 +8984,16 @@ int p4_pd_orbisk_switch_lagHashSelection_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_lagHashSelection_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_lagHashSelection_match_specs_are_equal(const p4_pd_orbisk_switch_lagHashSelection_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_lagHashSelection_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_lagHashSelection_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* hashComputeInnerIpHdr: table 0x01000002, pipeline A, exact match, 2 key bytes (2 bits) */
@@ -8662,8 +9112,16 @@ int p4_pd_orbisk_switch_hashComputeInnerIpHdr_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_hashComputeInnerIpHdr_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_hashComputeInnerIpHdr_match_specs_are_equal(const p4_pd_orbisk_switch_hashComputeInnerIpHdr_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_hashComputeInnerIpHdr_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_hashComputeInnerIpHdr_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* hashComputeOuterIpv4Hdr: table 0x01000037, pipeline A, no key */
@@ -8728,6 +9186,14 @@ int p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* hashComputeOuterIpv6Hdr: table 0x01000038, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_get_entry(pd_sess_hdl sess_hdl,
@@ -8791,6 +9257,14 @@ int p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* hashComputeInnerEthHdr: table 0x01000039, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_hashComputeInnerEthHdr_get_entry(pd_sess_hdl sess_hdl,
@@ -8854,6 +9328,14 @@ int p4_pd_orbisk_switch_hashComputeInnerEthHdr_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_hashComputeInnerEthHdr_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_hashComputeInnerEthHdr_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* hashComputeIpAndL4Hdr: table 0x0100003e, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_get_entry(pd_sess_hdl sess_hdl,
@@ -8917,6 +9399,14 @@ int p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* hashFromCpuHdr: table 0x01000041, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_hashFromCpuHdr_get_entry(pd_sess_hdl sess_hdl,
@@ -8980,6 +9470,14 @@ int p4_pd_orbisk_switch_hashFromCpuHdr_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_hashFromCpuHdr_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_hashFromCpuHdr_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* ================================================================== */
 /* Multicast */
@@ -9125,8 +9623,16 @@ int p4_pd_orbisk_switch_ipv4McGroupVlan_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_ipv4McGroupVlan_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_ipv4McGroupVlan_match_specs_are_equal(const p4_pd_orbisk_switch_ipv4McGroupVlan_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_ipv4McGroupVlan_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ipv4McGroupVlan_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* ipv4McSourceGroupVlan: table 0x0100004e, pipeline A, exact match, 6 key bytes (48 bits), idle timeout */
@@ -9269,8 +9775,16 @@ int p4_pd_orbisk_switch_ipv4McSourceGroupVlan_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_ipv4McSourceGroupVlan_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_ipv4McSourceGroupVlan_match_specs_are_equal(const p4_pd_orbisk_switch_ipv4McSourceGroupVlan_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_ipv4McSourceGroupVlan_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ipv4McSourceGroupVlan_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* l2Multicast: table 0x01000040, pipeline A, exact match, 8 key bytes (60 bits) */
@@ -9384,8 +9898,16 @@ int p4_pd_orbisk_switch_l2Multicast_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_l2Multicast_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_l2Multicast_match_specs_are_equal(const p4_pd_orbisk_switch_l2Multicast_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_l2Multicast_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_l2Multicast_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* finalizeMcResult: table 0x01000053, pipeline A, ternary match, 9 key bytes (26 bits) */
@@ -9602,8 +10124,16 @@ int p4_pd_orbisk_switch_finalizeMcResult_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_finalizeMcResult_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_finalizeMcResult_match_specs_are_equal(const p4_pd_orbisk_switch_finalizeMcResult_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_finalizeMcResult_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_finalizeMcResult_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* egressMcRemap: table 0x01000060, pipeline A, exact match, 2 key bytes (16 bits) */
@@ -9713,8 +10243,16 @@ int p4_pd_orbisk_switch_egressMcRemap_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_egressMcRemap_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_egressMcRemap_match_specs_are_equal(const p4_pd_orbisk_switch_egressMcRemap_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_egressMcRemap_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_egressMcRemap_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* mcastPrune: table 0x11010028, pipeline B, ternary match, 8 key bytes (42 bits) */
@@ -9890,8 +10428,16 @@ int p4_pd_orbisk_switch_mcastPrune_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_mcastPrune_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_mcastPrune_match_specs_are_equal(const p4_pd_orbisk_switch_mcastPrune_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_mcastPrune_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_mcastPrune_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* ================================================================== */
@@ -10039,8 +10585,16 @@ int p4_pd_orbisk_switch_tunnelTermination_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_tunnelTermination_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_tunnelTermination_match_specs_are_equal(const p4_pd_orbisk_switch_tunnelTermination_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_tunnelTermination_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_tunnelTermination_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* vxlanL2AintfLookup: table 0x01000008, pipeline A, exact match, 4 key bytes (32 bits) */
@@ -10180,8 +10734,16 @@ int p4_pd_orbisk_switch_vxlanL2AintfLookup_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_vxlanL2AintfLookup_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_vxlanL2AintfLookup_match_specs_are_equal(const p4_pd_orbisk_switch_vxlanL2AintfLookup_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_vxlanL2AintfLookup_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_vxlanL2AintfLookup_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* vxlanVniResolution: table 0x01000009, pipeline A, exact match, 4 key bytes (27 bits) */
@@ -10312,8 +10874,16 @@ int p4_pd_orbisk_switch_vxlanVniResolution_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_vxlanVniResolution_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_vxlanVniResolution_match_specs_are_equal(const p4_pd_orbisk_switch_vxlanVniResolution_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_vxlanVniResolution_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_vxlanVniResolution_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* vxlanVarp: table 0x01000034, pipeline A, ternary match, 8 key bytes (50 bits) */
@@ -10438,8 +11008,16 @@ int p4_pd_orbisk_switch_vxlanVarp_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_vxlanVarp_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_vxlanVarp_match_specs_are_equal(const p4_pd_orbisk_switch_vxlanVarp_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_vxlanVarp_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_vxlanVarp_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* vxlanArp: table 0x01000035, pipeline A, no key */
@@ -10504,6 +11082,14 @@ int p4_pd_orbisk_switch_vxlanArp_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_vxlanArp_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_vxlanArp_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* tunnelDip0: table 0x0100005c, pipeline A, exact match, 4 key bytes (32 bits) */
 typedef struct p4_pd_orbisk_switch_tunnelDip0_match_spec {
@@ -10603,8 +11189,16 @@ int p4_pd_orbisk_switch_tunnelDip0_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_tunnelDip0_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_tunnelDip0_match_specs_are_equal(const p4_pd_orbisk_switch_tunnelDip0_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_tunnelDip0_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_tunnelDip0_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* tunnelVniAndVti: table 0x0100005f, pipeline A, exact match, 2 key bytes (12 bits) */
@@ -10714,8 +11308,16 @@ int p4_pd_orbisk_switch_tunnelVniAndVti_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_tunnelVniAndVti_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_tunnelVniAndVti_match_specs_are_equal(const p4_pd_orbisk_switch_tunnelVniAndVti_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_tunnelVniAndVti_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_tunnelVniAndVti_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* tunnelL2Info: table 0x01000066, pipeline A, exact match, 4 key bytes (32 bits) */
@@ -10825,8 +11427,16 @@ int p4_pd_orbisk_switch_tunnelL2Info_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_tunnelL2Info_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_tunnelL2Info_match_specs_are_equal(const p4_pd_orbisk_switch_tunnelL2Info_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_tunnelL2Info_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_tunnelL2Info_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* tunnelResolve: table 0x1101001f, pipeline B, exact match, 2 key bytes (10 bits), entries name a member or group of tunnelMemberActionProfile */
@@ -10948,8 +11558,16 @@ int p4_pd_orbisk_switch_tunnelResolve_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_tunnelResolve_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_tunnelResolve_match_specs_are_equal(const p4_pd_orbisk_switch_tunnelResolve_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_tunnelResolve_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_tunnelResolve_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* encapDecap: table 0x01000067, pipeline A, ternary match, 9 key bytes (41 bits) */
@@ -11167,8 +11785,16 @@ int p4_pd_orbisk_switch_encapDecap_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_encapDecap_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_encapDecap_match_specs_are_equal(const p4_pd_orbisk_switch_encapDecap_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_encapDecap_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_encapDecap_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* decapIngress: table 0x01000049, pipeline A, exact match, 3 key bytes (5 bits) */
@@ -11319,8 +11945,16 @@ int p4_pd_orbisk_switch_decapIngress_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_decapIngress_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_decapIngress_match_specs_are_equal(const p4_pd_orbisk_switch_decapIngress_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_decapIngress_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_decapIngress_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* globalFields: table 0x01000064, pipeline A, ternary match, 8 key bytes (40 bits) */
@@ -11482,8 +12116,16 @@ int p4_pd_orbisk_switch_globalFields_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_globalFields_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_globalFields_match_specs_are_equal(const p4_pd_orbisk_switch_globalFields_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_globalFields_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_globalFields_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* ================================================================== */
@@ -11588,8 +12230,16 @@ int p4_pd_orbisk_switch_ingressNatProfile_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_ingressNatProfile_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_ingressNatProfile_match_specs_are_equal(const p4_pd_orbisk_switch_ingressNatProfile_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_ingressNatProfile_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ingressNatProfile_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* staticDnatAcl: table 0x01000025, pipeline A, ternary match, 6 key bytes (41 bits) */
@@ -11716,8 +12366,16 @@ int p4_pd_orbisk_switch_staticDnatAcl_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_staticDnatAcl_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_staticDnatAcl_match_specs_are_equal(const p4_pd_orbisk_switch_staticDnatAcl_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_staticDnatAcl_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_staticDnatAcl_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* addrPortDnat: table 0x01000026, pipeline A, exact match, 9 key bytes (68 bits), entries carry staticDnatCounters */
@@ -11872,8 +12530,16 @@ int p4_pd_orbisk_switch_addrPortDnat_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_addrPortDnat_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_addrPortDnat_match_specs_are_equal(const p4_pd_orbisk_switch_addrPortDnat_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_addrPortDnat_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_addrPortDnat_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* addrOnlyDnat: table 0x01000027, pipeline A, exact match, 7 key bytes (52 bits) */
@@ -12000,8 +12666,16 @@ int p4_pd_orbisk_switch_addrOnlyDnat_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_addrOnlyDnat_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_addrOnlyDnat_match_specs_are_equal(const p4_pd_orbisk_switch_addrOnlyDnat_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_addrOnlyDnat_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_addrOnlyDnat_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* dynamicDnat1: table 0x01000021, pipeline A, exact match, 14 key bytes (112 bits), idle timeout */
@@ -12165,8 +12839,16 @@ int p4_pd_orbisk_switch_dynamicDnat1_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_dynamicDnat1_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_dynamicDnat1_match_specs_are_equal(const p4_pd_orbisk_switch_dynamicDnat1_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_dynamicDnat1_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_dynamicDnat1_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* dynamicFullConeCompressDip: table 0x0100001f, pipeline A, exact match, 4 key bytes (32 bits) */
@@ -12267,8 +12949,16 @@ int p4_pd_orbisk_switch_dynamicFullConeCompressDip_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_dynamicFullConeCompressDip_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_dynamicFullConeCompressDip_match_specs_are_equal(const p4_pd_orbisk_switch_dynamicFullConeCompressDip_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_dynamicFullConeCompressDip_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_dynamicFullConeCompressDip_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* dynamicFullConeDnat: table 0x01000024, pipeline A, exact match, 6 key bytes (41 bits), idle timeout */
@@ -12415,8 +13105,16 @@ int p4_pd_orbisk_switch_dynamicFullConeDnat_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_dynamicFullConeDnat_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_dynamicFullConeDnat_match_specs_are_equal(const p4_pd_orbisk_switch_dynamicFullConeDnat_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_dynamicFullConeDnat_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_dynamicFullConeDnat_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* egressNatProfile: table 0x11010012, pipeline B, exact match, 2 key bytes (12 bits) */
@@ -12517,8 +13215,16 @@ int p4_pd_orbisk_switch_egressNatProfile_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_egressNatProfile_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_egressNatProfile_match_specs_are_equal(const p4_pd_orbisk_switch_egressNatProfile_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_egressNatProfile_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_egressNatProfile_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* staticSnatAcl: table 0x11010004, pipeline B, ternary match, 6 key bytes (41 bits) */
@@ -12645,8 +13351,16 @@ int p4_pd_orbisk_switch_staticSnatAcl_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_staticSnatAcl_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_staticSnatAcl_match_specs_are_equal(const p4_pd_orbisk_switch_staticSnatAcl_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_staticSnatAcl_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_staticSnatAcl_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* addrPortSnat: table 0x11010016, pipeline B, exact match, 9 key bytes (68 bits), entries carry staticSnatCounters */
@@ -12775,8 +13489,16 @@ int p4_pd_orbisk_switch_addrPortSnat_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_addrPortSnat_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_addrPortSnat_match_specs_are_equal(const p4_pd_orbisk_switch_addrPortSnat_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_addrPortSnat_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_addrPortSnat_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* addrOnlySnat: table 0x11010017, pipeline B, exact match, 7 key bytes (52 bits) */
@@ -12890,8 +13612,16 @@ int p4_pd_orbisk_switch_addrOnlySnat_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_addrOnlySnat_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_addrOnlySnat_match_specs_are_equal(const p4_pd_orbisk_switch_addrOnlySnat_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_addrOnlySnat_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_addrOnlySnat_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* dynamicSnatAcl: table 0x11010013, pipeline B, ternary match, 14 key bytes (112 bits) */
@@ -13024,8 +13754,16 @@ int p4_pd_orbisk_switch_dynamicSnatAcl_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_dynamicSnatAcl_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_dynamicSnatAcl_match_specs_are_equal(const p4_pd_orbisk_switch_dynamicSnatAcl_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_dynamicSnatAcl_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_dynamicSnatAcl_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* dynamicSnat1: table 0x11010015, pipeline B, exact match, 14 key bytes (112 bits), idle timeout */
@@ -13189,8 +13927,16 @@ int p4_pd_orbisk_switch_dynamicSnat1_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_dynamicSnat1_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_dynamicSnat1_match_specs_are_equal(const p4_pd_orbisk_switch_dynamicSnat1_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_dynamicSnat1_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_dynamicSnat1_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* dynamicNatCount: table 0x1101001e, pipeline B, ternary match, 5 key bytes (26 bits), entries carry dynNatCounters */
@@ -13318,8 +14064,16 @@ int p4_pd_orbisk_switch_dynamicNatCount_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_dynamicNatCount_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_dynamicNatCount_match_specs_are_equal(const p4_pd_orbisk_switch_dynamicNatCount_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_dynamicNatCount_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_dynamicNatCount_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* natTcpFlags: table 0x11010006, pipeline B, exact match, 1 key bytes (8 bits) */
@@ -13426,8 +14180,16 @@ int p4_pd_orbisk_switch_natTcpFlags_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_natTcpFlags_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_natTcpFlags_match_specs_are_equal(const p4_pd_orbisk_switch_natTcpFlags_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_natTcpFlags_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_natTcpFlags_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* natCpuTrapAcl: table 0x11010018, pipeline B, ternary match, 16 key bytes (121 bits) */
@@ -13599,8 +14361,16 @@ int p4_pd_orbisk_switch_natCpuTrapAcl_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_natCpuTrapAcl_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_natCpuTrapAcl_match_specs_are_equal(const p4_pd_orbisk_switch_natCpuTrapAcl_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_natCpuTrapAcl_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_natCpuTrapAcl_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* natCpuReasonCode: table 0x11010005, pipeline B, ternary match, 2 key bytes (9 bits) */
@@ -13721,8 +14491,16 @@ int p4_pd_orbisk_switch_natCpuReasonCode_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_natCpuReasonCode_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_natCpuReasonCode_match_specs_are_equal(const p4_pd_orbisk_switch_natCpuReasonCode_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_natCpuReasonCode_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_natCpuReasonCode_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* natChecksumUpdate: table 0x11010021, pipeline B, ternary match, 9 key bytes (32 bits) */
@@ -13909,8 +14687,16 @@ int p4_pd_orbisk_switch_natChecksumUpdate_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_natChecksumUpdate_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_natChecksumUpdate_match_specs_are_equal(const p4_pd_orbisk_switch_natChecksumUpdate_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_natChecksumUpdate_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_natChecksumUpdate_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* egressNatCpuTrapHeader: table 0x01000070, pipeline A, exact match, 2 key bytes (2 bits) */
@@ -14039,8 +14825,16 @@ int p4_pd_orbisk_switch_egressNatCpuTrapHeader_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_egressNatCpuTrapHeader_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_egressNatCpuTrapHeader_match_specs_are_equal(const p4_pd_orbisk_switch_egressNatCpuTrapHeader_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_egressNatCpuTrapHeader_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_egressNatCpuTrapHeader_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* ================================================================== */
@@ -14156,8 +14950,16 @@ int p4_pd_orbisk_switch_haloPaclCrlId_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_haloPaclCrlId_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_haloPaclCrlId_match_specs_are_equal(const p4_pd_orbisk_switch_haloPaclCrlId_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_haloPaclCrlId_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_haloPaclCrlId_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* haloRaclCrlId: table 0x01000016, pipeline A, exact match, 3 key bytes (15 bits) */
@@ -14269,8 +15071,16 @@ int p4_pd_orbisk_switch_haloRaclCrlId_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_haloRaclCrlId_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_haloRaclCrlId_match_specs_are_equal(const p4_pd_orbisk_switch_haloRaclCrlId_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_haloRaclCrlId_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_haloRaclCrlId_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* haloXformIpv4Sip: table 0x0100001c, pipeline A, ternary match, 4 key bytes (32 bits) */
@@ -14403,8 +15213,16 @@ int p4_pd_orbisk_switch_haloXformIpv4Sip_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_haloXformIpv4Sip_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_haloXformIpv4Sip_match_specs_are_equal(const p4_pd_orbisk_switch_haloXformIpv4Sip_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_haloXformIpv4Sip_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_haloXformIpv4Sip_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* haloXformIpv4Dip: table 0x01000019, pipeline A, ternary match, 4 key bytes (32 bits) */
@@ -14537,8 +15355,16 @@ int p4_pd_orbisk_switch_haloXformIpv4Dip_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_haloXformIpv4Dip_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_haloXformIpv4Dip_match_specs_are_equal(const p4_pd_orbisk_switch_haloXformIpv4Dip_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_haloXformIpv4Dip_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_haloXformIpv4Dip_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* haloXformIpv6Sip: table 0x0100001b, pipeline A, ternary match, 16 key bytes (128 bits) */
@@ -14671,8 +15497,16 @@ int p4_pd_orbisk_switch_haloXformIpv6Sip_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_haloXformIpv6Sip_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_haloXformIpv6Sip_match_specs_are_equal(const p4_pd_orbisk_switch_haloXformIpv6Sip_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_haloXformIpv6Sip_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_haloXformIpv6Sip_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* haloXformIpv6Dip: table 0x0100001a, pipeline A, ternary match, 16 key bytes (128 bits) */
@@ -14805,8 +15639,16 @@ int p4_pd_orbisk_switch_haloXformIpv6Dip_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_haloXformIpv6Dip_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_haloXformIpv6Dip_match_specs_are_equal(const p4_pd_orbisk_switch_haloXformIpv6Dip_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_haloXformIpv6Dip_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_haloXformIpv6Dip_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* haloXformSrcPort: table 0x0100001e, pipeline A, ternary match, 2 key bytes (16 bits) */
@@ -14927,8 +15769,16 @@ int p4_pd_orbisk_switch_haloXformSrcPort_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_haloXformSrcPort_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_haloXformSrcPort_match_specs_are_equal(const p4_pd_orbisk_switch_haloXformSrcPort_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_haloXformSrcPort_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_haloXformSrcPort_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* haloXformDstPort: table 0x0100001d, pipeline A, ternary match, 2 key bytes (16 bits) */
@@ -15049,8 +15899,16 @@ int p4_pd_orbisk_switch_haloXformDstPort_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_haloXformDstPort_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_haloXformDstPort_match_specs_are_equal(const p4_pd_orbisk_switch_haloXformDstPort_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_haloXformDstPort_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_haloXformDstPort_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* haloKeyMaskForRow1Stage2: table 0x01000028, pipeline A, exact match, 1 key bytes (8 bits) */
@@ -15151,8 +16009,16 @@ int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_match_specs_are_equal(const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* haloRow1Stage2: table 0x01000032, pipeline A, exact match, 14 key bytes (103 bits) */
@@ -15280,8 +16146,16 @@ int p4_pd_orbisk_switch_haloRow1Stage2_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_haloRow1Stage2_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_haloRow1Stage2_match_specs_are_equal(const p4_pd_orbisk_switch_haloRow1Stage2_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_haloRow1Stage2_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_haloRow1Stage2_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* haloKeyMaskForRow1Stage3: table 0x01000033, pipeline A, exact match, 1 key bytes (8 bits) */
@@ -15382,8 +16256,16 @@ int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_match_specs_are_equal(const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* haloRow1Stage3: table 0x0100003c, pipeline A, exact match, 14 key bytes (103 bits) */
@@ -15511,8 +16393,16 @@ int p4_pd_orbisk_switch_haloRow1Stage3_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_haloRow1Stage3_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_haloRow1Stage3_match_specs_are_equal(const p4_pd_orbisk_switch_haloRow1Stage3_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_haloRow1Stage3_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_haloRow1Stage3_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* haloKeyMaskForRow1Stage4: table 0x0100003d, pipeline A, exact match, 1 key bytes (8 bits) */
@@ -15613,8 +16503,16 @@ int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_match_specs_are_equal(const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* haloRow1Stage4: table 0x01000044, pipeline A, exact match, 14 key bytes (103 bits) */
@@ -15742,8 +16640,16 @@ int p4_pd_orbisk_switch_haloRow1Stage4_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_haloRow1Stage4_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_haloRow1Stage4_match_specs_are_equal(const p4_pd_orbisk_switch_haloRow1Stage4_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_haloRow1Stage4_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_haloRow1Stage4_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* haloKeyMaskForRow1Stage5: table 0x01000045, pipeline A, exact match, 1 key bytes (8 bits) */
@@ -15844,8 +16750,16 @@ int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_match_specs_are_equal(const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* haloRow1Stage5: table 0x0100004c, pipeline A, exact match, 14 key bytes (103 bits) */
@@ -15973,8 +16887,16 @@ int p4_pd_orbisk_switch_haloRow1Stage5_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_haloRow1Stage5_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_haloRow1Stage5_match_specs_are_equal(const p4_pd_orbisk_switch_haloRow1Stage5_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_haloRow1Stage5_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_haloRow1Stage5_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* haloKeyMaskForRow1Stage6: table 0x0100004d, pipeline A, exact match, 1 key bytes (8 bits) */
@@ -16075,8 +16997,16 @@ int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_match_specs_are_equal(const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* haloRow1Stage6: table 0x01000052, pipeline A, exact match, 14 key bytes (103 bits) */
@@ -16204,8 +17134,16 @@ int p4_pd_orbisk_switch_haloRow1Stage6_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_haloRow1Stage6_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_haloRow1Stage6_match_specs_are_equal(const p4_pd_orbisk_switch_haloRow1Stage6_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_haloRow1Stage6_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_haloRow1Stage6_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* haloBypass: table 0x01000051, pipeline A, no key */
@@ -16270,6 +17208,14 @@ int p4_pd_orbisk_switch_haloBypass_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_haloBypass_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_haloBypass_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* haloCounters: table 0x01000059, pipeline A, exact match, 4 key bytes (32 bits), entries carry haloCount */
 typedef struct p4_pd_orbisk_switch_haloCounters_match_spec {
@@ -16365,8 +17311,16 @@ int p4_pd_orbisk_switch_haloCounters_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_haloCounters_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_haloCounters_match_specs_are_equal(const p4_pd_orbisk_switch_haloCounters_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_haloCounters_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_haloCounters_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* ================================================================== */
@@ -16536,8 +17490,16 @@ int p4_pd_orbisk_switch_ingressMirrorSession_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_ingressMirrorSession_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_ingressMirrorSession_match_specs_are_equal(const p4_pd_orbisk_switch_ingressMirrorSession_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_ingressMirrorSession_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ingressMirrorSession_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* ingressMirrorLagGroup: table 0x0100004b, pipeline A, exact match, 2 key bytes (10 bits), entries name a member or group of mirrorLagPortActionProfile */
@@ -16659,8 +17621,16 @@ int p4_pd_orbisk_switch_ingressMirrorLagGroup_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_ingressMirrorLagGroup_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_ingressMirrorLagGroup_match_specs_are_equal(const p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ingressMirrorLagGroup_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* ingressMirrorRate: table 0x01000056, pipeline A, exact match, 2 key bytes (10 bits), entries carry ingressMirrorMeter */
@@ -16770,8 +17740,16 @@ int p4_pd_orbisk_switch_ingressMirrorRate_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_ingressMirrorRate_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_ingressMirrorRate_match_specs_are_equal(const p4_pd_orbisk_switch_ingressMirrorRate_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_ingressMirrorRate_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ingressMirrorRate_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* ingressMirrorResult: table 0x01000058, pipeline A, exact match, 3 key bytes (12 bits) */
@@ -16874,8 +17852,16 @@ int p4_pd_orbisk_switch_ingressMirrorResult_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_ingressMirrorResult_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_ingressMirrorResult_match_specs_are_equal(const p4_pd_orbisk_switch_ingressMirrorResult_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_ingressMirrorResult_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ingressMirrorResult_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* egressMirrorSession: table 0x0100005e, pipeline A, ternary match, 51 key bytes (380 bits) */
@@ -17028,8 +18014,16 @@ int p4_pd_orbisk_switch_egressMirrorSession_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_egressMirrorSession_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_egressMirrorSession_match_specs_are_equal(const p4_pd_orbisk_switch_egressMirrorSession_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_egressMirrorSession_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_egressMirrorSession_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* egressMirrorLagGroup: table 0x01000063, pipeline A, exact match, 2 key bytes (10 bits), entries name a member or group of egrMirrorLagPortActionProfile */
@@ -17151,8 +18145,16 @@ int p4_pd_orbisk_switch_egressMirrorLagGroup_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_egressMirrorLagGroup_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_egressMirrorLagGroup_match_specs_are_equal(const p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_egressMirrorLagGroup_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* egressMirrorRate: table 0x01000068, pipeline A, exact match, 2 key bytes (10 bits), entries carry egressMirrorMeter */
@@ -17262,8 +18264,16 @@ int p4_pd_orbisk_switch_egressMirrorRate_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_egressMirrorRate_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_egressMirrorRate_match_specs_are_equal(const p4_pd_orbisk_switch_egressMirrorRate_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_egressMirrorRate_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_egressMirrorRate_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* egressMirrorResult: table 0x01000075, pipeline A, exact match, 1 key bytes (1 bits) */
@@ -17370,8 +18380,16 @@ int p4_pd_orbisk_switch_egressMirrorResult_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_egressMirrorResult_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_egressMirrorResult_match_specs_are_equal(const p4_pd_orbisk_switch_egressMirrorResult_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_egressMirrorResult_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_egressMirrorResult_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* mirrorPacketEncap: table 0x0100005d, pipeline A, exact match, 4 key bytes (25 bits) */
@@ -17506,8 +18524,16 @@ int p4_pd_orbisk_switch_mirrorPacketEncap_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_mirrorPacketEncap_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_mirrorPacketEncap_match_specs_are_equal(const p4_pd_orbisk_switch_mirrorPacketEncap_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_mirrorPacketEncap_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_mirrorPacketEncap_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* ================================================================== */
@@ -17612,8 +18638,16 @@ int p4_pd_orbisk_switch_qosPortProperties_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_qosPortProperties_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_qosPortProperties_match_specs_are_equal(const p4_pd_orbisk_switch_qosPortProperties_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_qosPortProperties_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_qosPortProperties_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* normalizeCos: table 0x01000036, pipeline A, exact match, 4 key bytes (8 bits) */
@@ -17755,8 +18789,16 @@ int p4_pd_orbisk_switch_normalizeCos_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_normalizeCos_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_normalizeCos_match_specs_are_equal(const p4_pd_orbisk_switch_normalizeCos_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_normalizeCos_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_normalizeCos_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* normalizeDscp: table 0x01000029, pipeline A, exact match, 2 key bytes (6 bits) */
@@ -17920,8 +18962,16 @@ int p4_pd_orbisk_switch_normalizeDscp_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_normalizeDscp_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_normalizeDscp_match_specs_are_equal(const p4_pd_orbisk_switch_normalizeDscp_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_normalizeDscp_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_normalizeDscp_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* ingressTrafficClass: table 0x0100003f, pipeline A, ternary match, 8 key bytes (23 bits) */
@@ -18052,8 +19102,16 @@ int p4_pd_orbisk_switch_ingressTrafficClass_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_ingressTrafficClass_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_ingressTrafficClass_match_specs_are_equal(const p4_pd_orbisk_switch_ingressTrafficClass_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_ingressTrafficClass_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ingressTrafficClass_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* tcDscpMap: table 0x01000061, pipeline A, exact match, 1 key bytes (3 bits) */
@@ -18167,8 +19225,16 @@ int p4_pd_orbisk_switch_tcDscpMap_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_tcDscpMap_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_tcDscpMap_match_specs_are_equal(const p4_pd_orbisk_switch_tcDscpMap_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_tcDscpMap_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_tcDscpMap_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* qosRewriteConfig: table 0x0100000f, pipeline A, no key */
@@ -18234,6 +19300,14 @@ int p4_pd_orbisk_switch_qosRewriteConfig_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_qosRewriteConfig_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_qosRewriteConfig_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* qosRewrite: table 0x01000048, pipeline A, exact match, 5 key bytes (10 bits) */
 typedef struct p4_pd_orbisk_switch_qosRewrite_match_spec {
@@ -18376,8 +19450,16 @@ int p4_pd_orbisk_switch_qosRewrite_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_qosRewrite_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_qosRewrite_match_specs_are_equal(const p4_pd_orbisk_switch_qosRewrite_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_qosRewrite_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_qosRewrite_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* packetDscpRewrite: table 0x0100006e, pipeline A, ternary match, 6 key bytes (10 bits) */
@@ -18582,8 +19664,16 @@ int p4_pd_orbisk_switch_packetDscpRewrite_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_packetDscpRewrite_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_packetDscpRewrite_match_specs_are_equal(const p4_pd_orbisk_switch_packetDscpRewrite_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_packetDscpRewrite_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_packetDscpRewrite_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* queueCounters: table 0x0100005b, pipeline A, no key */
@@ -18648,6 +19738,14 @@ int p4_pd_orbisk_switch_queueCounters_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_queueCounters_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_queueCounters_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* pdpClassify: table 0x11010020, pipeline B, ternary match, 10 key bytes (52 bits), entries carry pdpMeter */
 typedef struct p4_pd_orbisk_switch_pdpClassify_match_spec {
@@ -18792,8 +19890,16 @@ int p4_pd_orbisk_switch_pdpClassify_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_pdpClassify_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_pdpClassify_match_specs_are_equal(const p4_pd_orbisk_switch_pdpClassify_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_pdpClassify_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_pdpClassify_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* pdpPolicy: table 0x11010025, pipeline B, exact match, 2 key bytes (6 bits), entries carry pdpClassCount */
@@ -18905,8 +20011,16 @@ int p4_pd_orbisk_switch_pdpPolicy_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_pdpPolicy_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_pdpPolicy_match_specs_are_equal(const p4_pd_orbisk_switch_pdpPolicy_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_pdpPolicy_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_pdpPolicy_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* ================================================================== */
@@ -19127,8 +20241,16 @@ int p4_pd_orbisk_switch_trapToCpu_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_trapToCpu_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_trapToCpu_match_specs_are_equal(const p4_pd_orbisk_switch_trapToCpu_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_trapToCpu_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_trapToCpu_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* switchToCpu: table 0x11010009, pipeline B, exact match, 2 key bytes (7 bits) */
@@ -19231,8 +20353,16 @@ int p4_pd_orbisk_switch_switchToCpu_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_switchToCpu_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_switchToCpu_match_specs_are_equal(const p4_pd_orbisk_switch_switchToCpu_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_switchToCpu_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_switchToCpu_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* cpuEncap: table 0x11010022, pipeline B, ternary match, 7 key bytes (14 bits) */
@@ -19453,8 +20583,16 @@ int p4_pd_orbisk_switch_cpuEncap_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_cpuEncap_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_cpuEncap_match_specs_are_equal(const p4_pd_orbisk_switch_cpuEncap_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_cpuEncap_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_cpuEncap_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* cpuEncapFields: table 0x01000069, pipeline A, exact match, 6 key bytes (15 bits) */
@@ -19602,8 +20740,16 @@ int p4_pd_orbisk_switch_cpuEncapFields_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_cpuEncapFields_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_cpuEncapFields_match_specs_are_equal(const p4_pd_orbisk_switch_cpuEncapFields_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_cpuEncapFields_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_cpuEncapFields_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* ingMtu: table 0x11010003, pipeline B, ternary match, 6 key bytes (36 bits) */
@@ -19735,8 +20881,16 @@ int p4_pd_orbisk_switch_ingMtu_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_ingMtu_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_ingMtu_match_specs_are_equal(const p4_pd_orbisk_switch_ingMtu_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_ingMtu_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ingMtu_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* mtuCheck: table 0x1101001b, pipeline B, ternary match, 7 key bytes (26 bits) */
@@ -19868,8 +21022,16 @@ int p4_pd_orbisk_switch_mtuCheck_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_mtuCheck_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_mtuCheck_match_specs_are_equal(const p4_pd_orbisk_switch_mtuCheck_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_mtuCheck_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_mtuCheck_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* finalDropControl: table 0x01000057, pipeline A, ternary match, 26 key bytes (64 bits), entries carry finalDropControlCount */
@@ -20106,8 +21268,16 @@ int p4_pd_orbisk_switch_finalDropControl_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_finalDropControl_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_finalDropControl_match_specs_are_equal(const p4_pd_orbisk_switch_finalDropControl_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_finalDropControl_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_finalDropControl_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* finalDropControlIB: table 0x11010027, pipeline B, ternary match, 12 key bytes (50 bits), entries carry finalDropControlIBCount */
@@ -20246,8 +21416,16 @@ int p4_pd_orbisk_switch_finalDropControlIB_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_finalDropControlIB_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_finalDropControlIB_match_specs_are_equal(const p4_pd_orbisk_switch_finalDropControlIB_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_finalDropControlIB_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_finalDropControlIB_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* ================================================================== */
@@ -20352,8 +21530,16 @@ int p4_pd_orbisk_switch_eifIngPolicy_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_eifIngPolicy_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_eifIngPolicy_match_specs_are_equal(const p4_pd_orbisk_switch_eifIngPolicy_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_eifIngPolicy_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_eifIngPolicy_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* eifParamsForIngress: table 0x11010014, pipeline B, no key */
@@ -20418,6 +21604,14 @@ int p4_pd_orbisk_switch_eifParamsForIngress_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_eifParamsForIngress_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_eifParamsForIngress_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* eifParamsForEgress: table 0x11010011, pipeline B, exact match, 2 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_eifParamsForEgress_match_spec {
@@ -20517,8 +21711,16 @@ int p4_pd_orbisk_switch_eifParamsForEgress_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_eifParamsForEgress_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_eifParamsForEgress_match_specs_are_equal(const p4_pd_orbisk_switch_eifParamsForEgress_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_eifParamsForEgress_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_eifParamsForEgress_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* eifPinHole: table 0x11010019, pipeline B, exact match, 20 key bytes (160 bits) */
@@ -20634,8 +21836,16 @@ int p4_pd_orbisk_switch_eifPinHole_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_eifPinHole_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_eifPinHole_match_specs_are_equal(const p4_pd_orbisk_switch_eifPinHole_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_eifPinHole_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_eifPinHole_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* eifPinHoleHits: table 0x1101001c, pipeline B, exact match, 2 key bytes (15 bits), idle timeout */
@@ -20763,8 +21973,16 @@ int p4_pd_orbisk_switch_eifPinHoleHits_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_eifPinHoleHits_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_eifPinHoleHits_match_specs_are_equal(const p4_pd_orbisk_switch_eifPinHoleHits_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_eifPinHoleHits_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_eifPinHoleHits_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* eifAcl: table 0x1101001a, pipeline B, ternary match, 39 key bytes (306 bits), entries carry eifAclCount */
@@ -20935,8 +22153,16 @@ int p4_pd_orbisk_switch_eifAcl_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_eifAcl_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_eifAcl_match_specs_are_equal(const p4_pd_orbisk_switch_eifAcl_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_eifAcl_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_eifAcl_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* eifForwardToPeerAcl: table 0x1101001d, pipeline B, ternary match, 34 key bytes (272 bits), entries carry eifForwardToPeerAclCount */
@@ -21076,8 +22302,16 @@ int p4_pd_orbisk_switch_eifForwardToPeerAcl_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_eifForwardToPeerAcl_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_eifForwardToPeerAcl_match_specs_are_equal(const p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_eifForwardToPeerAcl_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* foldedPipeDest: table 0x01000054, pipeline A, ternary match, 4 key bytes (18 bits), entries name a member or group of foldedPipeActionProfile */
@@ -21216,8 +22450,16 @@ int p4_pd_orbisk_switch_foldedPipeDest_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_foldedPipeDest_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_foldedPipeDest_match_specs_are_equal(const p4_pd_orbisk_switch_foldedPipeDest_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_foldedPipeDest_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_foldedPipeDest_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* foldedPipeQos: table 0x0100004a, pipeline A, ternary match, 8 key bytes (41 bits) */
@@ -21356,8 +22598,16 @@ int p4_pd_orbisk_switch_foldedPipeQos_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_foldedPipeQos_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_foldedPipeQos_match_specs_are_equal(const p4_pd_orbisk_switch_foldedPipeQos_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_foldedPipeQos_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_foldedPipeQos_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* foldedPipeCounters: table 0x0100005a, pipeline A, exact match, 3 key bytes (14 bits), entries carry foldedPipeCount */
@@ -21456,8 +22706,16 @@ int p4_pd_orbisk_switch_foldedPipeCounters_value(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     bool read_from_hw,
     char *out);
+int p4_pd_orbisk_switch_foldedPipeCounters_plcmt_data_value(const void *plcmt_data,
+    char *out);
 int p4_pd_orbisk_switch_foldedPipeCounters_match_specs_are_equal(const p4_pd_orbisk_switch_foldedPipeCounters_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_foldedPipeCounters_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_foldedPipeCounters_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
     char *error);
 
 /* ================================================================== */
@@ -21606,6 +22864,8 @@ pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_get_full_member_info
     pd_mbr_hdl mbr_hdl,
     const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec);
+int p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_plcmt_data_value(const void *plcmt_data,
+    char *out);
 
 /* mirrorLagPortActionProfile: action data table 0x0200001d, selector table 0x03000001;
  * entries of ingressMirrorLagGroup name its members and groups.
@@ -21749,6 +23009,8 @@ pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_get_full_member_info_fr
     pd_mbr_hdl mbr_hdl,
     const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec);
+int p4_pd_orbisk_switch_mirrorLagPortActionProfile_plcmt_data_value(const void *plcmt_data,
+    char *out);
 
 /* foldedPipeActionProfile: action data table 0x02000021, selector table 0x03000002;
  * entries of foldedPipeDest name its members and groups.
@@ -21892,6 +23154,8 @@ pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_get_full_member_info_from_
     pd_mbr_hdl mbr_hdl,
     const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec);
+int p4_pd_orbisk_switch_foldedPipeActionProfile_plcmt_data_value(const void *plcmt_data,
+    char *out);
 
 /* ecmpMemberActionProfile: action data table 0x12010003, selector table 0x13010001;
  * entries of ecmpGroup name its members and groups.
@@ -22035,6 +23299,8 @@ pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_get_full_member_info_from_
     pd_mbr_hdl mbr_hdl,
     const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec);
+int p4_pd_orbisk_switch_ecmpMemberActionProfile_plcmt_data_value(const void *plcmt_data,
+    char *out);
 
 /* tunnelMemberActionProfile: action data table 0x1201000c, selector table 0x13010002;
  * entries of tunnelResolve name its members and groups.
@@ -22178,6 +23444,8 @@ pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_get_full_member_info_fro
     pd_mbr_hdl mbr_hdl,
     const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec);
+int p4_pd_orbisk_switch_tunnelMemberActionProfile_plcmt_data_value(const void *plcmt_data,
+    char *out);
 
 /* lagPortActionProfile: action data table 0x1201000e, selector table 0x13010003;
  * entries of lagGroup name its members and groups.
@@ -22340,6 +23608,8 @@ pd_status p4_pd_orbisk_switch_lagPortActionProfile_get_full_member_info_from_plc
     pd_mbr_hdl mbr_hdl,
     const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec);
+int p4_pd_orbisk_switch_lagPortActionProfile_plcmt_data_value(const void *plcmt_data,
+    char *out);
 
 /* ------------------------------------------------------------------ */
 /* counters, meters and registers */

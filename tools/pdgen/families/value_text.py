@@ -84,10 +84,26 @@ FAMILIES = [
            "length, or 0 and out untouched when the read fails.",
            lambda f: ["  return entry_value(kTables[%d], sess_hdl, dev_id, entry_hdl, read_from_hw, out);"
                       % f.table.index], result="int", place=(120, 1)),
+    Family("table_plcmt_data_value", "{p}{t}_plcmt_data_value", [PLCMT, OUT],
+           "decodes a placement record and writes it as value text: (key, action), no priority; "
+           "its length, or 0 and out untouched when decoding fails.",
+           lambda f: ["  return placement_value(kTables[%d], plcmt_data, out);" % f.table.index],
+           result="int", place=(120, 2)),
+    Family("profile_plcmt_data_value", "{p}{r}_plcmt_data_value", [PLCMT, OUT],
+           "decodes a member's placement record and writes its action as value text; its "
+           "length, or 0 and out untouched when decoding fails.",
+           lambda f: ["  return member_placement_value(kProfiles[%d], plcmt_data, out);" % f.profile.index],
+           result="int", each="profile", when=lambda r: True, place=(120, 0)),
     Family("action_value", "{p}{a}_value", [ACTION_SPEC, OUT],
            "writes the action and its parameters as value text, ('<a>',(numbers)),; its length.",
            action_body, result="int", each="action", when=lambda a: True),
     Family("entry_value", "{p}entry_value", [SESS, DEV8, TBL_HDL, ENTRY_HDL, READ_FROM_HW, OUT],
            "<t>_value of the table with this handle; 0, out untouched, for any other.",
            result="int", each="program"),
+    Family("plcmt_data_value", "{p}plcmt_data_value", [TBL_HDL, PLCMT, OUT],
+           "<t>_plcmt_data_value of the table with this handle; 0, out untouched, for any other.",
+           result="int", each="program"),
+    Family("adt_plcmt_data_value", "{p}adt_plcmt_data_value", [PROFILE_HDL, PLCMT, OUT],
+           "<r>_plcmt_data_value of the profile with this action data table handle; 0, out "
+           "untouched, for any other.", result="int", each="program"),
 ]
