@@ -11,7 +11,9 @@
  * Each entry is read back, printed in host form and compared with what was
  * written, and printed as value text beside its table's schema text (both
  * read and paired by python3, where it is on the path, as an agent's
- * scripts would read them); then every
+ * scripts would read them) and verified against the chip through its
+ * placement data; one bit of the route is changed on the chip alone, and
+ * the comparison says what differs; then every
  * entry is deleted and each table is checked to be empty. Then the route is
  * added again with an idle time and left without traffic until the driver
  * reports it idle, and is taken out; traffic dropped on a port is counted
@@ -544,25 +546,44 @@ typedef int (*schema_fn)(char *out);
   "print(\"    python3 pairs them: \" + \", \".join(\"%s=%#x\" % (e[0], n) for e, n in zip(s[1], key)))'"
 
 typedef int (*value_fn)(pd_sess_hdl, uint8_t, pd_entry_hdl, bool, char *);
+typedef pd_status (*plcmt_fn)(pd_sess_hdl, pd_dev_target, pd_tbl_hdl, pd_entry_hdl, void *,
+                              uint32_t *);
+typedef int (*eq_to_hw_fn)(pd_sess_hdl, uint8_t, pd_tbl_hdl, pd_entry_hdl, const void *, char *);
+
+/* Whether the chip holds what the entry's placement data says: 1, or 0 and
+ * the first difference in `message`. */
+static int verify(const char *table, plcmt_fn fetch, eq_to_hw_fn eq, pd_entry_hdl hdl,
+                  char *message) {
+  static uint8_t plcmt[ORBISK_MODEL_PLACEMENT_MAX_BYTES];
+  uint32_t size = sizeof plcmt;
+  char what[96];
+  snprintf(what, sizeof what, "%s get_plcmt_data", table);
+  must(fetch(SESS, kTarget, 0, hdl, plcmt, &size), what);
+  return eq(SESS, DEVICE, 0, hdl, plcmt, message);
+}
 
 /* Each entry the demo programs, as value text beside its table's schema
  * text: the schema says what the table holds, the value what one entry
  * holds, number for number in the same order, and python3 (where it is on
  * the path) reads both as an agent's scripts would and pairs them. */
+#define TEXT_FNS(t)                                                                      \
+  #t, p4_pd_orbisk_switch_##t##_schema, p4_pd_orbisk_switch_##t##_value,                 \
+      p4_pd_orbisk_switch_##t##_get_plcmt_data, p4_pd_orbisk_switch_##t##_plcmt_data_eq_to_hw
+
 static void show_texts(const pd_entry_hdl hdl[4]) {
   static const struct {
     const char *table;
     schema_fn schema;
     value_fn value;
+    plcmt_fn fetch;
+    eq_to_hw_fn eq;
   } kTables[] = {
-      {"ingressPortMapping", p4_pd_orbisk_switch_ingressPortMapping_schema,
-       p4_pd_orbisk_switch_ingressPortMapping_value},
-      {"l2DomainLookup", p4_pd_orbisk_switch_l2DomainLookup_schema,
-       p4_pd_orbisk_switch_l2DomainLookup_value},
-      {"l2Lookup", p4_pd_orbisk_switch_l2Lookup_schema, p4_pd_orbisk_switch_l2Lookup_value},
-      {"ipv4ShortMaskLpm", p4_pd_orbisk_switch_ipv4ShortMaskLpm_schema,
-       p4_pd_orbisk_switch_ipv4ShortMaskLpm_value},
+      {TEXT_FNS(ingressPortMapping)},
+      {TEXT_FNS(l2DomainLookup)},
+      {TEXT_FNS(l2Lookup)},
+      {TEXT_FNS(ipv4ShortMaskLpm)},
   };
+  char message[128];
   static char schema[P4_PD_ORBISK_SWITCH_SCHEMA_MAX];
   static char value[P4_PD_ORBISK_SWITCH_VALUE_MAX];
   const bool python = system("command -v python3 >/dev/null 2>&1") == 0;
@@ -579,6 +600,12 @@ static void show_texts(const pd_entry_hdl hdl[4]) {
       continue;
     }
     printf("value of entry %" PRIu32 ":\n    %s\n", (uint32_t)hdl[i], value);
+    if (verify(kTables[i].table, kTables[i].fetch, kTables[i].eq, hdl[i], message)) {
+      printf("    the chip holds what its placement data says\n");
+    } else {
+      fprintf(stderr, "orbisk_demo: error: %s: the chip differs: %s\n", kTables[i].table, message);
+      ++g_failures;
+    }
     if (!python) continue;
     fflush(stdout);
     FILE *reader = popen(PYTHON_PAIRS_TEXTS, "w");
@@ -589,6 +616,20 @@ static void show_texts(const pd_entry_hdl hdl[4]) {
               kTables[i].table);
       ++g_failures;
     }
+  }
+
+  /* The chip's copy of the route changed under software (the lowest bit of
+   * its VRF, the key's first byte): the comparison finds it and says what
+   * differs, software's value first. Deleting the entry later rights it. */
+  pd_tbl_hdl route_table = 0;
+  must(p4_pd_orbisk_switch_ipv4ShortMaskLpm_get_mat_table_handle(&route_table),
+       "ipv4ShortMaskLpm table handle");
+  must(orbisk_model_hw_flip_key(DEVICE, route_table, hdl[3], 0, 1), "a hardware bit flipped");
+  if (verify(kTables[3].table, kTables[3].fetch, kTables[3].eq, hdl[3], message)) {
+    fprintf(stderr, "orbisk_demo: error: ipv4ShortMaskLpm: a changed chip goes unnoticed\n");
+    ++g_failures;
+  } else {
+    printf("the chip's copy of the route changed: %s\n", message);
   }
 }
 
