@@ -174,95 +174,6 @@ std::string eq_to_hw(const TableDesc &t, pd_entry_hdl hdl, bool neither = false)
   return std::to_string(eq) + " " + error;
 }
 
-class ValueText : public OnModel {};
-
-// One line per text, tab-separated, for check_value_text.py.
-struct Sweep {
-  std::ostringstream out;
-
-  void entry(const char *kind, const TableDesc &t, pd_entry_hdl hdl, const ActionDesc &a, const uint8_t *ms,
-             const uint8_t *as, uint32_t priority) {
-    auto value = exported<TableValueFn>(std::string(t.name) + "_value");
-    const std::string v = text([&](char *o) { return value(kSess, 0, hdl, false, o); });
-    const std::string hw = text([&](char *o) { return value(kSess, 0, hdl, true, o); });
-    const std::string by_hdl =
-        text([&](char *o) { return p4_pd_orbisk_switch_entry_value(kSess, 0, t.handle, hdl, false, o); });
-    std::string key = "-";
-    if (ms) key = text([&](char *o) { return exported<RecordValueFn>(std::string(t.name) + "_match_spec_value")(ms, o); });
-    const std::string act = a.num_params
-        ? text([&](char *o) { return exported<RecordValueFn>(std::string(a.name) + "_value")(as, o); })
-        : text(exported<BareValueFn>(std::string(a.name) + "_value"));
-    // The entry's placement record, as text by table and by handle, and
-    // against the chip, which holds what software wrote.
-    const Placement p = placement_of(t.name, hdl);
-    const std::string plcmt =
-        text([&](char *o) { return exported<PlacementValueFn>(std::string(t.name) + "_plcmt_data_value")(p.bytes, o); });
-    const std::string plcmt_by_hdl =
-        text([&](char *o) { return p4_pd_orbisk_switch_plcmt_data_value(t.handle, p.bytes, o); });
-    out << kind << '\t' << t.name << '\t' << v << '\t' << (ms ? written_key(t, ms) : "-") << '\t' << a.name << '\t'
-        << written_params(a, as) << '\t' << priority << '\t' << key << '\t' << act << '\t' << hw << '\t' << by_hdl
-        << '\t' << plcmt << '\t' << plcmt_by_hdl << '\t' << eq_to_hw(t, hdl) << '\n';
-  }
-};
-
-TEST_F(ValueText, EveryTableAndActionEvaluatesAndPairsWithItsSchema) {
-  Sweep sweep;
-  for (std::size_t i = 0; i < orbisk::pd::kNumTables; ++i) {
-    const TableDesc &t = kTables[i];
-    auto schema = exported<BareValueFn>(std::string(t.name) + "_schema");
-    sweep.out << "S\t" << t.name << '\t' << text_of(schema) << '\n';
-  }
-  unsigned seed = 1;
-  for (std::size_t r = 0; r < roundtrip::kNumTableRows; ++r) {
-    const roundtrip::TableRow &row = roundtrip::kTableRows[r];
-    const TableDesc &t = *row.table;
-    for (std::size_t i = 0; i < row.num_actions; ++i) {
-      const roundtrip::ActionRow &ar = row.actions[i];
-      Record ms, as;
-      fill_key(t, ms.b, ++seed);
-      // An index that stands only in a resource slot goes as its low 16 bits.
-      for (unsigned p = 0; p < ar.action->num_params; ++p) {
-        const unsigned bits = ar.action->params[p].bits;
-        store(as.b + ar.action->params[p].host_offset, bits,
-              pattern(int(p) == ar.action->slot_param ? std::min(bits, 16u) : bits, seed * 3 + p));
-      }
-      pd_entry_hdl hdl = 0;
-      Call c;
-      c.sess_hdl = kSess;
-      c.priority = kPriority;
-      c.match_spec.p = ms.b;
-      c.action_spec.p = as.b;
-      c.entry_hdl_out = &hdl;
-      static const pd_meter_spec meter = {1000, 200, 2000, 400, PD_METER_TYPE_COLOR_AWARE};
-      c.meter_spec = &meter;
-      c.ttl = 1000;
-      if (ar.table_add_with) {
-        ASSERT_EQ(BF_SUCCESS, ar.table_add_with(c)) << t.name << " " << ar.action->name;
-        sweep.entry("E", t, hdl, *ar.action, t.keyed() ? ms.b : nullptr, as.b, t.ternary() ? kPriority : 0);
-        // Narrow keys of different seeds may meet: one entry at a time.
-        c.entry_hdl = hdl;
-        if (row.table_delete) {
-          ASSERT_EQ(BF_SUCCESS, row.table_delete(c));
-        }
-      }
-      if (ar.set_default_action) {
-        ASSERT_EQ(BF_SUCCESS, ar.set_default_action(c)) << t.name << " " << ar.action->name;
-        sweep.entry("D", t, hdl, *ar.action, nullptr, as.b, 0);
-      }
-    }
-  }
-  const std::string path = ::testing::TempDir() + "value_text_sweep.txt";
-  std::ofstream(path) << sweep.out.str();
-  const std::string cmd = std::string(ORBISK_PYTHON " " ORBISK_SOURCE_DIR "/tests/check_value_text.py ") + path;
-  FILE *p = popen(cmd.c_str(), "r");
-  ASSERT_NE(nullptr, p);
-  std::string report;
-  char line[512];
-  while (std::fgets(line, sizeof line, p)) report += line;
-  EXPECT_EQ(0, pclose(p)) << report;
-  EXPECT_NE(std::string::npos, report.find(" 0 failures")) << report;
-}
-
 // An entry of a table through its add with the named action (any priority
 // goes as kPriority), its handle.
 pd_entry_hdl add(const TableDesc &t, const char *action, const Record &ms, const Record &as) {
@@ -317,6 +228,163 @@ pd_entry_hdl add_selection(const TableDesc &t, const Record &ms, bool group, uin
       : exported<pd_status (*)(pd_sess_hdl, pd_dev_target, const void *, uint32_t, pd_entry_hdl *)>(f)(
             kSess, tgt, ms.b, ref, &hdl));
   return hdl;
+}
+
+class ValueText : public OnModel {};
+
+// One line per text, tab-separated, for check_value_text.py.
+struct Sweep {
+  std::ostringstream out;
+
+  void entry(const char *kind, const TableDesc &t, pd_entry_hdl hdl, const ActionDesc &a, const uint8_t *ms,
+             const uint8_t *as, uint32_t priority) {
+    auto value = exported<TableValueFn>(std::string(t.name) + "_value");
+    const std::string v = text([&](char *o) { return value(kSess, 0, hdl, false, o); });
+    const std::string hw = text([&](char *o) { return value(kSess, 0, hdl, true, o); });
+    const std::string by_hdl =
+        text([&](char *o) { return p4_pd_orbisk_switch_entry_value(kSess, 0, t.handle, hdl, false, o); });
+    std::string key = "-";
+    if (ms) key = text([&](char *o) { return exported<RecordValueFn>(std::string(t.name) + "_match_spec_value")(ms, o); });
+    const std::string act = a.num_params
+        ? text([&](char *o) { return exported<RecordValueFn>(std::string(a.name) + "_value")(as, o); })
+        : text(exported<BareValueFn>(std::string(a.name) + "_value"));
+    // The entry's placement record, as text by table and by handle, and
+    // against the chip, which holds what software wrote.
+    const Placement p = placement_of(t.name, hdl);
+    const std::string plcmt =
+        text([&](char *o) { return exported<PlacementValueFn>(std::string(t.name) + "_plcmt_data_value")(p.bytes, o); });
+    const std::string plcmt_by_hdl =
+        text([&](char *o) { return p4_pd_orbisk_switch_plcmt_data_value(t.handle, p.bytes, o); });
+    out << kind << '\t' << t.name << '\t' << v << '\t' << (ms ? written_key(t, ms) : "-") << '\t' << a.name << '\t'
+        << written_params(a, as) << '\t' << priority << '\t' << key << '\t' << act << '\t' << hw << '\t' << by_hdl
+        << '\t' << plcmt << '\t' << plcmt_by_hdl << '\t' << eq_to_hw(t, hdl) << '\n';
+  }
+
+  // An entry of a table reached through a selector, naming member or group `ref`.
+  void selection(const TableDesc &t, pd_entry_hdl hdl, const uint8_t *ms, bool group, uint32_t ref) {
+    auto value = exported<TableValueFn>(std::string(t.name) + "_value");
+    const std::string v = text([&](char *o) { return value(kSess, 0, hdl, false, o); });
+    const std::string hw = text([&](char *o) { return value(kSess, 0, hdl, true, o); });
+    const std::string by_hdl =
+        text([&](char *o) { return p4_pd_orbisk_switch_entry_value(kSess, 0, t.handle, hdl, false, o); });
+    const std::string key =
+        text([&](char *o) { return exported<RecordValueFn>(std::string(t.name) + "_match_spec_value")(ms, o); });
+    const Placement p = placement_of(t.name, hdl);
+    const std::string plcmt =
+        text([&](char *o) { return exported<PlacementValueFn>(std::string(t.name) + "_plcmt_data_value")(p.bytes, o); });
+    const std::string plcmt_by_hdl =
+        text([&](char *o) { return p4_pd_orbisk_switch_plcmt_data_value(t.handle, p.bytes, o); });
+    out << "E\t" << t.name << '\t' << v << '\t' << written_key(t, ms) << '\t' << (group ? "setGrpHdl" : "setMbrHdl")
+        << '\t' << hex(ref) << ",\t" << (t.ternary() ? kPriority : 0) << '\t' << key << "\t-\t" << hw << '\t' << by_hdl
+        << '\t' << plcmt << '\t' << plcmt_by_hdl << '\t' << eq_to_hw(t, hdl) << '\n';
+  }
+
+  // A member of a profile: its placement record as text, by profile and by
+  // handle, beside the action's own text of the same parameters.
+  void member(const orbisk::pd::ProfileDesc &r, pd_mbr_hdl mbr, const ActionDesc &a, const uint8_t *as) {
+    const Placement p = placement_of(r.name, mbr);
+    const std::string v =
+        text([&](char *o) { return exported<PlacementValueFn>(std::string(r.name) + "_plcmt_data_value")(p.bytes, o); });
+    const std::string by_hdl =
+        text([&](char *o) { return p4_pd_orbisk_switch_adt_plcmt_data_value(r.adt_hdl, p.bytes, o); });
+    const std::string act = a.num_params
+        ? text([&](char *o) { return exported<RecordValueFn>(std::string(a.name) + "_value")(as, o); })
+        : text(exported<BareValueFn>(std::string(a.name) + "_value"));
+    out << "M\t" << r.name << '\t' << v << '\t' << a.name << '\t' << written_params(a, as) << '\t' << by_hdl << '\t'
+        << act << '\n';
+  }
+};
+
+TEST_F(ValueText, EveryTableAndActionEvaluatesAndPairsWithItsSchema) {
+  Sweep sweep;
+  for (std::size_t i = 0; i < orbisk::pd::kNumTables; ++i) {
+    const TableDesc &t = kTables[i];
+    auto schema = exported<BareValueFn>(std::string(t.name) + "_schema");
+    sweep.out << "S\t" << t.name << '\t' << text_of(schema) << '\n';
+  }
+  unsigned seed = 1;
+  for (std::size_t r = 0; r < roundtrip::kNumTableRows; ++r) {
+    const roundtrip::TableRow &row = roundtrip::kTableRows[r];
+    const TableDesc &t = *row.table;
+    for (std::size_t i = 0; i < row.num_actions; ++i) {
+      const roundtrip::ActionRow &ar = row.actions[i];
+      Record ms, as;
+      fill_key(t, ms.b, ++seed);
+      // An index that stands only in a resource slot goes as its low 16 bits.
+      for (unsigned p = 0; p < ar.action->num_params; ++p) {
+        const unsigned bits = ar.action->params[p].bits;
+        store(as.b + ar.action->params[p].host_offset, bits,
+              pattern(int(p) == ar.action->slot_param ? std::min(bits, 16u) : bits, seed * 3 + p));
+      }
+      pd_entry_hdl hdl = 0;
+      Call c;
+      c.sess_hdl = kSess;
+      c.priority = kPriority;
+      c.match_spec.p = ms.b;
+      c.action_spec.p = as.b;
+      c.entry_hdl_out = &hdl;
+      static const pd_meter_spec meter = {1000, 200, 2000, 400, PD_METER_TYPE_COLOR_AWARE};
+      c.meter_spec = &meter;
+      c.ttl = 1000;
+      if (ar.table_add_with) {
+        ASSERT_EQ(BF_SUCCESS, ar.table_add_with(c)) << t.name << " " << ar.action->name;
+        sweep.entry("E", t, hdl, *ar.action, t.keyed() ? ms.b : nullptr, as.b, t.ternary() ? kPriority : 0);
+        // Narrow keys of different seeds may meet: one entry at a time.
+        c.entry_hdl = hdl;
+        if (row.table_delete) {
+          ASSERT_EQ(BF_SUCCESS, row.table_delete(c));
+        }
+      }
+      if (ar.set_default_action) {
+        ASSERT_EQ(BF_SUCCESS, ar.set_default_action(c)) << t.name << " " << ar.action->name;
+        sweep.entry("D", t, hdl, *ar.action, nullptr, as.b, 0);
+      }
+    }
+  }
+  // Tables reached through a selector: an entry naming a member, then one
+  // naming a group, each deleted in turn.
+  for (std::size_t i = 0; i < orbisk::pd::kNumTables; ++i) {
+    const TableDesc &t = kTables[i];
+    if (!t.indirect()) continue;
+    for (bool group : {false, true}) {
+      Record ms;
+      fill_key(t, ms.b, ++seed);
+      uint32_t ref = 0;
+      const pd_entry_hdl hdl = add_selection(t, ms, group, ref);
+      sweep.selection(t, hdl, ms.b, group, ref);
+      ASSERT_EQ(BF_SUCCESS, exported<pd_status (*)(pd_sess_hdl, uint32_t, pd_entry_hdl)>(std::string(t.name) +
+                                                                                          "_table_delete")(kSess, 0, hdl));
+    }
+  }
+  // A member of every action of every profile.
+  for (std::size_t i = 0; i < orbisk::pd::kNumProfiles; ++i) {
+    const orbisk::pd::ProfileDesc &r = orbisk::pd::kProfiles[i];
+    sweep.out << "P\t" << r.name << '\t' << text_of(exported<BareValueFn>(std::string(r.name) + "_schema")) << '\n';
+    for (unsigned k = 0; k < r.num_actions; ++k) {
+      const ActionDesc &a = *r.actions[k].action;
+      Record as;
+      for (unsigned q = 0; q < a.num_params; ++q)
+        store(as.b + a.params[q].host_offset, a.params[q].bits, pattern(a.params[q].bits, ++seed));
+      pd_mbr_hdl mbr = 0;
+      const std::string add = std::string(r.name) + "_add_member_with_" + a.name;
+      ASSERT_EQ(BF_SUCCESS, a.num_params ? exported<pd_status (*)(pd_sess_hdl, pd_dev_target, const void *, pd_mbr_hdl *)>(
+                                               add)(kSess, {0, PD_DEV_PIPE_ALL}, as.b, &mbr)
+                                         : exported<pd_status (*)(pd_sess_hdl, pd_dev_target, pd_mbr_hdl *)>(add)(
+                                               kSess, {0, PD_DEV_PIPE_ALL}, &mbr))
+          << add;
+      sweep.member(r, mbr, a, as.b);
+    }
+  }
+  const std::string path = ::testing::TempDir() + "value_text_sweep.txt";
+  std::ofstream(path) << sweep.out.str();
+  const std::string cmd = std::string(ORBISK_PYTHON " " ORBISK_SOURCE_DIR "/tests/check_value_text.py ") + path;
+  FILE *p = popen(cmd.c_str(), "r");
+  ASSERT_NE(nullptr, p);
+  std::string report;
+  char line[512];
+  while (std::fgets(line, sizeof line, p)) report += line;
+  EXPECT_EQ(0, pclose(p)) << report;
+  EXPECT_NE(std::string::npos, report.find(" 0 failures")) << report;
 }
 
 std::string value_of(const TableDesc &t, pd_entry_hdl hdl) {
