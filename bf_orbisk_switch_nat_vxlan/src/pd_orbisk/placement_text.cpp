@@ -30,8 +30,8 @@ pd_status decode(const TableDesc &t, const void *plcmt_data, Entry &e) {
   const FunctionName decoder(t.name, "_get_entry_from_plcmt_data");
   Selection &s = e.selection;
   return decode_entry(t, decoder.text, plcmt_data,
-                      {t.keyed() ? e.key : nullptr, t.ternary() ? &e.priority : nullptr, &e.action, &s.mbr,
-                       &s.grp, &s.has_mbr, &s.has_grp, &e.is_default});
+                      {t.keyed() ? e.key : nullptr, t.ternary() ? &e.priority : nullptr, &e.action,
+                       &s.mbr, &s.grp, &s.has_mbr, &s.has_grp, &e.is_default});
 }
 
 // Reads an entry from the chip into e; get_entry's status.
@@ -41,11 +41,13 @@ pd_status read_hw(const TableDesc &t, pd_sess_hdl sess, uint8_t dev_id, pd_entry
   uint32_t *priority = t.ternary() ? &e.priority : nullptr;
   if (t.indirect()) {
     Selection &s = e.selection;
-    return read_indirect_entry(t, sess, dev_id, entry_hdl, true,
-                               {key, priority, &s.has_mbr, &s.has_grp, &s.grp, &s.mbr, &e.is_default});
+    return read_indirect_entry(
+        t, sess, dev_id, entry_hdl, true,
+        {key, priority, &s.has_mbr, &s.has_grp, &s.grp, &s.mbr, &e.is_default});
   }
-  return read_entry(t, get_entry, sess, dev_id, entry_hdl, true,
-                    {key, priority, nullptr, &e.action.u, &e.action.name, t.keyed() ? &e.is_default : nullptr});
+  return read_entry(
+      t, get_entry, sess, dev_id, entry_hdl, true,
+      {key, priority, nullptr, &e.action.u, &e.action.name, t.keyed() ? &e.is_default : nullptr});
 }
 
 // A message of a fixed text and up to two handles or indices: the text
@@ -166,6 +168,8 @@ PD_EXPORT int p4_pd_orbisk_switch_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl, uint
   // The record tells its own length: its size is not needed.
   (void)plcmt_data_size;
   const TableDesc *t = find_table(tbl_hdl);
-  if (!t) pd_hard_assert_failed_in(kTextSourcePath, "false && \"unknown table\"", __func__, __LINE__);
+  if (!t) {
+    pd_hard_assert_failed_in(kTextSourcePath, "false && \"unknown table\"", __func__, __LINE__);
+  }
   return placement_equals_hw(*t, sess_hdl, dev_id, entry_hdl, plcmt_data, error);
 }
