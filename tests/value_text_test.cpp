@@ -371,31 +371,35 @@ TEST_F(ValueText, WorkedTexts) {
 
 // A text that cannot be made gives 0 and leaves the buffer alone: a failed
 // read, a record the model did not make, and every handle a dispatcher does
-// not take (no table or profile, or one of the other kind).
+// not take (no table or profile, or one of the other kind), given records
+// that would decode.
 TEST_F(ValueText, FailuresAndMissesLeaveTheBufferAlone) {
-  const ProfileDesc &r = *table("ecmpGroup").profile;
+  const TableDesc &ecmp = table("ecmpGroup");
+  const ProfileDesc &r = *ecmp.profile;
   const uint8_t foreign[ORBISK_MODEL_PLACEMENT_MAX_BYTES] = {};
+  // Records that decode: an entry's and a member's.
+  Record ms;
+  uint32_t mbr = 0;
+  const pd_entry_hdl e = add_selection(ecmp, ms, false, mbr);
+  const Placement entry = placement_of(ecmp.name, e), member = placement_of(r.name, mbr);
   ASSERT_EQ(BF_SUCCESS, orbisk_model_fail("pipe_mgr_get_entry", 1, 7));
   const std::function<int(char *)> writes[] = {
-      [](char *o) {
-        return p4_pd_orbisk_switch_vlanDecap_value(kSess, kDev, ORBISK_MODEL_DEFAULT_ENTRY_HDL, false, o);
-      },
-      [&](char *o) { return p4_pd_orbisk_switch_entry_value(kSess, kDev, table("ingMtu").handle, 77, false, o); },
-      [&](char *o) { return p4_pd_orbisk_switch_plcmt_data_value(table("ecmpGroup").handle, foreign, o); },
+      [&](char *o) { return p4_pd_orbisk_switch_entry_value(kSess, kDev, ecmp.handle, e, false, o); },
+      [&](char *o) { return p4_pd_orbisk_switch_plcmt_data_value(ecmp.handle, foreign, o); },
       [&](char *o) { return p4_pd_orbisk_switch_ecmpMemberActionProfile_plcmt_data_value(foreign, o); },
-      [&](char *o) { return p4_pd_orbisk_switch_adt_plcmt_data_value(table("ecmpGroup").handle, foreign, o); },
-      [&](char *o) { return p4_pd_orbisk_switch_plcmt_data_value(r.adt_hdl, foreign, o); },
+      [&](char *o) { return p4_pd_orbisk_switch_adt_plcmt_data_value(ecmp.handle, member.bytes, o); },
+      [&](char *o) { return p4_pd_orbisk_switch_plcmt_data_value(r.adt_hdl, entry.bytes, o); },
   };
   for (const auto &w : writes) {
     char buf[8] = "before";
     EXPECT_EQ(0, w(buf));
     EXPECT_STREQ("before", buf);
   }
-  for (pd_tbl_hdl h : {0x01000055u, 0x01000000u, 0x01000076u, 0x11010002u, 0x11010029u, r.sel_hdl, 0u}) {
+  for (pd_tbl_hdl h : {0x01000055u, 0x01000000u, 0x01000076u, 0x11010002u, 0x11010029u, r.sel_hdl, r.adt_hdl, 0u}) {
     char buf[8] = "before";
-    EXPECT_EQ(0, p4_pd_orbisk_switch_entry_value(kSess, kDev, h, 1, false, buf) +
-                     p4_pd_orbisk_switch_plcmt_data_value(h, foreign, buf) +
-                     p4_pd_orbisk_switch_adt_plcmt_data_value(h, foreign, buf))
+    EXPECT_EQ(0, p4_pd_orbisk_switch_entry_value(kSess, kDev, h, e, false, buf) +
+                     p4_pd_orbisk_switch_plcmt_data_value(h, entry.bytes, buf) +
+                     (h == r.adt_hdl ? 0 : p4_pd_orbisk_switch_adt_plcmt_data_value(h, member.bytes, buf)))
         << std::hex << h;
     EXPECT_STREQ("before", buf);
   }
