@@ -99,7 +99,6 @@ int entry_value(const TableDesc &t, pd_sess_hdl sess, uint8_t dev_id, pd_entry_h
   alignas(8) uint8_t spec[kMatchSpecRoom];
   uint32_t priority = 0;
   bool is_default = false;
-  const FunctionName get_entry(t.name, "_get_entry");
   uint32_t *prio = t.ternary() ? &priority : nullptr;
   void *key = t.keyed() ? spec : nullptr;
   if (t.indirect()) {
@@ -114,6 +113,7 @@ int entry_value(const TableDesc &t, pd_sess_hdl sess, uint8_t dev_id, pd_entry_h
   }
   p4_pd_orbisk_switch_action_spec_u action;
   p4_pd_orbisk_switch_action_names_t action_enum{};
+  const FunctionName get_entry(t.name, "_get_entry");
   if (read_entry(t, get_entry.text, sess, dev_id, entry_hdl, read_from_hw,
                  {key, prio, nullptr, &action, &action_enum, t.keyed() ? &is_default : nullptr})) {
     return 0;
