@@ -112,6 +112,13 @@
  *  <t>_<f>_width(): the key field's width in bits.
  *  <t>_supports_entry_priority(): 1 when the table's key has a mask field,
  *      else 0.
+ *  <t>_match_spec_print(file descriptor, indent, match spec): writes the key
+ *      record to fd, one line a key element after a header line.
+ *  <t>_match_spec_stringify_for_counter(match spec, out text): writes the
+ *      counting table's label of the key record and a NUL; its length.
+ *  <t>_stringify_counter_match_spec(sess, device id, entry handle, out text):
+ *      reads the entry from hardware and writes its key's label; 0 if the
+ *      read fails.
  *  <r>_schema(out text): writes the profile's action tuples as schema text
  *      and a NUL; its length.
  *  <r>_add_member_with_<a>(sess, target, [action spec], out member handle):
@@ -187,6 +194,8 @@
  *  <r>_register_sel_update_cb(sess, device id, update callback, cookie): the
  *      callback told of each group made or deleted and each member added or
  *      removed.
+ *  <a>_print(file descriptor, indent, action spec): writes the action's
+ *      parameters to fd, one line each.
  *  <a>_schema(): the action tuple: a constant NUL-terminated text.
  *  unbuild_action_spec_<a>(action record, [resources], [count], out action
  *      spec): an action record's data into an action spec.
@@ -1621,6 +1630,12 @@ PD_STATIC_ASSERT(offsetof(p4_pd_orbisk_switch_action_specs_t, u) == 4,
 
 /* ---------------------------------------- lifecycle and dispatch --- */
 
+/* The label of an entry of the counting table with this handle; 0 for any other. */
+int p4_pd_orbisk_switch_stringify_counter_matchspec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    char *out);
 /* Registers with the driver; call before anything else. */
 void p4_pd_orbisk_switch_init(void);
 /* Deregisters from the driver. */
@@ -1653,9 +1668,78 @@ void p4_pd_orbisk_switch_ha_restore_state_from_adt_sel(pd_sess_hdl sess_hdl,
 const char *p4_pd_orbisk_switch_action_enum_to_string(uint32_t action);
 /* Action of a full name; P4_PD_ORBISK_SWITCH_ACTION_COUNT for none. */
 p4_pd_orbisk_switch_action_names_t p4_pd_orbisk_switch_action_string_to_enum(const char *name);
+/* "<label> a.b.c.d "; its length. */
+int p4_pd_orbisk_switch__print_v4addr_exact(char *out,
+    const char *label,
+    uint32_t addr);
+/* "<label> a.b.c.d/<prefix> "; its length. */
+int p4_pd_orbisk_switch__print_v4addr_lpm(char *out,
+    const char *label,
+    uint32_t addr,
+    uint16_t prefix_length);
+/* "<label> a.b.c.d/<leading ones of mask> "; 0 and nothing written for mask 0. */
+int p4_pd_orbisk_switch__print_v4addr_ternary(char *out,
+    const char *label,
+    uint32_t addr,
+    uint32_t mask);
+/* "<label> <address>", no blank after it; its length. */
+int p4_pd_orbisk_switch__print_v6addr_exact(char *out,
+    const char *label,
+    const uint8_t *addr);
+/* "<label> <address>/<prefix> "; its length. */
+int p4_pd_orbisk_switch__print_v6addr_lpm(char *out,
+    const char *label,
+    const uint8_t *addr,
+    uint16_t prefix_length);
+/* "<label> <address>/<mask> "; 0 and nothing written for an all-zero mask. */
+int p4_pd_orbisk_switch__print_v6addr_ternary(char *out,
+    const char *label,
+    const uint8_t *addr,
+    const uint8_t *mask);
+/* "<label> xxxx.xxxx.xxxx " of the two 24-bit halves; its length. */
+int p4_pd_orbisk_switch__print_mac_exact(char *out,
+    const char *label,
+    uint32_t oui,
+    uint32_t station);
+/* the exact form for an all-ones mask, "<label> <mac>/<mask> " for a partial one, 0 and nothing written for none. */
+int p4_pd_orbisk_switch__print_mac_ternary(char *out,
+    const char *label,
+    uint32_t oui,
+    uint32_t oui_mask,
+    uint32_t station,
+    uint32_t station_mask);
 /* Schema text of the table or profile with this handle; "()" and 2 for any other. */
 int p4_pd_orbisk_switch_cli_schema(pd_tbl_hdl tbl_hdl,
     char *out);
+/* The table's first entry handle; for a handle of no table 0xffffffff and status 0. */
+pd_status p4_pd_orbisk_switch_entry_hdl_first(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl *entry_hdl);
+/* Up to n entry handles after this one; for a handle of no table 0xffffffff and status 0. */
+pd_status p4_pd_orbisk_switch_entry_hdl_next(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    uint32_t n,
+    pd_entry_hdl *next_entry_hdls);
+/* The table's default entry handle; for a handle of no table 0xffffffff and status 0. */
+pd_status p4_pd_orbisk_switch_entry_hdl_default(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl *entry_hdl);
+/* The profile's first member; for a handle of no profile 0xffffffff and status 0xffffffff. */
+pd_status p4_pd_orbisk_switch_member_hdl_first(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_mbr_hdl *mbr_hdl);
+/* Up to n members after this one; for a handle of no profile 0xffffffff and status 0xffffffff. */
+pd_status p4_pd_orbisk_switch_member_hdl_next(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t n,
+    pd_mbr_hdl *next_mbr_hdls);
 
 /* ================================================================== */
 /* Port, VLAN and interface tables */
@@ -1738,6 +1822,9 @@ const char *p4_pd_orbisk_switch_ingressPortMapping_match_spec_schema(void);
 int p4_pd_orbisk_switch_ingressPortMapping_schema(char *out);
 int p4_pd_orbisk_switch_ingressPortMapping_ig_intr_md_ingress_port_width(void);
 int p4_pd_orbisk_switch_ingressPortMapping_supports_entry_priority(void);
+void p4_pd_orbisk_switch_ingressPortMapping_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ingressPortMapping_match_spec_t *match_spec);
 
 /* l2DomainLookup: table 0x01000004, pipeline A, ternary match, 6 key bytes (28 bits) */
 typedef struct p4_pd_orbisk_switch_l2DomainLookup_match_spec {
@@ -1875,6 +1962,9 @@ int p4_pd_orbisk_switch_l2DomainLookup_phase0_ingVPort_width(void);
 int p4_pd_orbisk_switch_l2DomainLookup_vlanHdr_0__width(void);
 int p4_pd_orbisk_switch_l2DomainLookup_vlanHdr_0__vlanId_width(void);
 int p4_pd_orbisk_switch_l2DomainLookup_supports_entry_priority(void);
+void p4_pd_orbisk_switch_l2DomainLookup_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l2DomainLookup_match_spec_t *match_spec);
 
 /* taggedXlatePktToL3: table 0x01000005, pipeline A, exact match, 4 key bytes (26 bits) */
 typedef struct p4_pd_orbisk_switch_taggedXlatePktToL3_match_spec {
@@ -1968,6 +2058,9 @@ int p4_pd_orbisk_switch_taggedXlatePktToL3_schema(char *out);
 int p4_pd_orbisk_switch_taggedXlatePktToL3_phase0_ingVPort_width(void);
 int p4_pd_orbisk_switch_taggedXlatePktToL3_vlanHdr_0__vlanId_width(void);
 int p4_pd_orbisk_switch_taggedXlatePktToL3_supports_entry_priority(void);
+void p4_pd_orbisk_switch_taggedXlatePktToL3_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_taggedXlatePktToL3_match_spec_t *match_spec);
 
 /* taggedPktToL3: table 0x01000007, pipeline A, exact match, 2 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_taggedPktToL3_match_spec {
@@ -2059,6 +2152,9 @@ const char *p4_pd_orbisk_switch_taggedPktToL3_match_spec_schema(void);
 int p4_pd_orbisk_switch_taggedPktToL3_schema(char *out);
 int p4_pd_orbisk_switch_taggedPktToL3_vlanHdr_0__vlanId_width(void);
 int p4_pd_orbisk_switch_taggedPktToL3_supports_entry_priority(void);
+void p4_pd_orbisk_switch_taggedPktToL3_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_taggedPktToL3_match_spec_t *match_spec);
 
 /* untaggedPktToL3: table 0x01000006, pipeline A, exact match, 2 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_untaggedPktToL3_match_spec {
@@ -2150,6 +2246,9 @@ const char *p4_pd_orbisk_switch_untaggedPktToL3_match_spec_schema(void);
 int p4_pd_orbisk_switch_untaggedPktToL3_schema(char *out);
 int p4_pd_orbisk_switch_untaggedPktToL3_phase0_nativeAintf_width(void);
 int p4_pd_orbisk_switch_untaggedPktToL3_supports_entry_priority(void);
+void p4_pd_orbisk_switch_untaggedPktToL3_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_untaggedPktToL3_match_spec_t *match_spec);
 
 /* ingStpCheck: table 0x0100000b, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_ingStpCheck_get_entry(pd_sess_hdl sess_hdl,
@@ -2330,6 +2429,9 @@ const char *p4_pd_orbisk_switch_vlanProperties_match_spec_schema(void);
 int p4_pd_orbisk_switch_vlanProperties_schema(char *out);
 int p4_pd_orbisk_switch_vlanProperties_ingMd_ingL2Domain_width(void);
 int p4_pd_orbisk_switch_vlanProperties_supports_entry_priority(void);
+void p4_pd_orbisk_switch_vlanProperties_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_vlanProperties_match_spec_t *match_spec);
 
 /* ingressPortDropCheck: table 0x01000010, pipeline A, ternary match, 7 key bytes (17 bits), entries carry ingressPortDropCount */
 typedef struct p4_pd_orbisk_switch_ingressPortDropCheck_match_spec {
@@ -2442,6 +2544,15 @@ int p4_pd_orbisk_switch_ingressPortDropCheck_ingMd_illegalDmac_width(void);
 int p4_pd_orbisk_switch_ingressPortDropCheck_parserMd_outerHdrFlags_width(void);
 int p4_pd_orbisk_switch_ingressPortDropCheck_parserMd_checksumErr_width(void);
 int p4_pd_orbisk_switch_ingressPortDropCheck_supports_entry_priority(void);
+void p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_t *match_spec,
+    char *out);
+int p4_pd_orbisk_switch_ingressPortDropCheck_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* ingL2DomainCount: table 0x01000062, pipeline A, exact match, 3 key bytes (15 bits), entries carry ingL2DomainCounters */
 typedef struct p4_pd_orbisk_switch_ingL2DomainCount_match_spec {
@@ -2522,6 +2633,15 @@ int p4_pd_orbisk_switch_ingL2DomainCount_schema(char *out);
 int p4_pd_orbisk_switch_ingL2DomainCount_egrMd_decapType_width(void);
 int p4_pd_orbisk_switch_ingL2DomainCount_ingMd_ingL3Aintf_width(void);
 int p4_pd_orbisk_switch_ingL2DomainCount_supports_entry_priority(void);
+void p4_pd_orbisk_switch_ingL2DomainCount_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ingL2DomainCount_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_ingL2DomainCount_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_ingL2DomainCount_match_spec_t *match_spec,
+    char *out);
+int p4_pd_orbisk_switch_ingL2DomainCount_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* egrL2DomainCount: table 0x01000065, pipeline A, exact match, 3 key bytes (15 bits), entries carry egrL2DomainCounters */
 typedef struct p4_pd_orbisk_switch_egrL2DomainCount_match_spec {
@@ -2602,6 +2722,15 @@ int p4_pd_orbisk_switch_egrL2DomainCount_schema(char *out);
 int p4_pd_orbisk_switch_egrL2DomainCount_egrMd_decapType_width(void);
 int p4_pd_orbisk_switch_egrL2DomainCount_egrMd_egrL2Domain_width(void);
 int p4_pd_orbisk_switch_egrL2DomainCount_supports_entry_priority(void);
+void p4_pd_orbisk_switch_egrL2DomainCount_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_egrL2DomainCount_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_egrL2DomainCount_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_egrL2DomainCount_match_spec_t *match_spec,
+    char *out);
+int p4_pd_orbisk_switch_egrL2DomainCount_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* egressVlanXlate: table 0x0100006c, pipeline A, exact match, 4 key bytes (21 bits) */
 typedef struct p4_pd_orbisk_switch_egressVlanXlate_match_spec {
@@ -2708,6 +2837,9 @@ int p4_pd_orbisk_switch_egressVlanXlate_schema(char *out);
 int p4_pd_orbisk_switch_egressVlanXlate_eg_intr_md_egress_port_width(void);
 int p4_pd_orbisk_switch_egressVlanXlate_egrMd_egrL2Domain_width(void);
 int p4_pd_orbisk_switch_egressVlanXlate_supports_entry_priority(void);
+void p4_pd_orbisk_switch_egressVlanXlate_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_egressVlanXlate_match_spec_t *match_spec);
 
 /* egrStpCheck: table 0x01000071, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_egrStpCheck_get_entry(pd_sess_hdl sess_hdl,
@@ -2898,6 +3030,9 @@ int p4_pd_orbisk_switch_vlanEncap_egrMd_vlanId_width(void);
 int p4_pd_orbisk_switch_vlanEncap_eg_intr_md_egress_port_width(void);
 int p4_pd_orbisk_switch_vlanEncap_egrMd_subIntf_width(void);
 int p4_pd_orbisk_switch_vlanEncap_supports_entry_priority(void);
+void p4_pd_orbisk_switch_vlanEncap_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_vlanEncap_match_spec_t *match_spec);
 
 /* vlanDecap: table 0x11010026, pipeline B, no key */
 pd_status p4_pd_orbisk_switch_vlanDecap_get_entry(pd_sess_hdl sess_hdl,
@@ -3091,6 +3226,9 @@ const char *p4_pd_orbisk_switch_srcIntfToOvoIntf_match_spec_schema(void);
 int p4_pd_orbisk_switch_srcIntfToOvoIntf_schema(char *out);
 int p4_pd_orbisk_switch_srcIntfToOvoIntf_egrMd_ingressPort_width(void);
 int p4_pd_orbisk_switch_srcIntfToOvoIntf_supports_entry_priority(void);
+void p4_pd_orbisk_switch_srcIntfToOvoIntf_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_srcIntfToOvoIntf_match_spec_t *match_spec);
 
 /* egrIntfToOvoIntf: table 0x0100006f, pipeline A, exact match, 3 key bytes (20 bits) */
 typedef struct p4_pd_orbisk_switch_egrIntfToOvoIntf_match_spec {
@@ -3223,6 +3361,9 @@ int p4_pd_orbisk_switch_egrIntfToOvoIntf_schema(char *out);
 int p4_pd_orbisk_switch_egrIntfToOvoIntf_egrMd_egrAintfType_width(void);
 int p4_pd_orbisk_switch_egrIntfToOvoIntf_egrMd_egrAintfPort_width(void);
 int p4_pd_orbisk_switch_egrIntfToOvoIntf_supports_entry_priority(void);
+void p4_pd_orbisk_switch_egrIntfToOvoIntf_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_egrIntfToOvoIntf_match_spec_t *match_spec);
 
 /* ovoIntfToPhysical: table 0x0100002a, pipeline A, ternary match, 6 key bytes (29 bits) */
 typedef struct p4_pd_orbisk_switch_ovoIntfToPhysical_match_spec {
@@ -3354,6 +3495,9 @@ int p4_pd_orbisk_switch_ovoIntfToPhysical_orbiskCpuHdr_lane_width(void);
 int p4_pd_orbisk_switch_ovoIntfToPhysical_orbiskCpuHdr_portChannel_width(void);
 int p4_pd_orbisk_switch_ovoIntfToPhysical_egrMd_decapType_width(void);
 int p4_pd_orbisk_switch_ovoIntfToPhysical_supports_entry_priority(void);
+void p4_pd_orbisk_switch_ovoIntfToPhysical_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ovoIntfToPhysical_match_spec_t *match_spec);
 
 /* egressPortDropCheck: table 0x01000074, pipeline A, ternary match, 9 key bytes (23 bits), entries carry egressPortDropCount */
 typedef struct p4_pd_orbisk_switch_egressPortDropCheck_match_spec {
@@ -3475,6 +3619,15 @@ int p4_pd_orbisk_switch_egressPortDropCheck_outerIpv4Hdr_width(void);
 int p4_pd_orbisk_switch_egressPortDropCheck_egrMd_routed_width(void);
 int p4_pd_orbisk_switch_egressPortDropCheck_pktGen_width(void);
 int p4_pd_orbisk_switch_egressPortDropCheck_supports_entry_priority(void);
+void p4_pd_orbisk_switch_egressPortDropCheck_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_egressPortDropCheck_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_egressPortDropCheck_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_egressPortDropCheck_match_spec_t *match_spec,
+    char *out);
+int p4_pd_orbisk_switch_egressPortDropCheck_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* egressSamePortBridgingTest: table 0x0100006d, pipeline A, exact match, 3 key bytes (11 bits) */
 typedef struct p4_pd_orbisk_switch_egressSamePortBridgingTest_match_spec {
@@ -3565,6 +3718,9 @@ int p4_pd_orbisk_switch_egressSamePortBridgingTest_schema(char *out);
 int p4_pd_orbisk_switch_egressSamePortBridgingTest_egrMd_ingressPortType_width(void);
 int p4_pd_orbisk_switch_egressSamePortBridgingTest_eg_intr_md_egress_port_width(void);
 int p4_pd_orbisk_switch_egressSamePortBridgingTest_supports_entry_priority(void);
+void p4_pd_orbisk_switch_egressSamePortBridgingTest_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_egressSamePortBridgingTest_match_spec_t *match_spec);
 
 /* samePortBridgingTest: table 0x0100004f, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_samePortBridgingTest_get_entry(pd_sess_hdl sess_hdl,
@@ -3702,6 +3858,9 @@ const char *p4_pd_orbisk_switch_mlagUcastPrune_match_spec_schema(void);
 int p4_pd_orbisk_switch_mlagUcastPrune_schema(char *out);
 int p4_pd_orbisk_switch_mlagUcastPrune_egrMd_egrL2AintfUnresolved_width(void);
 int p4_pd_orbisk_switch_mlagUcastPrune_supports_entry_priority(void);
+void p4_pd_orbisk_switch_mlagUcastPrune_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_mlagUcastPrune_match_spec_t *match_spec);
 
 /* ================================================================== */
 /* L2 forwarding and learning */
@@ -3887,6 +4046,15 @@ int p4_pd_orbisk_switch_l2DmacClassify_ig_intr_md_ingress_port_width(void);
 int p4_pd_orbisk_switch_l2DmacClassify_outerEthHdr_dmacOui_width(void);
 int p4_pd_orbisk_switch_l2DmacClassify_outerEthHdr_dmacStation_width(void);
 int p4_pd_orbisk_switch_l2DmacClassify_supports_entry_priority(void);
+void p4_pd_orbisk_switch_l2DmacClassify_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l2DmacClassify_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_l2DmacClassify_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_l2DmacClassify_match_spec_t *match_spec,
+    char *out);
+int p4_pd_orbisk_switch_l2DmacClassify_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* l2SmacCheck: table 0x0100000d, pipeline A, ternary match, 6 key bytes (48 bits) */
 typedef struct p4_pd_orbisk_switch_l2SmacCheck_match_spec {
@@ -3988,6 +4156,9 @@ int p4_pd_orbisk_switch_l2SmacCheck_schema(char *out);
 int p4_pd_orbisk_switch_l2SmacCheck_outerEthHdr_smacOui_width(void);
 int p4_pd_orbisk_switch_l2SmacCheck_outerEthHdr_smacStation_width(void);
 int p4_pd_orbisk_switch_l2SmacCheck_supports_entry_priority(void);
+void p4_pd_orbisk_switch_l2SmacCheck_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l2SmacCheck_match_spec_t *match_spec);
 
 /* l2StaticMacSrcAddrDrop: table 0x01000013, pipeline A, exact match, 8 key bytes (60 bits) */
 typedef struct p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_match_spec {
@@ -4080,6 +4251,9 @@ int p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_ingMd_smacOui_width(void);
 int p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_ingMd_smacStation_width(void);
 int p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_ingMd_ingL2Domain_width(void);
 int p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_supports_entry_priority(void);
+void p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_match_spec_t *match_spec);
 
 /* l2LearningLookup: table 0x01000014, pipeline A, exact match, 11 key bytes (80 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_l2LearningLookup_match_spec {
@@ -4207,6 +4381,9 @@ int p4_pd_orbisk_switch_l2LearningLookup_ingMd_smacStation_width(void);
 int p4_pd_orbisk_switch_l2LearningLookup_ingMd_ingL2Domain_width(void);
 int p4_pd_orbisk_switch_l2LearningLookup_ingMd_ingL2Aintf_width(void);
 int p4_pd_orbisk_switch_l2LearningLookup_supports_entry_priority(void);
+void p4_pd_orbisk_switch_l2LearningLookup_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l2LearningLookup_match_spec_t *match_spec);
 
 /* l2Lookup: table 0x0100002f, pipeline A, exact match, 8 key bytes (60 bits) */
 typedef struct p4_pd_orbisk_switch_l2Lookup_match_spec {
@@ -4338,6 +4515,9 @@ int p4_pd_orbisk_switch_l2Lookup_egrMd_dmacOui_width(void);
 int p4_pd_orbisk_switch_l2Lookup_egrMd_dmacStation_width(void);
 int p4_pd_orbisk_switch_l2Lookup_egrMd_egrL2Domain_width(void);
 int p4_pd_orbisk_switch_l2Lookup_supports_entry_priority(void);
+void p4_pd_orbisk_switch_l2Lookup_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l2Lookup_match_spec_t *match_spec);
 
 /* l2LookupMiss: table 0x01000030, pipeline A, ternary match, 8 key bytes (57 bits), entries carry stormControlMeter */
 typedef struct p4_pd_orbisk_switch_l2LookupMiss_match_spec {
@@ -4479,6 +4659,9 @@ int p4_pd_orbisk_switch_l2LookupMiss_ig_intr_md_ingress_port_width(void);
 int p4_pd_orbisk_switch_l2LookupMiss_egrMd_dmacOui_width(void);
 int p4_pd_orbisk_switch_l2LookupMiss_egrMd_dmacStation_width(void);
 int p4_pd_orbisk_switch_l2LookupMiss_supports_entry_priority(void);
+void p4_pd_orbisk_switch_l2LookupMiss_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l2LookupMiss_match_spec_t *match_spec);
 
 /* l2ForwardParams: table 0x01000017, pipeline A, exact match, 1 key bytes (1 bits) */
 typedef struct p4_pd_orbisk_switch_l2ForwardParams_match_spec {
@@ -4561,6 +4744,9 @@ const char *p4_pd_orbisk_switch_l2ForwardParams_match_spec_schema(void);
 int p4_pd_orbisk_switch_l2ForwardParams_schema(char *out);
 int p4_pd_orbisk_switch_l2ForwardParams_outerEthHdr_width(void);
 int p4_pd_orbisk_switch_l2ForwardParams_supports_entry_priority(void);
+void p4_pd_orbisk_switch_l2ForwardParams_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l2ForwardParams_match_spec_t *match_spec);
 
 /* l2XRemap: table 0x11010007, pipeline B, exact match, 2 key bytes (9 bits) */
 typedef struct p4_pd_orbisk_switch_l2XRemap_match_spec {
@@ -4643,6 +4829,9 @@ const char *p4_pd_orbisk_switch_l2XRemap_match_spec_schema(void);
 int p4_pd_orbisk_switch_l2XRemap_schema(char *out);
 int p4_pd_orbisk_switch_l2XRemap_ig_intr_md_ingress_port_width(void);
 int p4_pd_orbisk_switch_l2XRemap_supports_entry_priority(void);
+void p4_pd_orbisk_switch_l2XRemap_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l2XRemap_match_spec_t *match_spec);
 
 /* learningDigestGeneration: table 0x0100003b, pipeline A, ternary match, 10 key bytes (35 bits) */
 typedef struct p4_pd_orbisk_switch_learningDigestGeneration_match_spec {
@@ -4794,6 +4983,9 @@ int p4_pd_orbisk_switch_learningDigestGeneration_ingVlanStpCheck_stpBlocked_widt
 int p4_pd_orbisk_switch_learningDigestGeneration_ingVlanStpCheck_invalidVlan_width(void);
 int p4_pd_orbisk_switch_learningDigestGeneration_ingMd_l2Control_width(void);
 int p4_pd_orbisk_switch_learningDigestGeneration_supports_entry_priority(void);
+void p4_pd_orbisk_switch_learningDigestGeneration_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_learningDigestGeneration_match_spec_t *match_spec);
 
 /* bridgeToEA: table 0x11010024, pipeline B, no key */
 pd_status p4_pd_orbisk_switch_bridgeToEA_get_entry(pd_sess_hdl sess_hdl,
@@ -4969,6 +5161,9 @@ int p4_pd_orbisk_switch_l3DmacCheck_ingMd_dmacStation_width(void);
 int p4_pd_orbisk_switch_l3DmacCheck_ingMd_v4V6Valid_width(void);
 int p4_pd_orbisk_switch_l3DmacCheck_phase0_portType_width(void);
 int p4_pd_orbisk_switch_l3DmacCheck_supports_entry_priority(void);
+void p4_pd_orbisk_switch_l3DmacCheck_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l3DmacCheck_match_spec_t *match_spec);
 
 /* vrrpMacCheck: table 0x01000012, pipeline A, exact match, 8 key bytes (60 bits) */
 typedef struct p4_pd_orbisk_switch_vrrpMacCheck_match_spec {
@@ -5061,6 +5256,9 @@ int p4_pd_orbisk_switch_vrrpMacCheck_ingMd_ingL3Aintf_width(void);
 int p4_pd_orbisk_switch_vrrpMacCheck_ingMd_dmacOui_width(void);
 int p4_pd_orbisk_switch_vrrpMacCheck_ingMd_dmacStation_width(void);
 int p4_pd_orbisk_switch_vrrpMacCheck_supports_entry_priority(void);
+void p4_pd_orbisk_switch_vrrpMacCheck_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_vrrpMacCheck_match_spec_t *match_spec);
 
 /* ipv4Host: table 0x11010008, pipeline B, exact match, 5 key bytes (40 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv4Host_match_spec {
@@ -5224,6 +5422,9 @@ int p4_pd_orbisk_switch_ipv4Host_schema(char *out);
 int p4_pd_orbisk_switch_ipv4Host_l3Info_vrfId_width(void);
 int p4_pd_orbisk_switch_ipv4Host_ingIpv4_dip_width(void);
 int p4_pd_orbisk_switch_ipv4Host_supports_entry_priority(void);
+void p4_pd_orbisk_switch_ipv4Host_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ipv4Host_match_spec_t *match_spec);
 
 /* ipv4ShortMaskLpm: table 0x1101000c, pipeline B, longest prefix match, 5 key bytes (40 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec {
@@ -5390,6 +5591,9 @@ int p4_pd_orbisk_switch_ipv4ShortMaskLpm_schema(char *out);
 int p4_pd_orbisk_switch_ipv4ShortMaskLpm_l3Info_vrfId_width(void);
 int p4_pd_orbisk_switch_ipv4ShortMaskLpm_ingIpv4_dip_width(void);
 int p4_pd_orbisk_switch_ipv4ShortMaskLpm_supports_entry_priority(void);
+void p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec_t *match_spec);
 
 /* ipv4Partition0: table 0x1101000a, pipeline B, longest prefix match, 5 key bytes (40 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv4Partition0_match_spec {
@@ -5517,6 +5721,9 @@ int p4_pd_orbisk_switch_ipv4Partition0_schema(char *out);
 int p4_pd_orbisk_switch_ipv4Partition0_l3Info_vrfId_width(void);
 int p4_pd_orbisk_switch_ipv4Partition0_ingIpv4_dipAndVrf_width(void);
 int p4_pd_orbisk_switch_ipv4Partition0_supports_entry_priority(void);
+void p4_pd_orbisk_switch_ipv4Partition0_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ipv4Partition0_match_spec_t *match_spec);
 
 /* ipv4FinalResolve0: table 0x1101000b, pipeline B, partitioned longest prefix match, 6 key bytes (48 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv4FinalResolve0_match_spec {
@@ -5683,6 +5890,9 @@ int p4_pd_orbisk_switch_ipv4FinalResolve0_schema(char *out);
 int p4_pd_orbisk_switch_ipv4FinalResolve0_fibV4ResultX_partIdx_width(void);
 int p4_pd_orbisk_switch_ipv4FinalResolve0_ingIpv4_dip_width(void);
 int p4_pd_orbisk_switch_ipv4FinalResolve0_supports_entry_priority(void);
+void p4_pd_orbisk_switch_ipv4FinalResolve0_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ipv4FinalResolve0_match_spec_t *match_spec);
 
 /* ipv6Host: table 0x01000022, pipeline A, exact match, 17 key bytes (136 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv6Host_match_spec {
@@ -5846,6 +6056,9 @@ int p4_pd_orbisk_switch_ipv6Host_schema(char *out);
 int p4_pd_orbisk_switch_ipv6Host_l3Info_vrfId_width(void);
 int p4_pd_orbisk_switch_ipv6Host_ingIpv6_dip_width(void);
 int p4_pd_orbisk_switch_ipv6Host_supports_entry_priority(void);
+void p4_pd_orbisk_switch_ipv6Host_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ipv6Host_match_spec_t *match_spec);
 
 /* ipv6ShortMaskLpm: table 0x0100002e, pipeline A, longest prefix match, 17 key bytes (136 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv6ShortMaskLpm_match_spec {
@@ -6012,6 +6225,9 @@ int p4_pd_orbisk_switch_ipv6ShortMaskLpm_schema(char *out);
 int p4_pd_orbisk_switch_ipv6ShortMaskLpm_l3Info_vrfId_width(void);
 int p4_pd_orbisk_switch_ipv6ShortMaskLpm_ingIpv6_dip_width(void);
 int p4_pd_orbisk_switch_ipv6ShortMaskLpm_supports_entry_priority(void);
+void p4_pd_orbisk_switch_ipv6ShortMaskLpm_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ipv6ShortMaskLpm_match_spec_t *match_spec);
 
 /* ipv6Partition: table 0x0100002d, pipeline A, longest prefix match, 17 key bytes (136 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv6Partition_match_spec {
@@ -6178,6 +6394,9 @@ int p4_pd_orbisk_switch_ipv6Partition_schema(char *out);
 int p4_pd_orbisk_switch_ipv6Partition_l3Info_vrfId_width(void);
 int p4_pd_orbisk_switch_ipv6Partition_ingIpv6_dip_width(void);
 int p4_pd_orbisk_switch_ipv6Partition_supports_entry_priority(void);
+void p4_pd_orbisk_switch_ipv6Partition_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ipv6Partition_match_spec_t *match_spec);
 
 /* ipv6FinalResolve: table 0x01000031, pipeline A, partitioned longest prefix match, 18 key bytes (144 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv6FinalResolve_match_spec {
@@ -6344,6 +6563,9 @@ int p4_pd_orbisk_switch_ipv6FinalResolve_schema(char *out);
 int p4_pd_orbisk_switch_ipv6FinalResolve_ingIpv6_fibPartitionIndex_width(void);
 int p4_pd_orbisk_switch_ipv6FinalResolve_ingIpv6_dip_width(void);
 int p4_pd_orbisk_switch_ipv6FinalResolve_supports_entry_priority(void);
+void p4_pd_orbisk_switch_ipv6FinalResolve_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ipv6FinalResolve_match_spec_t *match_spec);
 
 /* ipv6LgMaskPartition0: table 0x01000023, pipeline A, longest prefix match, 17 key bytes (136 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv6LgMaskPartition0_match_spec {
@@ -6471,6 +6693,9 @@ int p4_pd_orbisk_switch_ipv6LgMaskPartition0_schema(char *out);
 int p4_pd_orbisk_switch_ipv6LgMaskPartition0_l3Info_vrfId_width(void);
 int p4_pd_orbisk_switch_ipv6LgMaskPartition0_ingIpv6_dip_width(void);
 int p4_pd_orbisk_switch_ipv6LgMaskPartition0_supports_entry_priority(void);
+void p4_pd_orbisk_switch_ipv6LgMaskPartition0_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ipv6LgMaskPartition0_match_spec_t *match_spec);
 
 /* ipv6LgMaskFinalResolve0: table 0x0100002c, pipeline A, partitioned longest prefix match, 18 key bytes (144 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_match_spec {
@@ -6637,6 +6862,9 @@ int p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_schema(char *out);
 int p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_fibV6ResultX_partIdx_width(void);
 int p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_ingIpv6_dip_width(void);
 int p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_supports_entry_priority(void);
+void p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_match_spec_t *match_spec);
 
 /* ================================================================== */
 /* Next hops and load balancing */
@@ -6741,6 +6969,9 @@ const char *p4_pd_orbisk_switch_ecmpGroup_match_spec_schema(void);
 int p4_pd_orbisk_switch_ecmpGroup_schema(char *out);
 int p4_pd_orbisk_switch_ecmpGroup_l3_nextHop_width(void);
 int p4_pd_orbisk_switch_ecmpGroup_supports_entry_priority(void);
+void p4_pd_orbisk_switch_ecmpGroup_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ecmpGroup_match_spec_t *match_spec);
 
 /* reservedNextHop: table 0x1101000e, pipeline B, exact match, 2 key bytes (15 bits) */
 typedef struct p4_pd_orbisk_switch_reservedNextHop_match_spec {
@@ -6832,6 +7063,9 @@ const char *p4_pd_orbisk_switch_reservedNextHop_match_spec_schema(void);
 int p4_pd_orbisk_switch_reservedNextHop_schema(char *out);
 int p4_pd_orbisk_switch_reservedNextHop_l3_nextHop_width(void);
 int p4_pd_orbisk_switch_reservedNextHop_supports_entry_priority(void);
+void p4_pd_orbisk_switch_reservedNextHop_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_reservedNextHop_match_spec_t *match_spec);
 
 /* nextHop0: table 0x1101000f, pipeline B, exact match, 2 key bytes (15 bits) */
 typedef struct p4_pd_orbisk_switch_nextHop0_match_spec {
@@ -6914,6 +7148,9 @@ const char *p4_pd_orbisk_switch_nextHop0_match_spec_schema(void);
 int p4_pd_orbisk_switch_nextHop0_schema(char *out);
 int p4_pd_orbisk_switch_nextHop0_l3_nextHop_width(void);
 int p4_pd_orbisk_switch_nextHop0_supports_entry_priority(void);
+void p4_pd_orbisk_switch_nextHop0_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_nextHop0_match_spec_t *match_spec);
 
 /* routerNextHop0: table 0x11010010, pipeline B, exact match, 2 key bytes (15 bits) */
 typedef struct p4_pd_orbisk_switch_routerNextHop0_match_spec {
@@ -6996,6 +7233,9 @@ const char *p4_pd_orbisk_switch_routerNextHop0_match_spec_schema(void);
 int p4_pd_orbisk_switch_routerNextHop0_schema(char *out);
 int p4_pd_orbisk_switch_routerNextHop0_l3_nextHop_width(void);
 int p4_pd_orbisk_switch_routerNextHop0_supports_entry_priority(void);
+void p4_pd_orbisk_switch_routerNextHop0_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_routerNextHop0_match_spec_t *match_spec);
 
 /* lagGroup: table 0x11010023, pipeline B, ternary match, 3 key bytes (20 bits), entries name a member or group of lagPortActionProfile */
 typedef struct p4_pd_orbisk_switch_lagGroup_match_spec {
@@ -7106,6 +7346,9 @@ const char *p4_pd_orbisk_switch_lagGroup_match_spec_schema(void);
 int p4_pd_orbisk_switch_lagGroup_schema(char *out);
 int p4_pd_orbisk_switch_lagGroup_egrMd_egrL2AintfUnresolved_width(void);
 int p4_pd_orbisk_switch_lagGroup_supports_entry_priority(void);
+void p4_pd_orbisk_switch_lagGroup_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_lagGroup_match_spec_t *match_spec);
 
 /* ecmpHashSelection: table 0x01000043, pipeline A, ternary match, 9 key bytes (9 bits) */
 typedef struct p4_pd_orbisk_switch_ecmpHashSelection_match_spec {
@@ -7276,6 +7519,9 @@ int p4_pd_orbisk_switch_ecmpHashSelection_outerIpv6Hdr_width(void);
 int p4_pd_orbisk_switch_ecmpHashSelection_outerIpv4Hdr_width(void);
 int p4_pd_orbisk_switch_ecmpHashSelection_outerIpv4Hdr_flagsMf_width(void);
 int p4_pd_orbisk_switch_ecmpHashSelection_supports_entry_priority(void);
+void p4_pd_orbisk_switch_ecmpHashSelection_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ecmpHashSelection_match_spec_t *match_spec);
 
 /* lagHashSelection: table 0x01000042, pipeline A, ternary match, 10 key bytes (10 bits) */
 typedef struct p4_pd_orbisk_switch_lagHashSelection_match_spec {
@@ -7461,6 +7707,9 @@ int p4_pd_orbisk_switch_lagHashSelection_outerIpv4Hdr_width(void);
 int p4_pd_orbisk_switch_lagHashSelection_outerIpv4Hdr_flagsMf_width(void);
 int p4_pd_orbisk_switch_lagHashSelection_outerEthHdr_width(void);
 int p4_pd_orbisk_switch_lagHashSelection_supports_entry_priority(void);
+void p4_pd_orbisk_switch_lagHashSelection_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_lagHashSelection_match_spec_t *match_spec);
 
 /* hashComputeInnerIpHdr: table 0x01000002, pipeline A, exact match, 2 key bytes (2 bits) */
 typedef struct p4_pd_orbisk_switch_hashComputeInnerIpHdr_match_spec {
@@ -7561,6 +7810,9 @@ int p4_pd_orbisk_switch_hashComputeInnerIpHdr_schema(char *out);
 int p4_pd_orbisk_switch_hashComputeInnerIpHdr_innerIpv4Hdr_width(void);
 int p4_pd_orbisk_switch_hashComputeInnerIpHdr_innerIpv6Hdr_width(void);
 int p4_pd_orbisk_switch_hashComputeInnerIpHdr_supports_entry_priority(void);
+void p4_pd_orbisk_switch_hashComputeInnerIpHdr_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_hashComputeInnerIpHdr_match_spec_t *match_spec);
 
 /* hashComputeOuterIpv4Hdr: table 0x01000037, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_get_entry(pd_sess_hdl sess_hdl,
@@ -7934,6 +8186,9 @@ int p4_pd_orbisk_switch_ipv4McGroupVlan_schema(char *out);
 int p4_pd_orbisk_switch_ipv4McGroupVlan_ingIpv4_dip_width(void);
 int p4_pd_orbisk_switch_ipv4McGroupVlan_ingMd_ingL3Aintf_width(void);
 int p4_pd_orbisk_switch_ipv4McGroupVlan_supports_entry_priority(void);
+void p4_pd_orbisk_switch_ipv4McGroupVlan_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ipv4McGroupVlan_match_spec_t *match_spec);
 
 /* ipv4McSourceGroupVlan: table 0x0100004e, pipeline A, exact match, 6 key bytes (48 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv4McSourceGroupVlan_match_spec {
@@ -8058,6 +8313,9 @@ int p4_pd_orbisk_switch_ipv4McSourceGroupVlan_schema(char *out);
 int p4_pd_orbisk_switch_ipv4McSourceGroupVlan_ingIpv4_sip_width(void);
 int p4_pd_orbisk_switch_ipv4McSourceGroupVlan_ingIpmcSGVLookup_index_width(void);
 int p4_pd_orbisk_switch_ipv4McSourceGroupVlan_supports_entry_priority(void);
+void p4_pd_orbisk_switch_ipv4McSourceGroupVlan_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ipv4McSourceGroupVlan_match_spec_t *match_spec);
 
 /* l2Multicast: table 0x01000040, pipeline A, exact match, 8 key bytes (60 bits) */
 typedef struct p4_pd_orbisk_switch_l2Multicast_match_spec {
@@ -8153,6 +8411,9 @@ int p4_pd_orbisk_switch_l2Multicast_egrMd_dmacOui_width(void);
 int p4_pd_orbisk_switch_l2Multicast_egrMd_dmacStation_width(void);
 int p4_pd_orbisk_switch_l2Multicast_egrMd_egrL2Domain_width(void);
 int p4_pd_orbisk_switch_l2Multicast_supports_entry_priority(void);
+void p4_pd_orbisk_switch_l2Multicast_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l2Multicast_match_spec_t *match_spec);
 
 /* finalizeMcResult: table 0x01000053, pipeline A, ternary match, 9 key bytes (26 bits) */
 typedef struct p4_pd_orbisk_switch_finalizeMcResult_match_spec {
@@ -8350,6 +8611,9 @@ int p4_pd_orbisk_switch_finalizeMcResult_egrMd_trapToCpu_width(void);
 int p4_pd_orbisk_switch_finalizeMcResult_ingMd_ttl_width(void);
 int p4_pd_orbisk_switch_finalizeMcResult_l3Info_ipRouting_width(void);
 int p4_pd_orbisk_switch_finalizeMcResult_supports_entry_priority(void);
+void p4_pd_orbisk_switch_finalizeMcResult_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_finalizeMcResult_match_spec_t *match_spec);
 
 /* egressMcRemap: table 0x01000060, pipeline A, exact match, 2 key bytes (16 bits) */
 typedef struct p4_pd_orbisk_switch_egressMcRemap_match_spec {
@@ -8441,6 +8705,9 @@ const char *p4_pd_orbisk_switch_egressMcRemap_match_spec_schema(void);
 int p4_pd_orbisk_switch_egressMcRemap_schema(char *out);
 int p4_pd_orbisk_switch_egressMcRemap_eg_intr_md_egress_rid_width(void);
 int p4_pd_orbisk_switch_egressMcRemap_supports_entry_priority(void);
+void p4_pd_orbisk_switch_egressMcRemap_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_egressMcRemap_match_spec_t *match_spec);
 
 /* mcastPrune: table 0x11010028, pipeline B, ternary match, 8 key bytes (42 bits) */
 typedef struct p4_pd_orbisk_switch_mcastPrune_match_spec {
@@ -8597,6 +8864,9 @@ int p4_pd_orbisk_switch_mcastPrune_phase0_portType_width(void);
 int p4_pd_orbisk_switch_mcastPrune_egrMd_egrL2AintfUnresolved_width(void);
 int p4_pd_orbisk_switch_mcastPrune_ig_intr_md_for_tm_mcast_grp_a_width(void);
 int p4_pd_orbisk_switch_mcastPrune_supports_entry_priority(void);
+void p4_pd_orbisk_switch_mcastPrune_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_mcastPrune_match_spec_t *match_spec);
 
 /* ================================================================== */
 /* VXLAN and tunnels */
@@ -8725,6 +8995,9 @@ int p4_pd_orbisk_switch_tunnelTermination_outerIpv4Hdr_dip_width(void);
 int p4_pd_orbisk_switch_tunnelTermination_ingMd_tunnelType_width(void);
 int p4_pd_orbisk_switch_tunnelTermination_outerIpv6Hdr_width(void);
 int p4_pd_orbisk_switch_tunnelTermination_supports_entry_priority(void);
+void p4_pd_orbisk_switch_tunnelTermination_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_tunnelTermination_match_spec_t *match_spec);
 
 /* vxlanL2AintfLookup: table 0x01000008, pipeline A, exact match, 4 key bytes (32 bits) */
 typedef struct p4_pd_orbisk_switch_vxlanL2AintfLookup_match_spec {
@@ -8846,6 +9119,9 @@ const char *p4_pd_orbisk_switch_vxlanL2AintfLookup_match_spec_schema(void);
 int p4_pd_orbisk_switch_vxlanL2AintfLookup_schema(char *out);
 int p4_pd_orbisk_switch_vxlanL2AintfLookup_outerIpv4Hdr_sip_width(void);
 int p4_pd_orbisk_switch_vxlanL2AintfLookup_supports_entry_priority(void);
+void p4_pd_orbisk_switch_vxlanL2AintfLookup_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_vxlanL2AintfLookup_match_spec_t *match_spec);
 
 /* vxlanVniResolution: table 0x01000009, pipeline A, exact match, 4 key bytes (27 bits) */
 typedef struct p4_pd_orbisk_switch_vxlanVniResolution_match_spec {
@@ -8958,6 +9234,9 @@ int p4_pd_orbisk_switch_vxlanVniResolution_ingMd_ingressVniLow_width(void);
 int p4_pd_orbisk_switch_vxlanVniResolution_ingMd_ingressVniHigh_width(void);
 int p4_pd_orbisk_switch_vxlanVniResolution_ingMd_tunnelType_width(void);
 int p4_pd_orbisk_switch_vxlanVniResolution_supports_entry_priority(void);
+void p4_pd_orbisk_switch_vxlanVniResolution_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_vxlanVniResolution_match_spec_t *match_spec);
 
 /* vxlanVarp: table 0x01000034, pipeline A, ternary match, 8 key bytes (50 bits) */
 typedef struct p4_pd_orbisk_switch_vxlanVarp_match_spec {
@@ -9063,6 +9342,9 @@ int p4_pd_orbisk_switch_vxlanVarp_innerEthHdr_dmacStation_width(void);
 int p4_pd_orbisk_switch_vxlanVarp_outerIpv4Hdr_width(void);
 int p4_pd_orbisk_switch_vxlanVarp_ingMd_vxlanVarpIp_width(void);
 int p4_pd_orbisk_switch_vxlanVarp_supports_entry_priority(void);
+void p4_pd_orbisk_switch_vxlanVarp_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_vxlanVarp_match_spec_t *match_spec);
 
 /* vxlanArp: table 0x01000035, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_vxlanArp_get_entry(pd_sess_hdl sess_hdl,
@@ -9194,6 +9476,9 @@ const char *p4_pd_orbisk_switch_tunnelDip0_match_spec_schema(void);
 int p4_pd_orbisk_switch_tunnelDip0_schema(char *out);
 int p4_pd_orbisk_switch_tunnelDip0_egrMd_tunnelInfo_width(void);
 int p4_pd_orbisk_switch_tunnelDip0_supports_entry_priority(void);
+void p4_pd_orbisk_switch_tunnelDip0_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_tunnelDip0_match_spec_t *match_spec);
 
 /* tunnelVniAndVti: table 0x0100005f, pipeline A, exact match, 2 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_tunnelVniAndVti_match_spec {
@@ -9285,6 +9570,9 @@ const char *p4_pd_orbisk_switch_tunnelVniAndVti_match_spec_schema(void);
 int p4_pd_orbisk_switch_tunnelVniAndVti_schema(char *out);
 int p4_pd_orbisk_switch_tunnelVniAndVti_egrMd_egrL2Domain_width(void);
 int p4_pd_orbisk_switch_tunnelVniAndVti_supports_entry_priority(void);
+void p4_pd_orbisk_switch_tunnelVniAndVti_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_tunnelVniAndVti_match_spec_t *match_spec);
 
 /* tunnelL2Info: table 0x01000066, pipeline A, exact match, 4 key bytes (32 bits) */
 typedef struct p4_pd_orbisk_switch_tunnelL2Info_match_spec {
@@ -9376,6 +9664,9 @@ const char *p4_pd_orbisk_switch_tunnelL2Info_match_spec_schema(void);
 int p4_pd_orbisk_switch_tunnelL2Info_schema(char *out);
 int p4_pd_orbisk_switch_tunnelL2Info_egrMd_tunnelInfo_width(void);
 int p4_pd_orbisk_switch_tunnelL2Info_supports_entry_priority(void);
+void p4_pd_orbisk_switch_tunnelL2Info_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_tunnelL2Info_match_spec_t *match_spec);
 
 /* tunnelResolve: table 0x1101001f, pipeline B, exact match, 2 key bytes (10 bits), entries name a member or group of tunnelMemberActionProfile */
 typedef struct p4_pd_orbisk_switch_tunnelResolve_match_spec {
@@ -9476,6 +9767,9 @@ const char *p4_pd_orbisk_switch_tunnelResolve_match_spec_schema(void);
 int p4_pd_orbisk_switch_tunnelResolve_schema(char *out);
 int p4_pd_orbisk_switch_tunnelResolve_egrMd_tunnelNextHop_width(void);
 int p4_pd_orbisk_switch_tunnelResolve_supports_entry_priority(void);
+void p4_pd_orbisk_switch_tunnelResolve_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_tunnelResolve_match_spec_t *match_spec);
 
 /* encapDecap: table 0x01000067, pipeline A, ternary match, 9 key bytes (41 bits) */
 typedef struct p4_pd_orbisk_switch_encapDecap_match_spec {
@@ -9674,6 +9968,9 @@ int p4_pd_orbisk_switch_encapDecap_outerIpv4Hdr_width(void);
 int p4_pd_orbisk_switch_encapDecap_outerIpv6Hdr_width(void);
 int p4_pd_orbisk_switch_encapDecap_egrMd_tunnelInfo_width(void);
 int p4_pd_orbisk_switch_encapDecap_supports_entry_priority(void);
+void p4_pd_orbisk_switch_encapDecap_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_encapDecap_match_spec_t *match_spec);
 
 /* decapIngress: table 0x01000049, pipeline A, exact match, 3 key bytes (5 bits) */
 typedef struct p4_pd_orbisk_switch_decapIngress_match_spec {
@@ -9806,6 +10103,9 @@ int p4_pd_orbisk_switch_decapIngress_egrMd_decapType_width(void);
 int p4_pd_orbisk_switch_decapIngress_outerIpv4Hdr_width(void);
 int p4_pd_orbisk_switch_decapIngress_outerIpv6Hdr_width(void);
 int p4_pd_orbisk_switch_decapIngress_supports_entry_priority(void);
+void p4_pd_orbisk_switch_decapIngress_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_decapIngress_match_spec_t *match_spec);
 
 /* globalFields: table 0x01000064, pipeline A, ternary match, 8 key bytes (40 bits) */
 typedef struct p4_pd_orbisk_switch_globalFields_match_spec {
@@ -9948,6 +10248,9 @@ int p4_pd_orbisk_switch_globalFields_egrMd_encapType_width(void);
 int p4_pd_orbisk_switch_globalFields_egrMd_ingressTagged_width(void);
 int p4_pd_orbisk_switch_globalFields_egrMd_tunnelInfo_width(void);
 int p4_pd_orbisk_switch_globalFields_supports_entry_priority(void);
+void p4_pd_orbisk_switch_globalFields_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_globalFields_match_spec_t *match_spec);
 
 /* ================================================================== */
 /* NAT */
@@ -10034,6 +10337,9 @@ const char *p4_pd_orbisk_switch_ingressNatProfile_match_spec_schema(void);
 int p4_pd_orbisk_switch_ingressNatProfile_schema(char *out);
 int p4_pd_orbisk_switch_ingressNatProfile_ingMd_ingL3Aintf_width(void);
 int p4_pd_orbisk_switch_ingressNatProfile_supports_entry_priority(void);
+void p4_pd_orbisk_switch_ingressNatProfile_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ingressNatProfile_match_spec_t *match_spec);
 
 /* staticDnatAcl: table 0x01000025, pipeline A, ternary match, 6 key bytes (41 bits) */
 typedef struct p4_pd_orbisk_switch_staticDnatAcl_match_spec {
@@ -10141,6 +10447,9 @@ int p4_pd_orbisk_switch_staticDnatAcl_ingIpv4_sip_width(void);
 int p4_pd_orbisk_switch_staticDnatAcl_ingMd_protocol_width(void);
 int p4_pd_orbisk_switch_staticDnatAcl_haloKeyOrig_isFrag_width(void);
 int p4_pd_orbisk_switch_staticDnatAcl_supports_entry_priority(void);
+void p4_pd_orbisk_switch_staticDnatAcl_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_staticDnatAcl_match_spec_t *match_spec);
 
 /* addrPortDnat: table 0x01000026, pipeline A, exact match, 9 key bytes (68 bits), entries carry staticDnatCounters */
 typedef struct p4_pd_orbisk_switch_addrPortDnat_match_spec {
@@ -10277,6 +10586,15 @@ int p4_pd_orbisk_switch_addrPortDnat_ingIpv4_dip_width(void);
 int p4_pd_orbisk_switch_addrPortDnat_ingMd_dstPort_width(void);
 int p4_pd_orbisk_switch_addrPortDnat_ingMd_ingNatProfile_width(void);
 int p4_pd_orbisk_switch_addrPortDnat_supports_entry_priority(void);
+void p4_pd_orbisk_switch_addrPortDnat_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_addrPortDnat_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_addrPortDnat_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_addrPortDnat_match_spec_t *match_spec,
+    char *out);
+int p4_pd_orbisk_switch_addrPortDnat_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* addrOnlyDnat: table 0x01000027, pipeline A, exact match, 7 key bytes (52 bits) */
 typedef struct p4_pd_orbisk_switch_addrOnlyDnat_match_spec {
@@ -10385,6 +10703,9 @@ int p4_pd_orbisk_switch_addrOnlyDnat_ingMd_dnatAclId_width(void);
 int p4_pd_orbisk_switch_addrOnlyDnat_ingIpv4_dip_width(void);
 int p4_pd_orbisk_switch_addrOnlyDnat_ingMd_ingNatProfile_width(void);
 int p4_pd_orbisk_switch_addrOnlyDnat_supports_entry_priority(void);
+void p4_pd_orbisk_switch_addrOnlyDnat_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_addrOnlyDnat_match_spec_t *match_spec);
 
 /* dynamicDnat1: table 0x01000021, pipeline A, exact match, 14 key bytes (112 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_dynamicDnat1_match_spec {
@@ -10530,6 +10851,9 @@ int p4_pd_orbisk_switch_dynamicDnat1_ingIpv4_dip_width(void);
 int p4_pd_orbisk_switch_dynamicDnat1_ingMd_dstPort_width(void);
 int p4_pd_orbisk_switch_dynamicDnat1_l3Info_vrfId_width(void);
 int p4_pd_orbisk_switch_dynamicDnat1_supports_entry_priority(void);
+void p4_pd_orbisk_switch_dynamicDnat1_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_dynamicDnat1_match_spec_t *match_spec);
 
 /* dynamicFullConeCompressDip: table 0x0100001f, pipeline A, exact match, 4 key bytes (32 bits) */
 typedef struct p4_pd_orbisk_switch_dynamicFullConeCompressDip_match_spec {
@@ -10612,6 +10936,9 @@ const char *p4_pd_orbisk_switch_dynamicFullConeCompressDip_match_spec_schema(voi
 int p4_pd_orbisk_switch_dynamicFullConeCompressDip_schema(char *out);
 int p4_pd_orbisk_switch_dynamicFullConeCompressDip_ingIpv4_dip_width(void);
 int p4_pd_orbisk_switch_dynamicFullConeCompressDip_supports_entry_priority(void);
+void p4_pd_orbisk_switch_dynamicFullConeCompressDip_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_dynamicFullConeCompressDip_match_spec_t *match_spec);
 
 /* dynamicFullConeDnat: table 0x01000024, pipeline A, exact match, 6 key bytes (41 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_dynamicFullConeDnat_match_spec {
@@ -10740,6 +11067,9 @@ int p4_pd_orbisk_switch_dynamicFullConeDnat_ingMd_fullConeDipRangeId_width(void)
 int p4_pd_orbisk_switch_dynamicFullConeDnat_ingMd_protocol_width(void);
 int p4_pd_orbisk_switch_dynamicFullConeDnat_ingMd_dstPort_width(void);
 int p4_pd_orbisk_switch_dynamicFullConeDnat_supports_entry_priority(void);
+void p4_pd_orbisk_switch_dynamicFullConeDnat_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_dynamicFullConeDnat_match_spec_t *match_spec);
 
 /* egressNatProfile: table 0x11010012, pipeline B, exact match, 2 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_egressNatProfile_match_spec {
@@ -10822,6 +11152,9 @@ const char *p4_pd_orbisk_switch_egressNatProfile_match_spec_schema(void);
 int p4_pd_orbisk_switch_egressNatProfile_schema(char *out);
 int p4_pd_orbisk_switch_egressNatProfile_egrMd_egrL2Domain_width(void);
 int p4_pd_orbisk_switch_egressNatProfile_supports_entry_priority(void);
+void p4_pd_orbisk_switch_egressNatProfile_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_egressNatProfile_match_spec_t *match_spec);
 
 /* staticSnatAcl: table 0x11010004, pipeline B, ternary match, 6 key bytes (41 bits) */
 typedef struct p4_pd_orbisk_switch_staticSnatAcl_match_spec {
@@ -10929,6 +11262,9 @@ int p4_pd_orbisk_switch_staticSnatAcl_outerIpv4Hdr_dip_width(void);
 int p4_pd_orbisk_switch_staticSnatAcl_ingMd_protocol_width(void);
 int p4_pd_orbisk_switch_staticSnatAcl_haloKeyOrig_isFrag_width(void);
 int p4_pd_orbisk_switch_staticSnatAcl_supports_entry_priority(void);
+void p4_pd_orbisk_switch_staticSnatAcl_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_staticSnatAcl_match_spec_t *match_spec);
 
 /* addrPortSnat: table 0x11010016, pipeline B, exact match, 9 key bytes (68 bits), entries carry staticSnatCounters */
 typedef struct p4_pd_orbisk_switch_addrPortSnat_match_spec {
@@ -11039,6 +11375,15 @@ int p4_pd_orbisk_switch_addrPortSnat_outerIpv4Hdr_sip_width(void);
 int p4_pd_orbisk_switch_addrPortSnat_l4PortHdr_srcPort_width(void);
 int p4_pd_orbisk_switch_addrPortSnat_ingMd_egrNatProfile_width(void);
 int p4_pd_orbisk_switch_addrPortSnat_supports_entry_priority(void);
+void p4_pd_orbisk_switch_addrPortSnat_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_addrPortSnat_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_addrPortSnat_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_addrPortSnat_match_spec_t *match_spec,
+    char *out);
+int p4_pd_orbisk_switch_addrPortSnat_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* addrOnlySnat: table 0x11010017, pipeline B, exact match, 7 key bytes (52 bits) */
 typedef struct p4_pd_orbisk_switch_addrOnlySnat_match_spec {
@@ -11134,6 +11479,9 @@ int p4_pd_orbisk_switch_addrOnlySnat_ingMd_snatAclId_width(void);
 int p4_pd_orbisk_switch_addrOnlySnat_outerIpv4Hdr_sip_width(void);
 int p4_pd_orbisk_switch_addrOnlySnat_ingMd_egrNatProfile_width(void);
 int p4_pd_orbisk_switch_addrOnlySnat_supports_entry_priority(void);
+void p4_pd_orbisk_switch_addrOnlySnat_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_addrOnlySnat_match_spec_t *match_spec);
 
 /* dynamicSnatAcl: table 0x11010013, pipeline B, ternary match, 14 key bytes (112 bits) */
 typedef struct p4_pd_orbisk_switch_dynamicSnatAcl_match_spec {
@@ -11247,6 +11595,9 @@ int p4_pd_orbisk_switch_dynamicSnatAcl_l4PortHdr_srcPort_width(void);
 int p4_pd_orbisk_switch_dynamicSnatAcl_l4PortHdr_dstPort_width(void);
 int p4_pd_orbisk_switch_dynamicSnatAcl_ingMd_protocol_width(void);
 int p4_pd_orbisk_switch_dynamicSnatAcl_supports_entry_priority(void);
+void p4_pd_orbisk_switch_dynamicSnatAcl_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_dynamicSnatAcl_match_spec_t *match_spec);
 
 /* dynamicSnat1: table 0x11010015, pipeline B, exact match, 14 key bytes (112 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_dynamicSnat1_match_spec {
@@ -11392,6 +11743,9 @@ int p4_pd_orbisk_switch_dynamicSnat1_ingMd_dynNatDip_width(void);
 int p4_pd_orbisk_switch_dynamicSnat1_ingMd_dynNatDport_width(void);
 int p4_pd_orbisk_switch_dynamicSnat1_l3Info_vrfId_width(void);
 int p4_pd_orbisk_switch_dynamicSnat1_supports_entry_priority(void);
+void p4_pd_orbisk_switch_dynamicSnat1_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_dynamicSnat1_match_spec_t *match_spec);
 
 /* dynamicNatCount: table 0x1101001e, pipeline B, ternary match, 5 key bytes (26 bits), entries carry dynNatCounters */
 typedef struct p4_pd_orbisk_switch_dynamicNatCount_match_spec {
@@ -11500,6 +11854,15 @@ int p4_pd_orbisk_switch_dynamicNatCount_ingMd_protocol_width(void);
 int p4_pd_orbisk_switch_dynamicNatCount_ingMd_ingNatProfile_width(void);
 int p4_pd_orbisk_switch_dynamicNatCount_ingMd_egrNatProfile_width(void);
 int p4_pd_orbisk_switch_dynamicNatCount_supports_entry_priority(void);
+void p4_pd_orbisk_switch_dynamicNatCount_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_dynamicNatCount_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_dynamicNatCount_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_dynamicNatCount_match_spec_t *match_spec,
+    char *out);
+int p4_pd_orbisk_switch_dynamicNatCount_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* natTcpFlags: table 0x11010006, pipeline B, exact match, 1 key bytes (8 bits) */
 typedef struct p4_pd_orbisk_switch_natTcpFlags_match_spec {
@@ -11588,6 +11951,9 @@ const char *p4_pd_orbisk_switch_natTcpFlags_match_spec_schema(void);
 int p4_pd_orbisk_switch_natTcpFlags_schema(char *out);
 int p4_pd_orbisk_switch_natTcpFlags_outerTcpHdr_flags_width(void);
 int p4_pd_orbisk_switch_natTcpFlags_supports_entry_priority(void);
+void p4_pd_orbisk_switch_natTcpFlags_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_natTcpFlags_match_spec_t *match_spec);
 
 /* natCpuTrapAcl: table 0x11010018, pipeline B, ternary match, 16 key bytes (121 bits) */
 typedef struct p4_pd_orbisk_switch_natCpuTrapAcl_match_spec {
@@ -11740,6 +12106,9 @@ int p4_pd_orbisk_switch_natCpuTrapAcl_l4PortHdr_srcPort_width(void);
 int p4_pd_orbisk_switch_natCpuTrapAcl_l4PortHdr_dstPort_width(void);
 int p4_pd_orbisk_switch_natCpuTrapAcl_outerIpv4Hdr_protocol_width(void);
 int p4_pd_orbisk_switch_natCpuTrapAcl_supports_entry_priority(void);
+void p4_pd_orbisk_switch_natCpuTrapAcl_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_natCpuTrapAcl_match_spec_t *match_spec);
 
 /* natCpuReasonCode: table 0x11010005, pipeline B, ternary match, 2 key bytes (9 bits) */
 typedef struct p4_pd_orbisk_switch_natCpuReasonCode_match_spec {
@@ -11841,6 +12210,9 @@ int p4_pd_orbisk_switch_natCpuReasonCode_schema(char *out);
 int p4_pd_orbisk_switch_natCpuReasonCode_outerTcpHdr_width(void);
 int p4_pd_orbisk_switch_natCpuReasonCode_outerTcpHdr_flags_width(void);
 int p4_pd_orbisk_switch_natCpuReasonCode_supports_entry_priority(void);
+void p4_pd_orbisk_switch_natCpuReasonCode_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_natCpuReasonCode_match_spec_t *match_spec);
 
 /* natChecksumUpdate: table 0x11010021, pipeline B, ternary match, 9 key bytes (32 bits) */
 typedef struct p4_pd_orbisk_switch_natChecksumUpdate_match_spec {
@@ -12008,6 +12380,9 @@ int p4_pd_orbisk_switch_natChecksumUpdate_outerUdpHdr_width(void);
 int p4_pd_orbisk_switch_natChecksumUpdate_outerL4Checksum_checksum_width(void);
 int p4_pd_orbisk_switch_natChecksumUpdate_egrMd_decapType_width(void);
 int p4_pd_orbisk_switch_natChecksumUpdate_supports_entry_priority(void);
+void p4_pd_orbisk_switch_natChecksumUpdate_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_natChecksumUpdate_match_spec_t *match_spec);
 
 /* egressNatCpuTrapHeader: table 0x01000070, pipeline A, exact match, 2 key bytes (2 bits) */
 typedef struct p4_pd_orbisk_switch_egressNatCpuTrapHeader_match_spec {
@@ -12118,6 +12493,9 @@ int p4_pd_orbisk_switch_egressNatCpuTrapHeader_schema(char *out);
 int p4_pd_orbisk_switch_egressNatCpuTrapHeader_egrMd_natAclIdHi_width(void);
 int p4_pd_orbisk_switch_egressNatCpuTrapHeader_egrMd_natAclIdLo_width(void);
 int p4_pd_orbisk_switch_egressNatCpuTrapHeader_supports_entry_priority(void);
+void p4_pd_orbisk_switch_egressNatCpuTrapHeader_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_egressNatCpuTrapHeader_match_spec_t *match_spec);
 
 /* ================================================================== */
 /* Halo classification */
@@ -12215,6 +12593,9 @@ int p4_pd_orbisk_switch_haloPaclCrlId_schema(char *out);
 int p4_pd_orbisk_switch_haloPaclCrlId_ingMd_v4V6Valid_width(void);
 int p4_pd_orbisk_switch_haloPaclCrlId_ig_intr_md_ingress_port_width(void);
 int p4_pd_orbisk_switch_haloPaclCrlId_supports_entry_priority(void);
+void p4_pd_orbisk_switch_haloPaclCrlId_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloPaclCrlId_match_spec_t *match_spec);
 
 /* haloRaclCrlId: table 0x01000016, pipeline A, exact match, 3 key bytes (15 bits) */
 typedef struct p4_pd_orbisk_switch_haloRaclCrlId_match_spec {
@@ -12308,6 +12689,9 @@ int p4_pd_orbisk_switch_haloRaclCrlId_schema(char *out);
 int p4_pd_orbisk_switch_haloRaclCrlId_ingMd_v4V6Valid_width(void);
 int p4_pd_orbisk_switch_haloRaclCrlId_ingMd_ingL3Aintf_width(void);
 int p4_pd_orbisk_switch_haloRaclCrlId_supports_entry_priority(void);
+void p4_pd_orbisk_switch_haloRaclCrlId_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloRaclCrlId_match_spec_t *match_spec);
 
 /* haloXformIpv4Sip: table 0x0100001c, pipeline A, ternary match, 4 key bytes (32 bits) */
 typedef struct p4_pd_orbisk_switch_haloXformIpv4Sip_match_spec {
@@ -12421,6 +12805,9 @@ const char *p4_pd_orbisk_switch_haloXformIpv4Sip_match_spec_schema(void);
 int p4_pd_orbisk_switch_haloXformIpv4Sip_schema(char *out);
 int p4_pd_orbisk_switch_haloXformIpv4Sip_ingIpv4_sip_width(void);
 int p4_pd_orbisk_switch_haloXformIpv4Sip_supports_entry_priority(void);
+void p4_pd_orbisk_switch_haloXformIpv4Sip_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloXformIpv4Sip_match_spec_t *match_spec);
 
 /* haloXformIpv4Dip: table 0x01000019, pipeline A, ternary match, 4 key bytes (32 bits) */
 typedef struct p4_pd_orbisk_switch_haloXformIpv4Dip_match_spec {
@@ -12534,6 +12921,9 @@ const char *p4_pd_orbisk_switch_haloXformIpv4Dip_match_spec_schema(void);
 int p4_pd_orbisk_switch_haloXformIpv4Dip_schema(char *out);
 int p4_pd_orbisk_switch_haloXformIpv4Dip_ingIpv4_dip_width(void);
 int p4_pd_orbisk_switch_haloXformIpv4Dip_supports_entry_priority(void);
+void p4_pd_orbisk_switch_haloXformIpv4Dip_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloXformIpv4Dip_match_spec_t *match_spec);
 
 /* haloXformIpv6Sip: table 0x0100001b, pipeline A, ternary match, 16 key bytes (128 bits) */
 typedef struct p4_pd_orbisk_switch_haloXformIpv6Sip_match_spec {
@@ -12647,6 +13037,9 @@ const char *p4_pd_orbisk_switch_haloXformIpv6Sip_match_spec_schema(void);
 int p4_pd_orbisk_switch_haloXformIpv6Sip_schema(char *out);
 int p4_pd_orbisk_switch_haloXformIpv6Sip_ingIpv6_sip_width(void);
 int p4_pd_orbisk_switch_haloXformIpv6Sip_supports_entry_priority(void);
+void p4_pd_orbisk_switch_haloXformIpv6Sip_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloXformIpv6Sip_match_spec_t *match_spec);
 
 /* haloXformIpv6Dip: table 0x0100001a, pipeline A, ternary match, 16 key bytes (128 bits) */
 typedef struct p4_pd_orbisk_switch_haloXformIpv6Dip_match_spec {
@@ -12760,6 +13153,9 @@ const char *p4_pd_orbisk_switch_haloXformIpv6Dip_match_spec_schema(void);
 int p4_pd_orbisk_switch_haloXformIpv6Dip_schema(char *out);
 int p4_pd_orbisk_switch_haloXformIpv6Dip_ingIpv6_dip_width(void);
 int p4_pd_orbisk_switch_haloXformIpv6Dip_supports_entry_priority(void);
+void p4_pd_orbisk_switch_haloXformIpv6Dip_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloXformIpv6Dip_match_spec_t *match_spec);
 
 /* haloXformSrcPort: table 0x0100001e, pipeline A, ternary match, 2 key bytes (16 bits) */
 typedef struct p4_pd_orbisk_switch_haloXformSrcPort_match_spec {
@@ -12861,6 +13257,9 @@ const char *p4_pd_orbisk_switch_haloXformSrcPort_match_spec_schema(void);
 int p4_pd_orbisk_switch_haloXformSrcPort_schema(char *out);
 int p4_pd_orbisk_switch_haloXformSrcPort_ingMd_srcPort_width(void);
 int p4_pd_orbisk_switch_haloXformSrcPort_supports_entry_priority(void);
+void p4_pd_orbisk_switch_haloXformSrcPort_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloXformSrcPort_match_spec_t *match_spec);
 
 /* haloXformDstPort: table 0x0100001d, pipeline A, ternary match, 2 key bytes (16 bits) */
 typedef struct p4_pd_orbisk_switch_haloXformDstPort_match_spec {
@@ -12962,6 +13361,9 @@ const char *p4_pd_orbisk_switch_haloXformDstPort_match_spec_schema(void);
 int p4_pd_orbisk_switch_haloXformDstPort_schema(char *out);
 int p4_pd_orbisk_switch_haloXformDstPort_ingMd_dstPort_width(void);
 int p4_pd_orbisk_switch_haloXformDstPort_supports_entry_priority(void);
+void p4_pd_orbisk_switch_haloXformDstPort_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloXformDstPort_match_spec_t *match_spec);
 
 /* haloKeyMaskForRow1Stage2: table 0x01000028, pipeline A, exact match, 1 key bytes (8 bits) */
 typedef struct p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_match_spec {
@@ -13044,6 +13446,9 @@ const char *p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_match_spec_schema(void)
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_schema(char *out);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_haloKeyOrig_crlId_width(void);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_supports_entry_priority(void);
+void p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_match_spec_t *match_spec);
 
 /* haloRow1Stage2: table 0x01000032, pipeline A, exact match, 14 key bytes (103 bits) */
 typedef struct p4_pd_orbisk_switch_haloRow1Stage2_match_spec {
@@ -13153,6 +13558,9 @@ int p4_pd_orbisk_switch_haloRow1Stage2_haloKeyMaskedRow1_ttl_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage2_haloKeyMaskedRow1_flags_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage2_haloKeyMaskedRow1_isFrag_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage2_supports_entry_priority(void);
+void p4_pd_orbisk_switch_haloRow1Stage2_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloRow1Stage2_match_spec_t *match_spec);
 
 /* haloKeyMaskForRow1Stage3: table 0x01000033, pipeline A, exact match, 1 key bytes (8 bits) */
 typedef struct p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_match_spec {
@@ -13235,6 +13643,9 @@ const char *p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_match_spec_schema(void)
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_schema(char *out);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_haloKeyOrig_crlId_width(void);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_supports_entry_priority(void);
+void p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_match_spec_t *match_spec);
 
 /* haloRow1Stage3: table 0x0100003c, pipeline A, exact match, 14 key bytes (103 bits) */
 typedef struct p4_pd_orbisk_switch_haloRow1Stage3_match_spec {
@@ -13344,6 +13755,9 @@ int p4_pd_orbisk_switch_haloRow1Stage3_haloKeyMaskedRow1_ttl_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage3_haloKeyMaskedRow1_flags_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage3_haloKeyMaskedRow1_isFrag_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage3_supports_entry_priority(void);
+void p4_pd_orbisk_switch_haloRow1Stage3_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloRow1Stage3_match_spec_t *match_spec);
 
 /* haloKeyMaskForRow1Stage4: table 0x0100003d, pipeline A, exact match, 1 key bytes (8 bits) */
 typedef struct p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_match_spec {
@@ -13426,6 +13840,9 @@ const char *p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_match_spec_schema(void)
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_schema(char *out);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_haloKeyOrig_crlId_width(void);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_supports_entry_priority(void);
+void p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_match_spec_t *match_spec);
 
 /* haloRow1Stage4: table 0x01000044, pipeline A, exact match, 14 key bytes (103 bits) */
 typedef struct p4_pd_orbisk_switch_haloRow1Stage4_match_spec {
@@ -13535,6 +13952,9 @@ int p4_pd_orbisk_switch_haloRow1Stage4_haloKeyMaskedRow1_ttl_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage4_haloKeyMaskedRow1_flags_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage4_haloKeyMaskedRow1_isFrag_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage4_supports_entry_priority(void);
+void p4_pd_orbisk_switch_haloRow1Stage4_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloRow1Stage4_match_spec_t *match_spec);
 
 /* haloKeyMaskForRow1Stage5: table 0x01000045, pipeline A, exact match, 1 key bytes (8 bits) */
 typedef struct p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_match_spec {
@@ -13617,6 +14037,9 @@ const char *p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_match_spec_schema(void)
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_schema(char *out);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_haloKeyOrig_crlId_width(void);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_supports_entry_priority(void);
+void p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_match_spec_t *match_spec);
 
 /* haloRow1Stage5: table 0x0100004c, pipeline A, exact match, 14 key bytes (103 bits) */
 typedef struct p4_pd_orbisk_switch_haloRow1Stage5_match_spec {
@@ -13726,6 +14149,9 @@ int p4_pd_orbisk_switch_haloRow1Stage5_haloKeyMaskedRow1_ttl_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage5_haloKeyMaskedRow1_flags_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage5_haloKeyMaskedRow1_isFrag_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage5_supports_entry_priority(void);
+void p4_pd_orbisk_switch_haloRow1Stage5_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloRow1Stage5_match_spec_t *match_spec);
 
 /* haloKeyMaskForRow1Stage6: table 0x0100004d, pipeline A, exact match, 1 key bytes (8 bits) */
 typedef struct p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_match_spec {
@@ -13808,6 +14234,9 @@ const char *p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_match_spec_schema(void)
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_schema(char *out);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_haloKeyOrig_crlId_width(void);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_supports_entry_priority(void);
+void p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_match_spec_t *match_spec);
 
 /* haloRow1Stage6: table 0x01000052, pipeline A, exact match, 14 key bytes (103 bits) */
 typedef struct p4_pd_orbisk_switch_haloRow1Stage6_match_spec {
@@ -13917,6 +14346,9 @@ int p4_pd_orbisk_switch_haloRow1Stage6_haloKeyMaskedRow1_ttl_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage6_haloKeyMaskedRow1_flags_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage6_haloKeyMaskedRow1_isFrag_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage6_supports_entry_priority(void);
+void p4_pd_orbisk_switch_haloRow1Stage6_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloRow1Stage6_match_spec_t *match_spec);
 
 /* haloBypass: table 0x01000051, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_haloBypass_get_entry(pd_sess_hdl sess_hdl,
@@ -14044,6 +14476,15 @@ const char *p4_pd_orbisk_switch_haloCounters_match_spec_schema(void);
 int p4_pd_orbisk_switch_haloCounters_schema(char *out);
 int p4_pd_orbisk_switch_haloCounters_haloResultRow1_bestResult_width(void);
 int p4_pd_orbisk_switch_haloCounters_supports_entry_priority(void);
+void p4_pd_orbisk_switch_haloCounters_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloCounters_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_haloCounters_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_haloCounters_match_spec_t *match_spec,
+    char *out);
+int p4_pd_orbisk_switch_haloCounters_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* ================================================================== */
 /* Mirroring */
@@ -14194,6 +14635,9 @@ int p4_pd_orbisk_switch_ingressMirrorSession_haloKeyOrig_isFrag_width(void);
 int p4_pd_orbisk_switch_ingressMirrorSession_haloKeyOrig_flags_width(void);
 int p4_pd_orbisk_switch_ingressMirrorSession_ingMd_v4V6Valid_width(void);
 int p4_pd_orbisk_switch_ingressMirrorSession_supports_entry_priority(void);
+void p4_pd_orbisk_switch_ingressMirrorSession_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ingressMirrorSession_match_spec_t *match_spec);
 
 /* ingressMirrorLagGroup: table 0x0100004b, pipeline A, exact match, 2 key bytes (10 bits), entries name a member or group of mirrorLagPortActionProfile */
 typedef struct p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec {
@@ -14294,6 +14738,9 @@ const char *p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_schema(void);
 int p4_pd_orbisk_switch_ingressMirrorLagGroup_schema(char *out);
 int p4_pd_orbisk_switch_ingressMirrorLagGroup_ingMirrorMd_mirrorSession_width(void);
 int p4_pd_orbisk_switch_ingressMirrorLagGroup_supports_entry_priority(void);
+void p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_t *match_spec);
 
 /* ingressMirrorRate: table 0x01000056, pipeline A, exact match, 2 key bytes (10 bits), entries carry ingressMirrorMeter */
 typedef struct p4_pd_orbisk_switch_ingressMirrorRate_match_spec {
@@ -14385,6 +14832,9 @@ const char *p4_pd_orbisk_switch_ingressMirrorRate_match_spec_schema(void);
 int p4_pd_orbisk_switch_ingressMirrorRate_schema(char *out);
 int p4_pd_orbisk_switch_ingressMirrorRate_ingMirrorMd_mirrorBufId_width(void);
 int p4_pd_orbisk_switch_ingressMirrorRate_supports_entry_priority(void);
+void p4_pd_orbisk_switch_ingressMirrorRate_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ingressMirrorRate_match_spec_t *match_spec);
 
 /* ingressMirrorResult: table 0x01000058, pipeline A, exact match, 3 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_ingressMirrorResult_match_spec {
@@ -14469,6 +14919,9 @@ int p4_pd_orbisk_switch_ingressMirrorResult_schema(char *out);
 int p4_pd_orbisk_switch_ingressMirrorResult_ingMirrorMd_mirrorColor_width(void);
 int p4_pd_orbisk_switch_ingressMirrorResult_ingMirrorMd_mirrorSession_width(void);
 int p4_pd_orbisk_switch_ingressMirrorResult_supports_entry_priority(void);
+void p4_pd_orbisk_switch_ingressMirrorResult_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ingressMirrorResult_match_spec_t *match_spec);
 
 /* egressMirrorSession: table 0x0100005e, pipeline A, ternary match, 51 key bytes (380 bits) */
 typedef struct p4_pd_orbisk_switch_egressMirrorSession_match_spec {
@@ -14602,6 +15055,9 @@ int p4_pd_orbisk_switch_egressMirrorSession_outerIpv4Hdr_protocol_width(void);
 int p4_pd_orbisk_switch_egressMirrorSession_outerIpv6Hdr_nextHdr_width(void);
 int p4_pd_orbisk_switch_egressMirrorSession_haloKeyOrig_isFrag_width(void);
 int p4_pd_orbisk_switch_egressMirrorSession_supports_entry_priority(void);
+void p4_pd_orbisk_switch_egressMirrorSession_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_egressMirrorSession_match_spec_t *match_spec);
 
 /* egressMirrorLagGroup: table 0x01000063, pipeline A, exact match, 2 key bytes (10 bits), entries name a member or group of egrMirrorLagPortActionProfile */
 typedef struct p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec {
@@ -14702,6 +15158,9 @@ const char *p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_schema(void);
 int p4_pd_orbisk_switch_egressMirrorLagGroup_schema(char *out);
 int p4_pd_orbisk_switch_egressMirrorLagGroup_egrMirrorMd_mirrorSession_width(void);
 int p4_pd_orbisk_switch_egressMirrorLagGroup_supports_entry_priority(void);
+void p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_t *match_spec);
 
 /* egressMirrorRate: table 0x01000068, pipeline A, exact match, 2 key bytes (10 bits), entries carry egressMirrorMeter */
 typedef struct p4_pd_orbisk_switch_egressMirrorRate_match_spec {
@@ -14793,6 +15252,9 @@ const char *p4_pd_orbisk_switch_egressMirrorRate_match_spec_schema(void);
 int p4_pd_orbisk_switch_egressMirrorRate_schema(char *out);
 int p4_pd_orbisk_switch_egressMirrorRate_egrMirrorMd_mirrorBufId_width(void);
 int p4_pd_orbisk_switch_egressMirrorRate_supports_entry_priority(void);
+void p4_pd_orbisk_switch_egressMirrorRate_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_egressMirrorRate_match_spec_t *match_spec);
 
 /* egressMirrorResult: table 0x01000075, pipeline A, exact match, 1 key bytes (1 bits) */
 typedef struct p4_pd_orbisk_switch_egressMirrorResult_match_spec {
@@ -14881,6 +15343,9 @@ const char *p4_pd_orbisk_switch_egressMirrorResult_match_spec_schema(void);
 int p4_pd_orbisk_switch_egressMirrorResult_schema(char *out);
 int p4_pd_orbisk_switch_egressMirrorResult_egrMirrorMd_mirrorColor_width(void);
 int p4_pd_orbisk_switch_egressMirrorResult_supports_entry_priority(void);
+void p4_pd_orbisk_switch_egressMirrorResult_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_egressMirrorResult_match_spec_t *match_spec);
 
 /* mirrorPacketEncap: table 0x0100005d, pipeline A, exact match, 4 key bytes (25 bits) */
 typedef struct p4_pd_orbisk_switch_mirrorPacketEncap_match_spec {
@@ -14997,6 +15462,9 @@ int p4_pd_orbisk_switch_mirrorPacketEncap_schema(char *out);
 int p4_pd_orbisk_switch_mirrorPacketEncap_eg_intr_md_egress_rid_width(void);
 int p4_pd_orbisk_switch_mirrorPacketEncap_eg_intr_md_egress_port_width(void);
 int p4_pd_orbisk_switch_mirrorPacketEncap_supports_entry_priority(void);
+void p4_pd_orbisk_switch_mirrorPacketEncap_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_mirrorPacketEncap_match_spec_t *match_spec);
 
 /* ================================================================== */
 /* QoS and policing classes */
@@ -15083,6 +15551,9 @@ const char *p4_pd_orbisk_switch_qosPortProperties_match_spec_schema(void);
 int p4_pd_orbisk_switch_qosPortProperties_schema(char *out);
 int p4_pd_orbisk_switch_qosPortProperties_ig_intr_md_ingress_port_width(void);
 int p4_pd_orbisk_switch_qosPortProperties_supports_entry_priority(void);
+void p4_pd_orbisk_switch_qosPortProperties_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_qosPortProperties_match_spec_t *match_spec);
 
 /* normalizeCos: table 0x01000036, pipeline A, exact match, 4 key bytes (8 bits) */
 typedef struct p4_pd_orbisk_switch_normalizeCos_match_spec {
@@ -15206,6 +15677,9 @@ int p4_pd_orbisk_switch_normalizeCos_qosMd_defaultCos_width(void);
 int p4_pd_orbisk_switch_normalizeCos_vlanHdr_0__priority_width(void);
 int p4_pd_orbisk_switch_normalizeCos_vlanHdr_1__width(void);
 int p4_pd_orbisk_switch_normalizeCos_supports_entry_priority(void);
+void p4_pd_orbisk_switch_normalizeCos_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_normalizeCos_match_spec_t *match_spec);
 
 /* normalizeDscp: table 0x01000029, pipeline A, exact match, 2 key bytes (6 bits) */
 typedef struct p4_pd_orbisk_switch_normalizeDscp_match_spec {
@@ -15351,6 +15825,9 @@ int p4_pd_orbisk_switch_normalizeDscp_schema(char *out);
 int p4_pd_orbisk_switch_normalizeDscp_egrMd_decapType_width(void);
 int p4_pd_orbisk_switch_normalizeDscp_ingMd_v4V6Valid_width(void);
 int p4_pd_orbisk_switch_normalizeDscp_supports_entry_priority(void);
+void p4_pd_orbisk_switch_normalizeDscp_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_normalizeDscp_match_spec_t *match_spec);
 
 /* ingressTrafficClass: table 0x0100003f, pipeline A, ternary match, 8 key bytes (23 bits) */
 typedef struct p4_pd_orbisk_switch_ingressTrafficClass_match_spec {
@@ -15462,6 +15939,9 @@ int p4_pd_orbisk_switch_ingressTrafficClass_egrMd_decapType_width(void);
 int p4_pd_orbisk_switch_ingressTrafficClass_orbiskCpuHdr_trustMode_width(void);
 int p4_pd_orbisk_switch_ingressTrafficClass_orbiskCpuHdr_tc_width(void);
 int p4_pd_orbisk_switch_ingressTrafficClass_supports_entry_priority(void);
+void p4_pd_orbisk_switch_ingressTrafficClass_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ingressTrafficClass_match_spec_t *match_spec);
 
 /* tcDscpMap: table 0x01000061, pipeline A, exact match, 1 key bytes (3 bits) */
 typedef struct p4_pd_orbisk_switch_tcDscpMap_match_spec {
@@ -15557,6 +16037,9 @@ const char *p4_pd_orbisk_switch_tcDscpMap_match_spec_schema(void);
 int p4_pd_orbisk_switch_tcDscpMap_schema(char *out);
 int p4_pd_orbisk_switch_tcDscpMap_ig_intr_md_for_tm_ingress_cos_width(void);
 int p4_pd_orbisk_switch_tcDscpMap_supports_entry_priority(void);
+void p4_pd_orbisk_switch_tcDscpMap_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_tcDscpMap_match_spec_t *match_spec);
 
 /* qosRewriteConfig: table 0x0100000f, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_qosRewriteConfig_get_entry(pd_sess_hdl sess_hdl,
@@ -15732,6 +16215,9 @@ int p4_pd_orbisk_switch_qosRewrite_qosMd_dscpRewrite_width(void);
 int p4_pd_orbisk_switch_qosRewrite_ig_intr_md_for_tm_ingress_cos_width(void);
 int p4_pd_orbisk_switch_qosRewrite_egrMd_decapType_width(void);
 int p4_pd_orbisk_switch_qosRewrite_supports_entry_priority(void);
+void p4_pd_orbisk_switch_qosRewrite_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_qosRewrite_match_spec_t *match_spec);
 
 /* packetDscpRewrite: table 0x0100006e, pipeline A, ternary match, 6 key bytes (10 bits) */
 typedef struct p4_pd_orbisk_switch_packetDscpRewrite_match_spec {
@@ -15917,6 +16403,9 @@ int p4_pd_orbisk_switch_packetDscpRewrite_outerIpv4Hdr_width(void);
 int p4_pd_orbisk_switch_packetDscpRewrite_outerIpv6Hdr_width(void);
 int p4_pd_orbisk_switch_packetDscpRewrite_encapIpv4Hdr_width(void);
 int p4_pd_orbisk_switch_packetDscpRewrite_supports_entry_priority(void);
+void p4_pd_orbisk_switch_packetDscpRewrite_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_packetDscpRewrite_match_spec_t *match_spec);
 
 /* queueCounters: table 0x0100005b, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_queueCounters_get_entry(pd_sess_hdl sess_hdl,
@@ -16092,6 +16581,9 @@ int p4_pd_orbisk_switch_pdpClassify_ingMd_protocol_width(void);
 int p4_pd_orbisk_switch_pdpClassify_ingMd_srcPort_width(void);
 int p4_pd_orbisk_switch_pdpClassify_ingMd_dstPort_width(void);
 int p4_pd_orbisk_switch_pdpClassify_supports_entry_priority(void);
+void p4_pd_orbisk_switch_pdpClassify_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_pdpClassify_match_spec_t *match_spec);
 
 /* pdpPolicy: table 0x11010025, pipeline B, exact match, 2 key bytes (6 bits), entries carry pdpClassCount */
 typedef struct p4_pd_orbisk_switch_pdpPolicy_match_spec {
@@ -16185,6 +16677,9 @@ int p4_pd_orbisk_switch_pdpPolicy_schema(char *out);
 int p4_pd_orbisk_switch_pdpPolicy_qosMd_pdpDrop_width(void);
 int p4_pd_orbisk_switch_pdpPolicy_qosMd_pdpClassId_width(void);
 int p4_pd_orbisk_switch_pdpPolicy_supports_entry_priority(void);
+void p4_pd_orbisk_switch_pdpPolicy_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_pdpPolicy_match_spec_t *match_spec);
 
 /* ================================================================== */
 /* CPU path, MTU and final drop */
@@ -16386,6 +16881,15 @@ int p4_pd_orbisk_switch_trapToCpu_ingIpv6_dip_width(void);
 int p4_pd_orbisk_switch_trapToCpu_ingMd_cpuMemberOfIngressVlan_width(void);
 int p4_pd_orbisk_switch_trapToCpu_egrMd_cpuReasonCode_width(void);
 int p4_pd_orbisk_switch_trapToCpu_supports_entry_priority(void);
+void p4_pd_orbisk_switch_trapToCpu_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_trapToCpu_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_trapToCpu_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_trapToCpu_match_spec_t *match_spec,
+    char *out);
+int p4_pd_orbisk_switch_trapToCpu_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* switchToCpu: table 0x11010009, pipeline B, exact match, 2 key bytes (7 bits) */
 typedef struct p4_pd_orbisk_switch_switchToCpu_match_spec {
@@ -16470,6 +16974,9 @@ int p4_pd_orbisk_switch_switchToCpu_schema(char *out);
 int p4_pd_orbisk_switch_switchToCpu_l3Info_ipRouting_width(void);
 int p4_pd_orbisk_switch_switchToCpu_ingMd_v4V6Valid_width(void);
 int p4_pd_orbisk_switch_switchToCpu_supports_entry_priority(void);
+void p4_pd_orbisk_switch_switchToCpu_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_switchToCpu_match_spec_t *match_spec);
 
 /* cpuEncap: table 0x11010022, pipeline B, ternary match, 7 key bytes (14 bits) */
 typedef struct p4_pd_orbisk_switch_cpuEncap_match_spec {
@@ -16671,6 +17178,9 @@ int p4_pd_orbisk_switch_cpuEncap_ingMd_subIntf_width(void);
 int p4_pd_orbisk_switch_cpuEncap_vlanHdr_0__width(void);
 int p4_pd_orbisk_switch_cpuEncap_l3RsvdQueue_width(void);
 int p4_pd_orbisk_switch_cpuEncap_supports_entry_priority(void);
+void p4_pd_orbisk_switch_cpuEncap_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_cpuEncap_match_spec_t *match_spec);
 
 /* cpuEncapFields: table 0x01000069, pipeline A, exact match, 6 key bytes (15 bits) */
 typedef struct p4_pd_orbisk_switch_cpuEncapFields_match_spec {
@@ -16800,6 +17310,9 @@ int p4_pd_orbisk_switch_cpuEncapFields_egrMd_ingressTagged_width(void);
 int p4_pd_orbisk_switch_cpuEncapFields_egrMd_decapType_width(void);
 int p4_pd_orbisk_switch_cpuEncapFields_encapEthHdr_width(void);
 int p4_pd_orbisk_switch_cpuEncapFields_supports_entry_priority(void);
+void p4_pd_orbisk_switch_cpuEncapFields_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_cpuEncapFields_match_spec_t *match_spec);
 
 /* ingMtu: table 0x11010003, pipeline B, ternary match, 6 key bytes (36 bits) */
 typedef struct p4_pd_orbisk_switch_ingMtu_match_spec {
@@ -16912,6 +17425,9 @@ int p4_pd_orbisk_switch_ingMtu_outerIpv4Hdr_width(void);
 int p4_pd_orbisk_switch_ingMtu_outerIpv4Hdr_totalLen_width(void);
 int p4_pd_orbisk_switch_ingMtu_outerIpv6Hdr_payloadLen_width(void);
 int p4_pd_orbisk_switch_ingMtu_supports_entry_priority(void);
+void p4_pd_orbisk_switch_ingMtu_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ingMtu_match_spec_t *match_spec);
 
 /* mtuCheck: table 0x1101001b, pipeline B, ternary match, 7 key bytes (26 bits) */
 typedef struct p4_pd_orbisk_switch_mtuCheck_match_spec {
@@ -17024,6 +17540,9 @@ int p4_pd_orbisk_switch_mtuCheck_ingMd_egrMtuId_width(void);
 int p4_pd_orbisk_switch_mtuCheck_egrMd_routed_width(void);
 int p4_pd_orbisk_switch_mtuCheck_egrMd_egrL2AintfUnresolved_width(void);
 int p4_pd_orbisk_switch_mtuCheck_supports_entry_priority(void);
+void p4_pd_orbisk_switch_mtuCheck_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_mtuCheck_match_spec_t *match_spec);
 
 /* finalDropControl: table 0x01000057, pipeline A, ternary match, 26 key bytes (64 bits), entries carry finalDropControlCount */
 typedef struct p4_pd_orbisk_switch_finalDropControl_match_spec {
@@ -17241,6 +17760,15 @@ int p4_pd_orbisk_switch_finalDropControl_ingMd_stormControlDrop_width(void);
 int p4_pd_orbisk_switch_finalDropControl_ingMd_bcast_width(void);
 int p4_pd_orbisk_switch_finalDropControl_ingMd_mcast_width(void);
 int p4_pd_orbisk_switch_finalDropControl_supports_entry_priority(void);
+void p4_pd_orbisk_switch_finalDropControl_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_finalDropControl_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_finalDropControl_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_finalDropControl_match_spec_t *match_spec,
+    char *out);
+int p4_pd_orbisk_switch_finalDropControl_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* finalDropControlIB: table 0x11010027, pipeline B, ternary match, 12 key bytes (50 bits), entries carry finalDropControlIBCount */
 typedef struct p4_pd_orbisk_switch_finalDropControlIB_match_spec {
@@ -17360,6 +17888,15 @@ int p4_pd_orbisk_switch_finalDropControlIB_egrMd_trapToCpu_width(void);
 int p4_pd_orbisk_switch_finalDropControlIB_egrMd_routed_width(void);
 int p4_pd_orbisk_switch_finalDropControlIB_eif_eifDrop_width(void);
 int p4_pd_orbisk_switch_finalDropControlIB_supports_entry_priority(void);
+void p4_pd_orbisk_switch_finalDropControlIB_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_finalDropControlIB_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_finalDropControlIB_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_finalDropControlIB_match_spec_t *match_spec,
+    char *out);
+int p4_pd_orbisk_switch_finalDropControlIB_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* ================================================================== */
 /* Interface policy and folded pipe */
@@ -17446,6 +17983,9 @@ const char *p4_pd_orbisk_switch_eifIngPolicy_match_spec_schema(void);
 int p4_pd_orbisk_switch_eifIngPolicy_schema(char *out);
 int p4_pd_orbisk_switch_eifIngPolicy_ingMd_ingL3Aintf_width(void);
 int p4_pd_orbisk_switch_eifIngPolicy_supports_entry_priority(void);
+void p4_pd_orbisk_switch_eifIngPolicy_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_eifIngPolicy_match_spec_t *match_spec);
 
 /* eifParamsForIngress: table 0x11010014, pipeline B, no key */
 pd_status p4_pd_orbisk_switch_eifParamsForIngress_get_entry(pd_sess_hdl sess_hdl,
@@ -17577,6 +18117,9 @@ const char *p4_pd_orbisk_switch_eifParamsForEgress_match_spec_schema(void);
 int p4_pd_orbisk_switch_eifParamsForEgress_schema(char *out);
 int p4_pd_orbisk_switch_eifParamsForEgress_egrMd_egrL2Domain_width(void);
 int p4_pd_orbisk_switch_eifParamsForEgress_supports_entry_priority(void);
+void p4_pd_orbisk_switch_eifParamsForEgress_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_eifParamsForEgress_match_spec_t *match_spec);
 
 /* eifPinHole: table 0x11010019, pipeline B, exact match, 20 key bytes (160 bits) */
 typedef struct p4_pd_orbisk_switch_eifPinHole_match_spec {
@@ -17674,6 +18217,9 @@ int p4_pd_orbisk_switch_eifPinHole_ingMd_protocol_width(void);
 int p4_pd_orbisk_switch_eifPinHole_eif_matchAddr_width(void);
 int p4_pd_orbisk_switch_eifPinHole_eif_matchL4Port_width(void);
 int p4_pd_orbisk_switch_eifPinHole_supports_entry_priority(void);
+void p4_pd_orbisk_switch_eifPinHole_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_eifPinHole_match_spec_t *match_spec);
 
 /* eifPinHoleHits: table 0x1101001c, pipeline B, exact match, 2 key bytes (15 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_eifPinHoleHits_match_spec {
@@ -17783,6 +18329,9 @@ const char *p4_pd_orbisk_switch_eifPinHoleHits_match_spec_schema(void);
 int p4_pd_orbisk_switch_eifPinHoleHits_schema(char *out);
 int p4_pd_orbisk_switch_eifPinHoleHits_eif_matchedIdx_width(void);
 int p4_pd_orbisk_switch_eifPinHoleHits_supports_entry_priority(void);
+void p4_pd_orbisk_switch_eifPinHoleHits_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_eifPinHoleHits_match_spec_t *match_spec);
 
 /* eifAcl: table 0x1101001a, pipeline B, ternary match, 39 key bytes (306 bits), entries carry eifAclCount */
 typedef struct p4_pd_orbisk_switch_eifAcl_match_spec {
@@ -17934,6 +18483,15 @@ int p4_pd_orbisk_switch_eifAcl_ingIpv6_sip_width(void);
 int p4_pd_orbisk_switch_eifAcl_ingMd_srcPort_width(void);
 int p4_pd_orbisk_switch_eifAcl_ingMd_dstPort_width(void);
 int p4_pd_orbisk_switch_eifAcl_supports_entry_priority(void);
+void p4_pd_orbisk_switch_eifAcl_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_eifAcl_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_eifAcl_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_eifAcl_match_spec_t *match_spec,
+    char *out);
+int p4_pd_orbisk_switch_eifAcl_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* eifForwardToPeerAcl: table 0x1101001d, pipeline B, ternary match, 34 key bytes (272 bits), entries carry eifForwardToPeerAclCount */
 typedef struct p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec {
@@ -18054,6 +18612,15 @@ int p4_pd_orbisk_switch_eifForwardToPeerAcl_eif_policy_width(void);
 int p4_pd_orbisk_switch_eifForwardToPeerAcl_ingIpv6_dip_width(void);
 int p4_pd_orbisk_switch_eifForwardToPeerAcl_ingIpv6_sip_width(void);
 int p4_pd_orbisk_switch_eifForwardToPeerAcl_supports_entry_priority(void);
+void p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec_t *match_spec,
+    char *out);
+int p4_pd_orbisk_switch_eifForwardToPeerAcl_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* foldedPipeDest: table 0x01000054, pipeline A, ternary match, 4 key bytes (18 bits), entries name a member or group of foldedPipeActionProfile */
 typedef struct p4_pd_orbisk_switch_foldedPipeDest_match_spec {
@@ -18170,6 +18737,9 @@ int p4_pd_orbisk_switch_foldedPipeDest_l3Info_vrfId_width(void);
 int p4_pd_orbisk_switch_foldedPipeDest_l3Info_ingL3DmacValid_width(void);
 int p4_pd_orbisk_switch_foldedPipeDest_ig_intr_md_ingress_port_width(void);
 int p4_pd_orbisk_switch_foldedPipeDest_supports_entry_priority(void);
+void p4_pd_orbisk_switch_foldedPipeDest_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_foldedPipeDest_match_spec_t *match_spec);
 
 /* foldedPipeQos: table 0x0100004a, pipeline A, ternary match, 8 key bytes (41 bits) */
 typedef struct p4_pd_orbisk_switch_foldedPipeQos_match_spec {
@@ -18289,6 +18859,9 @@ int p4_pd_orbisk_switch_foldedPipeQos_ingMd_tcpFlags_width(void);
 int p4_pd_orbisk_switch_foldedPipeQos_qosMd_dscp_width(void);
 int p4_pd_orbisk_switch_foldedPipeQos_l3Info_ingL3DmacValid_width(void);
 int p4_pd_orbisk_switch_foldedPipeQos_supports_entry_priority(void);
+void p4_pd_orbisk_switch_foldedPipeQos_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_foldedPipeQos_match_spec_t *match_spec);
 
 /* foldedPipeCounters: table 0x0100005a, pipeline A, exact match, 3 key bytes (14 bits), entries carry foldedPipeCount */
 typedef struct p4_pd_orbisk_switch_foldedPipeCounters_match_spec {
@@ -18369,6 +18942,15 @@ int p4_pd_orbisk_switch_foldedPipeCounters_schema(char *out);
 int p4_pd_orbisk_switch_foldedPipeCounters_ig_intr_md_for_tm_ucast_egress_port_width(void);
 int p4_pd_orbisk_switch_foldedPipeCounters_ingMd_foldedPipeQid_width(void);
 int p4_pd_orbisk_switch_foldedPipeCounters_supports_entry_priority(void);
+void p4_pd_orbisk_switch_foldedPipeCounters_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_foldedPipeCounters_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_foldedPipeCounters_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_foldedPipeCounters_match_spec_t *match_spec,
+    char *out);
+int p4_pd_orbisk_switch_foldedPipeCounters_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* ================================================================== */
 /* Action profiles: members, selector groups */
@@ -19689,6 +20271,9 @@ pd_status p4_pd_orbisk_switch_register_write_all_indirect(pd_sess_hdl sess_hdl,
 
 /* ------------------------------------ action data read back --- */
 
+void p4_pd_orbisk_switch_setPhase0_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setPhase0_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setPhase0_schema(void);
 void unbuild_action_spec_setPhase0(const pd_action_record *act,
     p4_pd_orbisk_switch_setPhase0_action_spec_t *action_spec);
@@ -19696,42 +20281,72 @@ const char *p4_pd_orbisk_switch_NoAction_schema(void);
 const char *p4_pd_orbisk_switch_hashComputeInnerIpv4HdrAction_schema(void);
 const char *p4_pd_orbisk_switch_hashComputeInnerIpv6HdrAction_schema(void);
 const char *p4_pd_orbisk_switch_setTunnelTerminationTypeNoneIpv4AndL2_schema(void);
+void p4_pd_orbisk_switch_setTunnelTerminationTypeVxlan_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTunnelTerminationTypeVxlan_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTunnelTerminationTypeVxlan_schema(void);
 void unbuild_action_spec_setTunnelTerminationTypeVxlan(const pd_action_record *act,
     p4_pd_orbisk_switch_setTunnelTerminationTypeVxlan_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTunnelTerminationTypeNoneIpv6_schema(void);
+void p4_pd_orbisk_switch_setL2DomainUntagged_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setL2DomainUntagged_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setL2DomainUntagged_schema(void);
 void unbuild_action_spec_setL2DomainUntagged(const pd_action_record *act,
     p4_pd_orbisk_switch_setL2DomainUntagged_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setL2DomainVlanXlate_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setL2DomainVlanXlate_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setL2DomainVlanXlate_schema(void);
 void unbuild_action_spec_setL2DomainVlanXlate(const pd_action_record *act,
     p4_pd_orbisk_switch_setL2DomainVlanXlate_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setL2DomainTagged_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setL2DomainTagged_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setL2DomainTagged_schema(void);
 void unbuild_action_spec_setL2DomainTagged(const pd_action_record *act,
     p4_pd_orbisk_switch_setL2DomainTagged_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_onMiss_schema(void);
+void p4_pd_orbisk_switch_setVrfPropertiesTaggedXlatePkt_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setVrfPropertiesTaggedXlatePkt_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setVrfPropertiesTaggedXlatePkt_schema(void);
 void unbuild_action_spec_setVrfPropertiesTaggedXlatePkt(const pd_action_record *act,
     p4_pd_orbisk_switch_setVrfPropertiesTaggedXlatePkt_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setVrfPropertiesTaggedPktDefault_schema(void);
+void p4_pd_orbisk_switch_setVrfPropertiesTaggedPkt_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setVrfPropertiesTaggedPkt_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setVrfPropertiesTaggedPkt_schema(void);
 void unbuild_action_spec_setVrfPropertiesTaggedPkt(const pd_action_record *act,
     p4_pd_orbisk_switch_setVrfPropertiesTaggedPkt_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setVrfPropertiesUntaggedPktDefault_schema(void);
+void p4_pd_orbisk_switch_setVrfPropertiesUntaggedPkt_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setVrfPropertiesUntaggedPkt_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setVrfPropertiesUntaggedPkt_schema(void);
 void unbuild_action_spec_setVrfPropertiesUntaggedPkt(const pd_action_record *act,
     p4_pd_orbisk_switch_setVrfPropertiesUntaggedPkt_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setVxlanL2AintfLookupFields_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setVxlanL2AintfLookupFields_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setVxlanL2AintfLookupFields_schema(void);
 void unbuild_action_spec_setVxlanL2AintfLookupFields(const pd_action_record *act,
     p4_pd_orbisk_switch_setVxlanL2AintfLookupFields_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setVxlanL2AintfInvalidTunnel_schema(void);
 const char *p4_pd_orbisk_switch_setvxlanL2AintfLookupMissVtepLearn_schema(void);
 const char *p4_pd_orbisk_switch_setvxlanL2AintfLookupMissSkipVtepLearn_schema(void);
+void p4_pd_orbisk_switch_vxlanVniResolutionHit_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_vxlanVniResolutionHit_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_vxlanVniResolutionHit_schema(void);
 void unbuild_action_spec_vxlanVniResolutionHit(const pd_action_record *act,
     p4_pd_orbisk_switch_vxlanVniResolutionHit_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_vxlanVniResolutionMiss_schema(void);
 const char *p4_pd_orbisk_switch_setUcast_schema(void);
+void p4_pd_orbisk_switch_setL2ControlFrame_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setL2ControlFrame_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setL2ControlFrame_schema(void);
 void unbuild_action_spec_setL2ControlFrame(const pd_action_record *act,
     p4_pd_orbisk_switch_setL2ControlFrame_action_spec_t *action_spec);
@@ -19739,15 +20354,24 @@ const char *p4_pd_orbisk_switch_setIllegalDmac_schema(void);
 const char *p4_pd_orbisk_switch_setMcast_schema(void);
 const char *p4_pd_orbisk_switch_setBcast_schema(void);
 const char *p4_pd_orbisk_switch_setIpMcast_schema(void);
+void p4_pd_orbisk_switch_classifyL2ControlFrame_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_classifyL2ControlFrame_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_classifyL2ControlFrame_schema(void);
 void unbuild_action_spec_classifyL2ControlFrame(const pd_action_record *act,
     p4_pd_orbisk_switch_classifyL2ControlFrame_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_ingStpAction_schema(void);
 const char *p4_pd_orbisk_switch_ingVlanAction_schema(void);
 const char *p4_pd_orbisk_switch_setIllegalSmac_schema(void);
+void p4_pd_orbisk_switch_setQosPortProperties_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setQosPortProperties_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setQosPortProperties_schema(void);
 void unbuild_action_spec_setQosPortProperties(const pd_action_record *act,
     p4_pd_orbisk_switch_setQosPortProperties_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setQosRewriteConfiguration_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setQosRewriteConfiguration_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setQosRewriteConfiguration_schema(void);
 void unbuild_action_spec_setQosRewriteConfiguration(const pd_action_record *act,
     p4_pd_orbisk_switch_setQosRewriteConfiguration_action_spec_t *action_spec);
@@ -19757,111 +20381,210 @@ const char *p4_pd_orbisk_switch_setL2LearningLookupMiss_schema(void);
 const char *p4_pd_orbisk_switch_noOp_schema(void);
 const char *p4_pd_orbisk_switch_ignoreIngL3DmacValid_schema(void);
 const char *p4_pd_orbisk_switch_setIngL3DmacValid_schema(void);
+void p4_pd_orbisk_switch_setHaloCrlId2_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setHaloCrlId2_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setHaloCrlId2_schema(void);
 void unbuild_action_spec_setHaloCrlId2(const pd_action_record *act,
     p4_pd_orbisk_switch_setHaloCrlId2_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setHaloCrlId_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setHaloCrlId_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setHaloCrlId_schema(void);
 void unbuild_action_spec_setHaloCrlId(const pd_action_record *act,
     p4_pd_orbisk_switch_setHaloCrlId_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_l2ForwardParamsSet_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l2ForwardParamsSet_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_l2ForwardParamsSet_schema(void);
 void unbuild_action_spec_l2ForwardParamsSet(const pd_action_record *act,
     p4_pd_orbisk_switch_l2ForwardParamsSet_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setVlanProperties_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setVlanProperties_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setVlanProperties_schema(void);
 void unbuild_action_spec_setVlanProperties(const pd_action_record *act,
     p4_pd_orbisk_switch_setVlanProperties_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setHaloXformDip_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setHaloXformDip_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setHaloXformDip_schema(void);
 void unbuild_action_spec_setHaloXformDip(const pd_action_record *act,
     p4_pd_orbisk_switch_setHaloXformDip_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setHaloInvalidDip_schema(void);
+void p4_pd_orbisk_switch_setHaloXformIpv4Sip_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setHaloXformIpv4Sip_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setHaloXformIpv4Sip_schema(void);
 void unbuild_action_spec_setHaloXformIpv4Sip(const pd_action_record *act,
     p4_pd_orbisk_switch_setHaloXformIpv4Sip_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setHaloInvalidSip_schema(void);
 const char *p4_pd_orbisk_switch_setHaloIpv4Common_schema(void);
+void p4_pd_orbisk_switch_setHaloXformIpv6Sip_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setHaloXformIpv6Sip_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setHaloXformIpv6Sip_schema(void);
 void unbuild_action_spec_setHaloXformIpv6Sip(const pd_action_record *act,
     p4_pd_orbisk_switch_setHaloXformIpv6Sip_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setHaloIpv6Common_schema(void);
+void p4_pd_orbisk_switch_setHaloXformDstPort_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setHaloXformDstPort_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setHaloXformDstPort_schema(void);
 void unbuild_action_spec_setHaloXformDstPort(const pd_action_record *act,
     p4_pd_orbisk_switch_setHaloXformDstPort_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setHaloXformSrcPort_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setHaloXformSrcPort_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setHaloXformSrcPort_schema(void);
 void unbuild_action_spec_setHaloXformSrcPort(const pd_action_record *act,
     p4_pd_orbisk_switch_setHaloXformSrcPort_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setFullConeDipRangeId_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setFullConeDipRangeId_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setFullConeDipRangeId_schema(void);
 void unbuild_action_spec_setFullConeDipRangeId(const pd_action_record *act,
     p4_pd_orbisk_switch_setFullConeDipRangeId_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setIngNatProfile_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setIngNatProfile_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIngNatProfile_schema(void);
 void unbuild_action_spec_setIngNatProfile(const pd_action_record *act,
     p4_pd_orbisk_switch_setIngNatProfile_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setEcmp_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEcmp_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEcmp_schema(void);
 void unbuild_action_spec_setEcmp(const pd_action_record *act,
     p4_pd_orbisk_switch_setEcmp_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setNextHop_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setNextHop_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNextHop_schema(void);
 void unbuild_action_spec_setNextHop(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHop_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setNextHop2_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setNextHop2_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNextHop2_schema(void);
 void unbuild_action_spec_setNextHop2(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHop2_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setNextHop3_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setNextHop3_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNextHop3_schema(void);
 void unbuild_action_spec_setNextHop3(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHop3_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setIpv6PrtResultXFirst_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setIpv6PrtResultXFirst_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIpv6PrtResultXFirst_schema(void);
 void unbuild_action_spec_setIpv6PrtResultXFirst(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpv6PrtResultXFirst_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setTranslatedDipNextHop_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTranslatedDipNextHop_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedDipNextHop_schema(void);
 void unbuild_action_spec_setTranslatedDipNextHop(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipNextHop_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setTranslatedDipPortNextHopDynamic_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTranslatedDipPortNextHopDynamic_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedDipPortNextHopDynamic_schema(void);
 void unbuild_action_spec_setTranslatedDipPortNextHopDynamic(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipPortNextHopDynamic_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setTranslatedDipPort_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTranslatedDipPort_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedDipPort_schema(void);
 void unbuild_action_spec_setTranslatedDipPort(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipPort_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setDnatAclId_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setDnatAclId_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setDnatAclId_schema(void);
 void unbuild_action_spec_setDnatAclId(const pd_action_record *act,
     p4_pd_orbisk_switch_setDnatAclId_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_resetDnatAclId_schema(void);
 const char *p4_pd_orbisk_switch_countEgressQueue_schema(void);
+void p4_pd_orbisk_switch_setTunnelDip_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTunnelDip_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTunnelDip_schema(void);
 void unbuild_action_spec_setTunnelDip(const pd_action_record *act,
     p4_pd_orbisk_switch_setTunnelDip_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setEgressMirrorSession_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEgressMirrorSession_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEgressMirrorSession_schema(void);
 void unbuild_action_spec_setEgressMirrorSession(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgressMirrorSession_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setVxlanVniAndVti_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setVxlanVniAndVti_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setVxlanVniAndVti_schema(void);
 void unbuild_action_spec_setVxlanVniAndVti(const pd_action_record *act,
     p4_pd_orbisk_switch_setVxlanVniAndVti_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setInvalidVni_schema(void);
+void p4_pd_orbisk_switch_setL2DomainReplicated_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setL2DomainReplicated_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setL2DomainReplicated_schema(void);
 void unbuild_action_spec_setL2DomainReplicated(const pd_action_record *act,
     p4_pd_orbisk_switch_setL2DomainReplicated_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_egressMirrorDrop_schema(void);
 const char *p4_pd_orbisk_switch_setMirrorPacketEncapNone_schema(void);
+void p4_pd_orbisk_switch_setMirrorPacketEncapCpu_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setMirrorPacketEncapCpu_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setMirrorPacketEncapCpu_schema(void);
 void unbuild_action_spec_setMirrorPacketEncapCpu(const pd_action_record *act,
     p4_pd_orbisk_switch_setMirrorPacketEncapCpu_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setMirrorPacketEncapGreIpv4_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setMirrorPacketEncapGreIpv4_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setMirrorPacketEncapGreIpv4_schema(void);
 void unbuild_action_spec_setMirrorPacketEncapGreIpv4(const pd_action_record *act,
     p4_pd_orbisk_switch_setMirrorPacketEncapGreIpv4_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setTcDscp_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTcDscp_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTcDscp_schema(void);
 void unbuild_action_spec_setTcDscp(const pd_action_record *act,
     p4_pd_orbisk_switch_setTcDscp_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setTranslatedDipNextHopAndCount_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTranslatedDipNextHopAndCount_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedDipNextHopAndCount_schema(void);
 void unbuild_action_spec_setTranslatedDipNextHopAndCount(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipNextHopAndCount_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setTranslatedDipPortNextHopAndCount_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTranslatedDipPortNextHopAndCount_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedDipPortNextHopAndCount_schema(void);
 void unbuild_action_spec_setTranslatedDipPortNextHopAndCount(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipPortNextHopAndCount_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setTranslatedDipNextHopEcmpAndCount_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTranslatedDipNextHopEcmpAndCount_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedDipNextHopEcmpAndCount_schema(void);
 void unbuild_action_spec_setTranslatedDipNextHopEcmpAndCount(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipNextHopEcmpAndCount_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setTranslatedDipPortNextHopEcmpAndCount_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTranslatedDipPortNextHopEcmpAndCount_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedDipPortNextHopEcmpAndCount_schema(void);
 void unbuild_action_spec_setTranslatedDipPortNextHopEcmpAndCount(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipPortNextHopEcmpAndCount_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setTranslatedDipNextHopEcmp_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTranslatedDipNextHopEcmp_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedDipNextHopEcmp_schema(void);
 void unbuild_action_spec_setTranslatedDipNextHopEcmp(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipNextHopEcmp_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_haloKeyMaskedRow1Stage2_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage2_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_haloKeyMaskedRow1Stage2_schema(void);
 void unbuild_action_spec_haloKeyMaskedRow1Stage2(const pd_action_record *act,
     p4_pd_orbisk_switch_haloKeyMaskedRow1Stage2_action_spec_t *action_spec);
@@ -19871,62 +20594,116 @@ const char *p4_pd_orbisk_switch_setDscpForIpv4Pkt_schema(void);
 const char *p4_pd_orbisk_switch_setDscpForIpv4OptionsPkt_schema(void);
 const char *p4_pd_orbisk_switch_setDscpForIpv6Pkt_schema(void);
 const char *p4_pd_orbisk_switch_setInvalidEgressPort_schema(void);
+void p4_pd_orbisk_switch_setEgressPort_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEgressPort_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEgressPort_schema(void);
 void unbuild_action_spec_setEgressPort(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgressPort_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setDecapTypeVlan_schema(void);
 const char *p4_pd_orbisk_switch_removeOrbiskHdrs_schema(void);
+void p4_pd_orbisk_switch_setEifIngPolicy_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEifIngPolicy_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEifIngPolicy_schema(void);
 void unbuild_action_spec_setEifIngPolicy(const pd_action_record *act,
     p4_pd_orbisk_switch_setEifIngPolicy_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_ipv6LgMaskFinalResolveDefaultFirst_schema(void);
+void p4_pd_orbisk_switch_setV6NextHop0First_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setV6NextHop0First_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setV6NextHop0First_schema(void);
 void unbuild_action_spec_setV6NextHop0First(const pd_action_record *act,
     p4_pd_orbisk_switch_setV6NextHop0First_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setV6NextHop2First_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setV6NextHop2First_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setV6NextHop2First_schema(void);
 void unbuild_action_spec_setV6NextHop2First(const pd_action_record *act,
     p4_pd_orbisk_switch_setV6NextHop2First_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setV6NextHop3First_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setV6NextHop3First_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setV6NextHop3First_schema(void);
 void unbuild_action_spec_setV6NextHop3First(const pd_action_record *act,
     p4_pd_orbisk_switch_setV6NextHop3First_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setV6NextHop1First_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setV6NextHop1First_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setV6NextHop1First_schema(void);
 void unbuild_action_spec_setV6NextHop1First(const pd_action_record *act,
     p4_pd_orbisk_switch_setV6NextHop1First_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setIpv6PrtIdxNextHop_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setIpv6PrtIdxNextHop_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIpv6PrtIdxNextHop_schema(void);
 void unbuild_action_spec_setIpv6PrtIdxNextHop(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpv6PrtIdxNextHop_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setIpv6PrtIdxNextHop2_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setIpv6PrtIdxNextHop2_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIpv6PrtIdxNextHop2_schema(void);
 void unbuild_action_spec_setIpv6PrtIdxNextHop2(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpv6PrtIdxNextHop2_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setIpv6PrtIdxNextHop3_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setIpv6PrtIdxNextHop3_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIpv6PrtIdxNextHop3_schema(void);
 void unbuild_action_spec_setIpv6PrtIdxNextHop3(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpv6PrtIdxNextHop3_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setIpv6PrtIdxEcmp_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setIpv6PrtIdxEcmp_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIpv6PrtIdxEcmp_schema(void);
 void unbuild_action_spec_setIpv6PrtIdxEcmp(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpv6PrtIdxEcmp_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setFibMiss_schema(void);
+void p4_pd_orbisk_switch_setEgrLagMemberSelector_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEgrLagMemberSelector_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEgrLagMemberSelector_schema(void);
 void unbuild_action_spec_setEgrLagMemberSelector(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrLagMemberSelector_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelCommon_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelCommon_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelCommon_schema(void);
 void unbuild_action_spec_setGlobalFieldsForVxlanTunnelCommon(const pd_action_record *act,
     p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelCommon_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4_schema(void);
 void unbuild_action_spec_setGlobalFieldsForVxlanTunnelIpv4(const pd_action_record *act,
     p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_schema(void);
 void unbuild_action_spec_setGlobalFieldsForVxlanTunnelIpv4UseDipB(const pd_action_record *act,
     p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTunnelL2InfoDefault_schema(void);
+void p4_pd_orbisk_switch_setTunnelL2Info_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTunnelL2Info_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTunnelL2Info_schema(void);
 void unbuild_action_spec_setTunnelL2Info(const pd_action_record *act,
     p4_pd_orbisk_switch_setTunnelL2Info_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_l2LookupKnownUcast_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l2LookupKnownUcast_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_l2LookupKnownUcast_schema(void);
 void unbuild_action_spec_l2LookupKnownUcast(const pd_action_record *act,
     p4_pd_orbisk_switch_l2LookupKnownUcast_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_l2LookupKnownMcast_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l2LookupKnownMcast_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_l2LookupKnownMcast_schema(void);
 void unbuild_action_spec_l2LookupKnownMcast(const pd_action_record *act,
     p4_pd_orbisk_switch_l2LookupKnownMcast_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_l2LookupKnownUcastTunnel_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l2LookupKnownUcastTunnel_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_l2LookupKnownUcastTunnel_schema(void);
 void unbuild_action_spec_l2LookupKnownUcastTunnel(const pd_action_record *act,
     p4_pd_orbisk_switch_l2LookupKnownUcastTunnel_action_spec_t *action_spec);
@@ -19935,20 +20712,35 @@ const char *p4_pd_orbisk_switch_l2LookupBcastHit_schema(void);
 const char *p4_pd_orbisk_switch_l2LookupUnknownMcastAction_schema(void);
 const char *p4_pd_orbisk_switch_l2LookupUnknownUcastAction_schema(void);
 const char *p4_pd_orbisk_switch_nop_schema(void);
+void p4_pd_orbisk_switch_haloSetBestResultRow1_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloSetBestResultRow1_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_haloSetBestResultRow1_schema(void);
 void unbuild_action_spec_haloSetBestResultRow1(const pd_action_record *act,
     p4_pd_orbisk_switch_haloSetBestResultRow1_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_haloKeyMaskedRow1Stage3_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage3_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_haloKeyMaskedRow1Stage3_schema(void);
 void unbuild_action_spec_haloKeyMaskedRow1Stage3(const pd_action_record *act,
     p4_pd_orbisk_switch_haloKeyMaskedRow1Stage3_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setDropVarpVxlan_schema(void);
 const char *p4_pd_orbisk_switch_cancelVxlanDecap_schema(void);
+void p4_pd_orbisk_switch_setCosFromDefault_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setCosFromDefault_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setCosFromDefault_schema(void);
 void unbuild_action_spec_setCosFromDefault(const pd_action_record *act,
     p4_pd_orbisk_switch_setCosFromDefault_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setCosFromPacket_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setCosFromPacket_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setCosFromPacket_schema(void);
 void unbuild_action_spec_setCosFromPacket(const pd_action_record *act,
     p4_pd_orbisk_switch_setCosFromPacket_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setCosFromPacketWithInner_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setCosFromPacketWithInner_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setCosFromPacketWithInner_schema(void);
 void unbuild_action_spec_setCosFromPacketWithInner(const pd_action_record *act,
     p4_pd_orbisk_switch_setCosFromPacketWithInner_action_spec_t *action_spec);
@@ -19956,27 +20748,48 @@ const char *p4_pd_orbisk_switch_hashComputeOuterIpv4HdrAction_schema(void);
 const char *p4_pd_orbisk_switch_hashComputeOuterIpv6HdrAction_schema(void);
 const char *p4_pd_orbisk_switch_hashComputeInnerEthHdrAction_schema(void);
 const char *p4_pd_orbisk_switch_dropDatalink_schema(void);
+void p4_pd_orbisk_switch_setIngressMirrorSession_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setIngressMirrorSession_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIngressMirrorSession_schema(void);
 void unbuild_action_spec_setIngressMirrorSession(const pd_action_record *act,
     p4_pd_orbisk_switch_setIngressMirrorSession_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_noDecapNoEncapRouteIpv4_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_noDecapNoEncapRouteIpv4_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_noDecapNoEncapRouteIpv4_schema(void);
 void unbuild_action_spec_noDecapNoEncapRouteIpv4(const pd_action_record *act,
     p4_pd_orbisk_switch_noDecapNoEncapRouteIpv4_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_noDecapNoEncapRouteIpv6_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_noDecapNoEncapRouteIpv6_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_noDecapNoEncapRouteIpv6_schema(void);
 void unbuild_action_spec_noDecapNoEncapRouteIpv6(const pd_action_record *act,
     p4_pd_orbisk_switch_noDecapNoEncapRouteIpv6_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_noDecapNoEncapBridge_schema(void);
 const char *p4_pd_orbisk_switch_decapPPIPktFromCpu_schema(void);
+void p4_pd_orbisk_switch_encapVxlanRouteIpv4_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_encapVxlanRouteIpv4_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_encapVxlanRouteIpv4_schema(void);
 void unbuild_action_spec_encapVxlanRouteIpv4(const pd_action_record *act,
     p4_pd_orbisk_switch_encapVxlanRouteIpv4_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_encapVxlanRouteIpv6_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_encapVxlanRouteIpv6_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_encapVxlanRouteIpv6_schema(void);
 void unbuild_action_spec_encapVxlanRouteIpv6(const pd_action_record *act,
     p4_pd_orbisk_switch_encapVxlanRouteIpv6_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_noDecapEncapVxlanL2_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_noDecapEncapVxlanL2_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_noDecapEncapVxlanL2_schema(void);
 void unbuild_action_spec_noDecapEncapVxlanL2(const pd_action_record *act,
     p4_pd_orbisk_switch_noDecapEncapVxlanL2_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_normalizeEthHdr_schema(void);
+void p4_pd_orbisk_switch_setEgressMirrorColor_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEgressMirrorColor_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEgressMirrorColor_schema(void);
 void unbuild_action_spec_setEgressMirrorColor(const pd_action_record *act,
     const pd_resource_index *resources,
@@ -19988,34 +20801,61 @@ const char *p4_pd_orbisk_switch_generateVtepLearningDigest_schema(void);
 const char *p4_pd_orbisk_switch_dot1xTrap_schema(void);
 const char *p4_pd_orbisk_switch_dot1xDrop_schema(void);
 const char *p4_pd_orbisk_switch_resetApplicationId_schema(void);
+void p4_pd_orbisk_switch_haloKeyMaskedRow1Stage4_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage4_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_haloKeyMaskedRow1Stage4_schema(void);
 void unbuild_action_spec_haloKeyMaskedRow1Stage4(const pd_action_record *act,
     p4_pd_orbisk_switch_haloKeyMaskedRow1Stage4_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_hashComputeIpAndL4HdrAction_schema(void);
+void p4_pd_orbisk_switch_setTrafficClassAndEgressQid_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTrafficClassAndEgressQid_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTrafficClassAndEgressQid_schema(void);
 void unbuild_action_spec_setTrafficClassAndEgressQid(const pd_action_record *act,
     p4_pd_orbisk_switch_setTrafficClassAndEgressQid_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setL2McResult_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setL2McResult_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setL2McResult_schema(void);
 void unbuild_action_spec_setL2McResult(const pd_action_record *act,
     p4_pd_orbisk_switch_setL2McResult_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_copyHashFromCpuHdr_schema(void);
+void p4_pd_orbisk_switch_setEgrVlan_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEgrVlan_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEgrVlan_schema(void);
 void unbuild_action_spec_setEgrVlan(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrVlan_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setEgrVlanSubIntf_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEgrVlanSubIntf_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEgrVlanSubIntf_schema(void);
 void unbuild_action_spec_setEgrVlanSubIntf(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrVlanSubIntf_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_noXlate_schema(void);
+void p4_pd_orbisk_switch_setEncapSmac_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEncapSmac_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEncapSmac_schema(void);
 void unbuild_action_spec_setEncapSmac(const pd_action_record *act,
     p4_pd_orbisk_switch_setEncapSmac_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_encapPktToCpu_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_encapPktToCpu_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_encapPktToCpu_schema(void);
 void unbuild_action_spec_encapPktToCpu(const pd_action_record *act,
     p4_pd_orbisk_switch_encapPktToCpu_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_encapPktToDpdk_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_encapPktToDpdk_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_encapPktToDpdk_schema(void);
 void unbuild_action_spec_encapPktToDpdk(const pd_action_record *act,
     p4_pd_orbisk_switch_encapPktToDpdk_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_egressSamePortBridgingTestDrop_schema(void);
+void p4_pd_orbisk_switch_setOvoIntfDetails_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setOvoIntfDetails_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setOvoIntfDetails_schema(void);
 void unbuild_action_spec_setOvoIntfDetails(const pd_action_record *act,
     p4_pd_orbisk_switch_setOvoIntfDetails_action_spec_t *action_spec);
@@ -20038,25 +20878,46 @@ const char *p4_pd_orbisk_switch_setHashValuesEcmpOuterL4Hdr_schema(void);
 const char *p4_pd_orbisk_switch_setHashValuesEcmpInnerIpHdr_schema(void);
 const char *p4_pd_orbisk_switch_setHashValuesEcmpInnerL4Hdr_schema(void);
 const char *p4_pd_orbisk_switch_setHashValuesEcmpInnerEthHdr_schema(void);
+void p4_pd_orbisk_switch_haloKeyMaskedRow1Stage5_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage5_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_haloKeyMaskedRow1Stage5_schema(void);
 void unbuild_action_spec_haloKeyMaskedRow1Stage5(const pd_action_record *act,
     p4_pd_orbisk_switch_haloKeyMaskedRow1Stage5_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setIpv4GroupVlanIndex_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setIpv4GroupVlanIndex_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIpv4GroupVlanIndex_schema(void);
 void unbuild_action_spec_setIpv4GroupVlanIndex(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpv4GroupVlanIndex_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_trapPacket_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_trapPacket_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_trapPacket_schema(void);
 void unbuild_action_spec_trapPacket(const pd_action_record *act,
     p4_pd_orbisk_switch_trapPacket_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_copyPacket_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_copyPacket_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_copyPacket_schema(void);
 void unbuild_action_spec_copyPacket(const pd_action_record *act,
     p4_pd_orbisk_switch_copyPacket_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setLlm_schema(void);
+void p4_pd_orbisk_switch_copyCosRewriteDscp_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_copyCosRewriteDscp_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_copyCosRewriteDscp_schema(void);
 void unbuild_action_spec_copyCosRewriteDscp(const pd_action_record *act,
     p4_pd_orbisk_switch_copyCosRewriteDscp_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_rewriteCosCopyDscp_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_rewriteCosCopyDscp_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_rewriteCosCopyDscp_schema(void);
 void unbuild_action_spec_rewriteCosCopyDscp(const pd_action_record *act,
     p4_pd_orbisk_switch_rewriteCosCopyDscp_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_rewriteCosRewriteDscp_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_rewriteCosRewriteDscp_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_rewriteCosRewriteDscp_schema(void);
 void unbuild_action_spec_rewriteCosRewriteDscp(const pd_action_record *act,
     p4_pd_orbisk_switch_rewriteCosRewriteDscp_action_spec_t *action_spec);
@@ -20068,15 +20929,27 @@ const char *p4_pd_orbisk_switch_removeOuterIpv6Hdr_schema(void);
 const char *p4_pd_orbisk_switch_saveOuterIpv4Ecn_schema(void);
 const char *p4_pd_orbisk_switch_saveOuterIpv6Ecn_schema(void);
 const char *p4_pd_orbisk_switch_decapIngressVxlan_schema(void);
+void p4_pd_orbisk_switch_setEgrPortVlan_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEgrPortVlan_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEgrPortVlan_schema(void);
 void unbuild_action_spec_setEgrPortVlan(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrPortVlan_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setEgrPortVlanKernel_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEgrPortVlanKernel_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEgrPortVlanKernel_schema(void);
 void unbuild_action_spec_setEgrPortVlanKernel(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrPortVlanKernel_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setEgrPortL2Domain_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEgrPortL2Domain_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEgrPortL2Domain_schema(void);
 void unbuild_action_spec_setEgrPortL2Domain(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrPortL2Domain_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setEgrPortL2DomainKernel_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEgrPortL2DomainKernel_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEgrPortL2DomainKernel_schema(void);
 void unbuild_action_spec_setEgrPortL2DomainKernel(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrPortL2DomainKernel_action_spec_t *action_spec);
@@ -20084,15 +20957,27 @@ const char *p4_pd_orbisk_switch_setDefaultEgrPortVlan_schema(void);
 const char *p4_pd_orbisk_switch_setNatCpuHeaderSnat_schema(void);
 const char *p4_pd_orbisk_switch_setNatCpuHeaderDnat_schema(void);
 const char *p4_pd_orbisk_switch_setNatCpuHeaderTwice_schema(void);
+void p4_pd_orbisk_switch_setFoldedPipeQid_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setFoldedPipeQid_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setFoldedPipeQid_schema(void);
 void unbuild_action_spec_setFoldedPipeQid(const pd_action_record *act,
     p4_pd_orbisk_switch_setFoldedPipeQid_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setLagMemberSelector_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setLagMemberSelector_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setLagMemberSelector_schema(void);
 void unbuild_action_spec_setLagMemberSelector(const pd_action_record *act,
     p4_pd_orbisk_switch_setLagMemberSelector_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_haloKeyMaskedRow1Stage6_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage6_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_haloKeyMaskedRow1Stage6_schema(void);
 void unbuild_action_spec_haloKeyMaskedRow1Stage6(const pd_action_record *act,
     p4_pd_orbisk_switch_haloKeyMaskedRow1Stage6_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setIpmcResult_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setIpmcResult_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIpmcResult_schema(void);
 void unbuild_action_spec_setIpmcResult(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpmcResult_action_spec_t *action_spec);
@@ -20103,25 +20988,46 @@ const char *p4_pd_orbisk_switch_egressMirrorAction_schema(void);
 const char *p4_pd_orbisk_switch_noVlanEncap_schema(void);
 const char *p4_pd_orbisk_switch_needVlanEncap_schema(void);
 const char *p4_pd_orbisk_switch_discardHaloResult_schema(void);
+void p4_pd_orbisk_switch_finalizeMcResultIpmc_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_finalizeMcResultIpmc_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_finalizeMcResultIpmc_schema(void);
 void unbuild_action_spec_finalizeMcResultIpmc(const pd_action_record *act,
     p4_pd_orbisk_switch_finalizeMcResultIpmc_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_finalizeMcResultL2mc_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_finalizeMcResultL2mc_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_finalizeMcResultL2mc_schema(void);
 void unbuild_action_spec_finalizeMcResultL2mc(const pd_action_record *act,
     p4_pd_orbisk_switch_finalizeMcResultL2mc_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_finalizeMcResultL2mcFlood_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_finalizeMcResultL2mcFlood_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_finalizeMcResultL2mcFlood_schema(void);
 void unbuild_action_spec_finalizeMcResultL2mcFlood(const pd_action_record *act,
     p4_pd_orbisk_switch_finalizeMcResultL2mcFlood_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_finalizeMcResultCancel_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_finalizeMcResultCancel_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_finalizeMcResultCancel_schema(void);
 void unbuild_action_spec_finalizeMcResultCancel(const pd_action_record *act,
     p4_pd_orbisk_switch_finalizeMcResultCancel_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_finalizeMcResultFlood_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_finalizeMcResultFlood_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_finalizeMcResultFlood_schema(void);
 void unbuild_action_spec_finalizeMcResultFlood(const pd_action_record *act,
     p4_pd_orbisk_switch_finalizeMcResultFlood_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_finalizeMcResultL3Rpf_schema(void);
+void p4_pd_orbisk_switch_setFoldedPipePort_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setFoldedPipePort_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setFoldedPipePort_schema(void);
 void unbuild_action_spec_setFoldedPipePort(const pd_action_record *act,
     p4_pd_orbisk_switch_setFoldedPipePort_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setIngressMirrorColor_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setIngressMirrorColor_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIngressMirrorColor_schema(void);
 void unbuild_action_spec_setIngressMirrorColor(const pd_action_record *act,
     const pd_resource_index *resources,
@@ -20129,22 +21035,37 @@ void unbuild_action_spec_setIngressMirrorColor(const pd_action_record *act,
     p4_pd_orbisk_switch_setIngressMirrorColor_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIngressMirrorColorRed_schema(void);
 const char *p4_pd_orbisk_switch_accept_schema(void);
+void p4_pd_orbisk_switch_acceptLog_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_acceptLog_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_acceptLog_schema(void);
 void unbuild_action_spec_acceptLog(const pd_action_record *act,
     p4_pd_orbisk_switch_acceptLog_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_dropCount_schema(void);
+void p4_pd_orbisk_switch_dropCountAndLog_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_dropCountAndLog_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_dropCountAndLog_schema(void);
 void unbuild_action_spec_dropCountAndLog(const pd_action_record *act,
     p4_pd_orbisk_switch_dropCountAndLog_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_finalDrop_schema(void);
+void p4_pd_orbisk_switch_ingressMirrorAction_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ingressMirrorAction_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_ingressMirrorAction_schema(void);
 void unbuild_action_spec_ingressMirrorAction(const pd_action_record *act,
     p4_pd_orbisk_switch_ingressMirrorAction_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_updateFoldedPipeCount_schema(void);
+void p4_pd_orbisk_switch_setMinMtuId_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setMinMtuId_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setMinMtuId_schema(void);
 void unbuild_action_spec_setMinMtuId(const pd_action_record *act,
     p4_pd_orbisk_switch_setMinMtuId_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIngMtuFailed_schema(void);
+void p4_pd_orbisk_switch_setSnatAclId_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setSnatAclId_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setSnatAclId_schema(void);
 void unbuild_action_spec_setSnatAclId(const pd_action_record *act,
     p4_pd_orbisk_switch_setSnatAclId_action_spec_t *action_spec);
@@ -20152,62 +21073,116 @@ const char *p4_pd_orbisk_switch_resetSnatAclId_schema(void);
 const char *p4_pd_orbisk_switch_setTcpFlagsCpuReasonCode_schema(void);
 const char *p4_pd_orbisk_switch_setCpuReasonCodeDefault_schema(void);
 const char *p4_pd_orbisk_switch_setNatTcpFlags_schema(void);
+void p4_pd_orbisk_switch_setL2XId_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setL2XId_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setL2XId_schema(void);
 void unbuild_action_spec_setL2XId(const pd_action_record *act,
     p4_pd_orbisk_switch_setL2XId_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setIpv4PrtResultXFirst_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setIpv4PrtResultXFirst_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIpv4PrtResultXFirst_schema(void);
 void unbuild_action_spec_setIpv4PrtResultXFirst(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpv4PrtResultXFirst_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setSwitchToCpu_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setSwitchToCpu_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setSwitchToCpu_schema(void);
 void unbuild_action_spec_setSwitchToCpu(const pd_action_record *act,
     p4_pd_orbisk_switch_setSwitchToCpu_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setDefaultVrf_schema(void);
+void p4_pd_orbisk_switch_setNextHop0First_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setNextHop0First_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNextHop0First_schema(void);
 void unbuild_action_spec_setNextHop0First(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHop0First_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setNextHop2First_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setNextHop2First_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNextHop2First_schema(void);
 void unbuild_action_spec_setNextHop2First(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHop2First_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setNextHop3First_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setNextHop3First_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNextHop3First_schema(void);
 void unbuild_action_spec_setNextHop3First(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHop3First_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setNextHop1First_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setNextHop1First_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNextHop1First_schema(void);
 void unbuild_action_spec_setNextHop1First(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHop1First_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_ipv4ShortMaskLpmMiss_schema(void);
+void p4_pd_orbisk_switch_setEcmpNextHop_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEcmpNextHop_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEcmpNextHop_schema(void);
 void unbuild_action_spec_setEcmpNextHop(const pd_action_record *act,
     p4_pd_orbisk_switch_setEcmpNextHop_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setNextHopToCpu_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setNextHopToCpu_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNextHopToCpu_schema(void);
 void unbuild_action_spec_setNextHopToCpu(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHopToCpu_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setNextHopDetails_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setNextHopDetails_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNextHopDetails_schema(void);
 void unbuild_action_spec_setNextHopDetails(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHopDetails_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setRouterNextHopDetails_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setRouterNextHopDetails_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setRouterNextHopDetails_schema(void);
 void unbuild_action_spec_setRouterNextHopDetails(const pd_action_record *act,
     p4_pd_orbisk_switch_setRouterNextHopDetails_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_eifParamEgressing_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_eifParamEgressing_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_eifParamEgressing_schema(void);
 void unbuild_action_spec_eifParamEgressing(const pd_action_record *act,
     p4_pd_orbisk_switch_eifParamEgressing_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setEgrNatProfile_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEgrNatProfile_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEgrNatProfile_schema(void);
 void unbuild_action_spec_setEgrNatProfile(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrNatProfile_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setDip_schema(void);
 const char *p4_pd_orbisk_switch_clearDip_schema(void);
 const char *p4_pd_orbisk_switch_eifParamIngressing_schema(void);
+void p4_pd_orbisk_switch_setTranslatedSip_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTranslatedSip_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedSip_schema(void);
 void unbuild_action_spec_setTranslatedSip(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedSip_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setTranslatedSipPortDynamic_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTranslatedSipPortDynamic_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedSipPortDynamic_schema(void);
 void unbuild_action_spec_setTranslatedSipPortDynamic(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedSipPortDynamic_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setTranslatedSipAndCount_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTranslatedSipAndCount_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedSipAndCount_schema(void);
 void unbuild_action_spec_setTranslatedSipAndCount(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedSipAndCount_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setTranslatedSipPortAndCount_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTranslatedSipPortAndCount_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedSipPortAndCount_schema(void);
 void unbuild_action_spec_setTranslatedSipPortAndCount(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedSipPortAndCount_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setEifMatched_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEifMatched_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEifMatched_schema(void);
 void unbuild_action_spec_setEifMatched(const pd_action_record *act,
     p4_pd_orbisk_switch_setEifMatched_action_spec_t *action_spec);
@@ -20215,30 +21190,54 @@ const char *p4_pd_orbisk_switch_setEifTrap_schema(void);
 const char *p4_pd_orbisk_switch_setEifTrapReverse_schema(void);
 const char *p4_pd_orbisk_switch_setEifDrop_schema(void);
 const char *p4_pd_orbisk_switch_updateEifAclCount_schema(void);
+void p4_pd_orbisk_switch_setNatCpuTrap_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setNatCpuTrap_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNatCpuTrap_schema(void);
 void unbuild_action_spec_setNatCpuTrap(const pd_action_record *act,
     p4_pd_orbisk_switch_setNatCpuTrap_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setNatCpuTrapReverse_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setNatCpuTrapReverse_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNatCpuTrapReverse_schema(void);
 void unbuild_action_spec_setNatCpuTrapReverse(const pd_action_record *act,
     p4_pd_orbisk_switch_setNatCpuTrapReverse_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_forwardToPeer_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_forwardToPeer_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_forwardToPeer_schema(void);
 void unbuild_action_spec_forwardToPeer(const pd_action_record *act,
     p4_pd_orbisk_switch_forwardToPeer_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setEifForwardToPeer_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEifForwardToPeer_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEifForwardToPeer_schema(void);
 void unbuild_action_spec_setEifForwardToPeer(const pd_action_record *act,
     p4_pd_orbisk_switch_setEifForwardToPeer_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_updateEifForwardToPeerAclCount_schema(void);
+void p4_pd_orbisk_switch_mtuCheckFailed_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_mtuCheckFailed_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_mtuCheckFailed_schema(void);
 void unbuild_action_spec_mtuCheckFailed(const pd_action_record *act,
     p4_pd_orbisk_switch_mtuCheckFailed_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_mtuCheckPassed_schema(void);
 const char *p4_pd_orbisk_switch_countDynamicNat_schema(void);
+void p4_pd_orbisk_switch_setTunnelEgressInfo_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTunnelEgressInfo_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTunnelEgressInfo_schema(void);
 void unbuild_action_spec_setTunnelEgressInfo(const pd_action_record *act,
     p4_pd_orbisk_switch_setTunnelEgressInfo_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setPdpClass_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setPdpClass_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setPdpClass_schema(void);
 void unbuild_action_spec_setPdpClass(const pd_action_record *act,
     p4_pd_orbisk_switch_setPdpClass_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_meterPdpClass_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_meterPdpClass_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_meterPdpClass_schema(void);
 void unbuild_action_spec_meterPdpClass(const pd_action_record *act,
     p4_pd_orbisk_switch_meterPdpClass_action_spec_t *action_spec);
@@ -20246,24 +21245,45 @@ const char *p4_pd_orbisk_switch_updateV4_schema(void);
 const char *p4_pd_orbisk_switch_updateV4AndPort_schema(void);
 const char *p4_pd_orbisk_switch_updateV4AndUdp_schema(void);
 const char *p4_pd_orbisk_switch_updateV4AndTcp_schema(void);
+void p4_pd_orbisk_switch_trapPktToCpuUntagged_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_trapPktToCpuUntagged_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_trapPktToCpuUntagged_schema(void);
 void unbuild_action_spec_trapPktToCpuUntagged(const pd_action_record *act,
     p4_pd_orbisk_switch_trapPktToCpuUntagged_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_copyPktToCpuUntagged_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_copyPktToCpuUntagged_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_copyPktToCpuUntagged_schema(void);
 void unbuild_action_spec_copyPktToCpuUntagged(const pd_action_record *act,
     p4_pd_orbisk_switch_copyPktToCpuUntagged_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_trapPktToCpuTagged_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_trapPktToCpuTagged_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_trapPktToCpuTagged_schema(void);
 void unbuild_action_spec_trapPktToCpuTagged(const pd_action_record *act,
     p4_pd_orbisk_switch_trapPktToCpuTagged_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_copyPktToCpuTagged_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_copyPktToCpuTagged_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_copyPktToCpuTagged_schema(void);
 void unbuild_action_spec_copyPktToCpuTagged(const pd_action_record *act,
     p4_pd_orbisk_switch_copyPktToCpuTagged_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_trapPktToCpuSubintf_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_trapPktToCpuSubintf_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_trapPktToCpuSubintf_schema(void);
 void unbuild_action_spec_trapPktToCpuSubintf(const pd_action_record *act,
     p4_pd_orbisk_switch_trapPktToCpuSubintf_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_copyPktToCpuSubintf_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_copyPktToCpuSubintf_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_copyPktToCpuSubintf_schema(void);
 void unbuild_action_spec_copyPktToCpuSubintf(const pd_action_record *act,
     p4_pd_orbisk_switch_copyPktToCpuSubintf_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setLagPort_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setLagPort_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setLagPort_schema(void);
 void unbuild_action_spec_setLagPort(const pd_action_record *act,
     p4_pd_orbisk_switch_setLagPort_action_spec_t *action_spec);
@@ -20272,6 +21292,9 @@ const char *p4_pd_orbisk_switch_setTunnelInfo_schema(void);
 const char *p4_pd_orbisk_switch_invalidateUcastEgressPort_schema(void);
 const char *p4_pd_orbisk_switch_fixL2SubintfAlignment_schema(void);
 const char *p4_pd_orbisk_switch_add_header_for_EA_schema(void);
+void p4_pd_orbisk_switch_setPdpClassCount_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setPdpClassCount_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setPdpClassCount_schema(void);
 void unbuild_action_spec_setPdpClassCount(const pd_action_record *act,
     const pd_resource_index *resources,
@@ -20280,12 +21303,21 @@ void unbuild_action_spec_setPdpClassCount(const pd_action_record *act,
 const char *p4_pd_orbisk_switch_removeVlanHdr_schema(void);
 const char *p4_pd_orbisk_switch_acceptIB_schema(void);
 const char *p4_pd_orbisk_switch_finalDropIB_schema(void);
+void p4_pd_orbisk_switch_setPruneParams_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setPruneParams_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setPruneParams_schema(void);
 void unbuild_action_spec_setPruneParams(const pd_action_record *act,
     p4_pd_orbisk_switch_setPruneParams_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setPruneParamsForL2Flood_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setPruneParamsForL2Flood_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setPruneParamsForL2Flood_schema(void);
 void unbuild_action_spec_setPruneParamsForL2Flood(const pd_action_record *act,
     p4_pd_orbisk_switch_setPruneParamsForL2Flood_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setPruneParamsForL3Only_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setPruneParamsForL3Only_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setPruneParamsForL3Only_schema(void);
 void unbuild_action_spec_setPruneParamsForL3Only(const pd_action_record *act,
     p4_pd_orbisk_switch_setPruneParamsForL3Only_action_spec_t *action_spec);
