@@ -9,6 +9,7 @@
 #include <cstring>
 #include <fstream>
 #include <map>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -20,7 +21,6 @@ using orbisk::pd::ActionDesc;
 using orbisk::pd::FieldDesc;
 using orbisk::pd::FieldMatch;
 using orbisk::pd::kActions;
-using orbisk::pd::kNoOffset;
 using orbisk::pd::kNumActions;
 using orbisk::pd::kNumTables;
 using orbisk::pd::kTables;
@@ -87,7 +87,8 @@ TEST(Printers, EveryKeyAndEveryActionPrintsWhatTheCatalogueGives) {
       if (f->match == FieldMatch::Ternary) fill(record, f->partner_offset, f->bits, name + "_mask");
       if (f->match == FieldMatch::Lpm) fill(record, f->partner_offset, 16, name + "_prefix_length");
     }
-    auto print = exported<void (*)(int, int, const void *)>(std::string(t.name) + "_match_spec_print");
+    auto print =
+        exported<void (*)(int, int, const void *)>(std::string(t.name) + "_match_spec_print");
     const int indent = int(std::strlen(t.name) % 5);
     EXPECT_EQ(expected.at(std::string("key ") + t.name),
               captured([&](int fd) { print(fd, indent, record); }))
@@ -116,10 +117,12 @@ TEST(Printers, WorkedLines) {
   // A key bit above the table's mask is dropped, digits follow the width.
   p4_pd_orbisk_switch_ecmpGroup_match_spec_t ecmp{};
   ecmp.l3_nextHop = 0x1ff;
-  EXPECT_EQ("p4_pd_orbisk_switch_ecmpGroup_match_spec_t:\n  l3_nextHop mask 0xff: 0x00ff\n",
-            captured([&](int fd) { p4_pd_orbisk_switch_ecmpGroup_match_spec_print(fd, 0, &ecmp); }));
-  EXPECT_EQ("   p4_pd_orbisk_switch_ecmpGroup_match_spec_t:\n    l3_nextHop mask 0xff: 0x00ff\n",
-            captured([&](int fd) { p4_pd_orbisk_switch_ecmpGroup_match_spec_print(fd, 3, &ecmp); }));
+  EXPECT_EQ(
+      "p4_pd_orbisk_switch_ecmpGroup_match_spec_t:\n  l3_nextHop mask 0xff: 0x00ff\n",
+      captured([&](int fd) { p4_pd_orbisk_switch_ecmpGroup_match_spec_print(fd, 0, &ecmp); }));
+  EXPECT_EQ(
+      "   p4_pd_orbisk_switch_ecmpGroup_match_spec_t:\n    l3_nextHop mask 0xff: 0x00ff\n",
+      captured([&](int fd) { p4_pd_orbisk_switch_ecmpGroup_match_spec_print(fd, 3, &ecmp); }));
   // Three bits of vxlanVti are kept, one digit.
   const p4_pd_orbisk_switch_setTunnelTerminationTypeVxlan_action_spec_t vxlan = {0xFF, 0};
   EXPECT_EQ("  action_vxlanVti: 0x7\n  action_vxlanVarpIp: 0x0\n", captured([&](int fd) {
@@ -127,88 +130,50 @@ TEST(Printers, WorkedLines) {
             }));
 }
 
-// One formatter call: its text and result.
-struct Formatted {
-  std::string text;
-  int result;
-};
-
-template <typename Call>
-Formatted format(Call call) {
-  char out[128];
-  std::memset(out, '#', sizeof out);
-  out[sizeof out - 1] = '\0';
-  const int n = call(out);
-  return {out, n};
-}
-
-std::vector<uint8_t> v6(const char *text) {
-  std::vector<uint8_t> b(16);
-  EXPECT_EQ(1, inet_pton(AF_INET6, text, b.data())) << text;
-  return b;
+// Calls the formatter of `form` with a label and arguments given as text:
+// numbers, or 16-byte addresses in their usual text.
+int format(const std::string &form, const std::vector<std::string> &a, char *o) {
+  auto n = [&](std::size_t i) { return uint32_t(std::stoul(a[i], nullptr, 0)); };
+  uint8_t v6[2][16] = {};
+  for (std::size_t i = 1; i < a.size() && form[1] == '6'; ++i)
+    inet_pton(AF_INET6, a[i].c_str(), v6[i - 1]);
+  const char *l = a[0].c_str();
+  if (form == "v4addr_exact") return p4_pd_orbisk_switch__print_v4addr_exact(o, l, n(1));
+  if (form == "v4addr_lpm")
+    return p4_pd_orbisk_switch__print_v4addr_lpm(o, l, n(1), uint16_t(n(2)));
+  if (form == "v4addr_ternary") return p4_pd_orbisk_switch__print_v4addr_ternary(o, l, n(1), n(2));
+  if (form == "v6addr_exact") return p4_pd_orbisk_switch__print_v6addr_exact(o, l, v6[0]);
+  if (form == "v6addr_lpm")
+    return p4_pd_orbisk_switch__print_v6addr_lpm(o, l, v6[0], uint16_t(n(2)));
+  if (form == "v6addr_ternary")
+    return p4_pd_orbisk_switch__print_v6addr_ternary(o, l, v6[0], v6[1]);
+  if (form == "mac_exact") return p4_pd_orbisk_switch__print_mac_exact(o, l, n(1), n(2));
+  if (form == "mac_ternary")
+    return p4_pd_orbisk_switch__print_mac_ternary(o, l, n(1), n(2), n(3), n(4));
+  ADD_FAILURE() << "no form " << form;
+  return -1;
 }
 
 TEST(Printers, AddressFormatters) {
-  const auto a = v6("2001:db8::1"), ffff = v6("ffff::"), zero = v6("::");
-  const struct {
-    Formatted got;
-    const char *text;
-  } cases[] = {
-      {format([](char *o) { return p4_pd_orbisk_switch__print_v4addr_exact(o, "dip", 0x0A000102); }),
-       "dip 10.0.1.2 "},
-      {format([](char *o) { return p4_pd_orbisk_switch__print_v4addr_lpm(o, "dip", 0xC0A80000, 16); }),
-       "dip 192.168.0.0/16 "},
-      {format([](char *o) {
-         return p4_pd_orbisk_switch__print_v4addr_ternary(o, "sip", 0x0A0B0C0D, 0xFFFFFF00);
-       }),
-       "sip 10.11.12.13/24 "},  // the address is printed whole, not under its mask
-      {format([](char *o) {
-         return p4_pd_orbisk_switch__print_v4addr_ternary(o, "dip", 0x01020304, 0xFF00FF00);
-       }),
-       "dip 1.2.3.4/8 "},  // a mask with holes: its leading run of ones
-      {format([](char *o) {
-         return p4_pd_orbisk_switch__print_v4addr_ternary(o, "dip", 0x01020304, 0xFFFFFFFF);
-       }),
-       "dip 1.2.3.4/32 "},
-      {format([&](char *o) { return p4_pd_orbisk_switch__print_v6addr_exact(o, "dip", a.data()); }),
-       "dip 2001:db8::1"},  // the one form with no closing blank
-      {format([&](char *o) { return p4_pd_orbisk_switch__print_v6addr_lpm(o, "dip", a.data(), 64); }),
-       "dip 2001:db8::1/64 "},
-      {format([&](char *o) {
-         return p4_pd_orbisk_switch__print_v6addr_ternary(o, "sip", a.data(), ffff.data());
-       }),
-       "sip 2001:db8::1/ffff:: "},
-      {format([](char *o) { return p4_pd_orbisk_switch__print_mac_exact(o, "dmac", 0x0A0B0C, 0xD0E0F); }),
-       "dmac 0a0b.0c0d.0e0f "},
-      {format([](char *o) {
-         return p4_pd_orbisk_switch__print_mac_ternary(o, "dmac", 0x0A0B0C, 0xFFFFFF, 0x0D0E0F, 0xFFFFFF);
-       }),
-       "dmac 0a0b.0c0d.0e0f "},  // all 48 mask bits: the exact form
-      {format([](char *o) {
-         return p4_pd_orbisk_switch__print_mac_ternary(o, "dmac", 0x010000, 0x010000, 0, 0);
-       }),
-       "dmac 0100.0000.0000/0100.0000.0000 "},
-      {format([](char *o) {
-         return p4_pd_orbisk_switch__print_mac_ternary(o, "dmac", 0xFFFFFF, 0xFFFFFF, 0xFFFFFF, 0xFFFFFE);
-       }),
-       "dmac ffff.ffff.ffff/ffff.ffff.fffe "},
-  };
-  for (const auto &c : cases) {
-    EXPECT_EQ(c.text, c.got.text);
-    EXPECT_EQ(int(std::strlen(c.text)), c.got.result) << c.text;
+  std::ifstream in(ORBISK_GOLDEN_DIR "/address_formats.txt");
+  std::size_t cases = 0;
+  for (std::string line; std::getline(in, line);) {
+    if (line.empty() || line[0] == '#') continue;
+    const std::size_t bar = line.find('|');
+    std::istringstream words(line.substr(0, bar));
+    std::string form;
+    std::vector<std::string> args;
+    words >> form;
+    for (std::string w; words >> w;) args.push_back(w);
+    const std::string text = line.substr(bar + 2, line.size() - bar - 3);
+    char out[128];
+    std::memset(out, '#', sizeof out);
+    out[sizeof out - 1] = '\0';
+    EXPECT_EQ(int(text.size()), format(form, args, out)) << line;
+    EXPECT_EQ(text.empty() ? std::string(127, '#') : text, out) << line;
+    ++cases;
   }
-  // A mask of nothing leaves the address out and the buffer as it was.
-  for (const Formatted &none :
-       {format([](char *o) { return p4_pd_orbisk_switch__print_v4addr_ternary(o, "dip", 0x01020304, 0); }),
-        format([&](char *o) {
-          return p4_pd_orbisk_switch__print_v6addr_ternary(o, "dip", a.data(), zero.data());
-        }),
-        format([](char *o) {
-          return p4_pd_orbisk_switch__print_mac_ternary(o, "dmac", 0xFFFFFF, 0, 0xFFFFFF, 0);
-        })}) {
-    EXPECT_EQ(0, none.result);
-    EXPECT_EQ(std::string(127, '#'), none.text);
-  }
+  EXPECT_EQ(15u, cases);
 }
 
 }  // namespace

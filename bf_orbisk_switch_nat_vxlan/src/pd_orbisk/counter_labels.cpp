@@ -101,10 +101,9 @@ int stringify_counter_entry(const LabelTable &l, pd_sess_hdl sess, uint8_t dev_i
   p4_pd_orbisk_switch_action_spec_u action_spec;
   bool is_default = false;
   const TableDesc &t = *l.table;
-  const pd_status status =
-      read_entry(t, __func__, sess, dev_id, entry_hdl, true,
-                 {match_spec, t.ternary() ? &priority : nullptr, nullptr, &action_spec, nullptr,
-                  &is_default});
+  const pd_status status = read_entry(
+      t, __func__, sess, dev_id, entry_hdl, true,
+      {match_spec, t.ternary() ? &priority : nullptr, nullptr, &action_spec, nullptr, &is_default});
   if (status != 0) return 0;
   return stringify_for_counter(l, match_spec, out);
 }
@@ -114,8 +113,8 @@ int stringify_counter_entry(const LabelTable &l, pd_sess_hdl sess, uint8_t dev_i
 using namespace orbisk::pd;
 
 PD_EXPORT int p4_pd_orbisk_switch_stringify_counter_matchspec(pd_sess_hdl sess_hdl, uint8_t dev_id,
-                                                             pd_tbl_hdl tbl_hdl,
-                                                             pd_entry_hdl entry_hdl, char *out) {
+                                                              pd_tbl_hdl tbl_hdl,
+                                                              pd_entry_hdl entry_hdl, char *out) {
   const unsigned t = table_slot(tbl_hdl);
   if (t == kNoSlot || kLabelsOfTable[t] == kNoLabels) return 0;
   return stringify_counter_entry(kLabelTables[kLabelsOfTable[t]], sess_hdl, dev_id, entry_hdl, out);

@@ -24,9 +24,11 @@ enum class LabelKind : uint8_t {
 };
 
 // Item options.
-inline constexpr uint8_t kLabelDecimal = 1;         // Exact: in decimal, blank-padded
-inline constexpr uint8_t kLabelValueSelected = 2;   // Named: write the selected value, not the field's
-inline constexpr uint8_t kLabelUnselectedNumber = 4;  // Named: a mask outside `select` still gives a number
+inline constexpr uint8_t kLabelDecimal = 1;  // Exact: in decimal, blank-padded
+inline constexpr uint8_t kLabelValueSelected =
+    2;  // Named: write the selected value, not the field's
+inline constexpr uint8_t kLabelUnselectedNumber =
+    4;  // Named: a mask outside `select` still gives a number
 
 // Room for the key record of any counting table, on the stack of a read.
 inline constexpr unsigned kLabelSpecRoom = 128;
@@ -38,12 +40,12 @@ struct LabelName {
 
 struct LabelItem {
   LabelKind kind;
-  uint8_t field;      // index in the table's fields (of a MAC address: the OUI half)
-  uint8_t digits;     // of a number
+  uint8_t field;   // index in the table's fields (of a MAC address: the OUI half)
+  uint8_t digits;  // of a number
   uint8_t options;
-  uint32_t select;    // Named: the bits a name is looked up by
-  uint32_t full;      // Number, Named: the mask of the short form
-  const char *text;   // the label, or a flag's whole word with its closing blank(s)
+  uint32_t select;   // Named: the bits a name is looked up by
+  uint32_t full;     // Number, Named: the mask of the short form
+  const char *text;  // the label, or a flag's whole word with its closing blank(s)
   uint16_t num_names;
   const LabelName *names;
 };

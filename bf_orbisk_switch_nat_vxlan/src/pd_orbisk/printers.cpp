@@ -129,7 +129,8 @@ PD_EXPORT int p4_pd_orbisk_switch__print_mac_ternary(char *out, const char *labe
                                                      uint32_t oui_mask, uint32_t station,
                                                      uint32_t station_mask) {
   const uint64_t mask = uint64_t(oui_mask & 0xFFFFFF) << 24 | (station_mask & 0xFFFFFF);
-  if (mask == 0xFFFFFFFFFFFFull) return p4_pd_orbisk_switch__print_mac_exact(out, label, oui, station);
+  if (mask == 0xFFFFFFFFFFFFull)
+    return p4_pd_orbisk_switch__print_mac_exact(out, label, oui, station);
   if (mask == 0) return 0;
   return sprintf(out, "%s %02x%02x.%02x%02x.%02x%02x/%02x%02x.%02x%02x.%02x%02x ", label,
                  oui >> 16 & 0xFF, oui >> 8 & 0xFF, oui & 0xFF, station >> 16 & 0xFF,

@@ -20,7 +20,8 @@ constexpr pd_status kNoProfile = 0xFFFFFFFFu;
 }  // namespace
 
 PD_EXPORT pd_status p4_pd_orbisk_switch_entry_hdl_first(pd_sess_hdl sess_hdl, pd_dev_target dev_tgt,
-                                                        pd_tbl_hdl tbl_hdl, pd_entry_hdl *entry_hdl) {
+                                                        pd_tbl_hdl tbl_hdl,
+                                                        pd_entry_hdl *entry_hdl) {
   if (table_slot(tbl_hdl) == kNoSlot) {
     *entry_hdl = kInvalidHandle;
     return 0;
@@ -38,8 +39,9 @@ PD_EXPORT pd_status p4_pd_orbisk_switch_entry_hdl_next(pd_sess_hdl sess_hdl, pd_
   return pipe_mgr_get_next_entry_handles(sess_hdl, tbl_hdl, dev_tgt, entry_hdl, n, next_entry_hdls);
 }
 
-PD_EXPORT pd_status p4_pd_orbisk_switch_entry_hdl_default(pd_sess_hdl sess_hdl, pd_dev_target dev_tgt,
-                                                          pd_tbl_hdl tbl_hdl, pd_entry_hdl *entry_hdl) {
+PD_EXPORT pd_status p4_pd_orbisk_switch_entry_hdl_default(pd_sess_hdl sess_hdl,
+                                                          pd_dev_target dev_tgt, pd_tbl_hdl tbl_hdl,
+                                                          pd_entry_hdl *entry_hdl) {
   if (table_slot(tbl_hdl) == kNoSlot) {
     *entry_hdl = kInvalidHandle;
     return 0;
@@ -47,8 +49,9 @@ PD_EXPORT pd_status p4_pd_orbisk_switch_entry_hdl_default(pd_sess_hdl sess_hdl, 
   return pipe_mgr_table_get_default_entry_handle(sess_hdl, dev_tgt, tbl_hdl, entry_hdl);
 }
 
-PD_EXPORT pd_status p4_pd_orbisk_switch_member_hdl_first(pd_sess_hdl sess_hdl, pd_dev_target dev_tgt,
-                                                         pd_tbl_hdl tbl_hdl, pd_mbr_hdl *mbr_hdl) {
+PD_EXPORT pd_status p4_pd_orbisk_switch_member_hdl_first(pd_sess_hdl sess_hdl,
+                                                         pd_dev_target dev_tgt, pd_tbl_hdl tbl_hdl,
+                                                         pd_mbr_hdl *mbr_hdl) {
   if (profile_slot(tbl_hdl) == kNoSlot) {
     *mbr_hdl = kInvalidHandle;
     return kNoProfile;
