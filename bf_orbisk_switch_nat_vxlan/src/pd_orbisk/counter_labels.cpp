@@ -92,8 +92,9 @@ int stringify_for_counter(const LabelTable &l, const void *match_spec, char *out
   return int(p - out);
 }
 
-int stringify_counter_entry(const LabelTable &l, pd_sess_hdl sess, uint8_t dev_id,
-                            pd_entry_hdl entry_hdl, char *out) {
+// Kept out of line: the dispatcher by handle forwards to it by a tail call.
+[[gnu::noinline]] int stringify_counter_entry(const LabelTable &l, pd_sess_hdl sess, uint8_t dev_id,
+                                              pd_entry_hdl entry_hdl, char *out) {
   // Room for the key of any counting table (each is checked where its items
   // are generated).
   alignas(8) uint8_t match_spec[kLabelSpecRoom];
