@@ -76,6 +76,7 @@ def main(lib, root):
         # Printers and counter labels.
         if keyed:
             add("match_spec_print", "%s%s_match_spec_print" % (P, n))
+        add("plcmt_data_print", "%s%s_plcmt_data_print" % (P, n))
         if "counter_labels" in t.get("flags", []):
             add("counter_label", "%s%s_match_spec_stringify_for_counter" % (P, n))
             add("counter_label_entry", "%s%s_stringify_counter_match_spec" % (P, n))
@@ -94,13 +95,15 @@ def main(lib, root):
             add("action_print", "%s%s_print" % (P, a))
     for p in program["profiles"]:
         add("profile_schema", "%s%s_schema" % (P, p["name"]))
+        add("adt_plcmt_data_print", "%s%s_adt_plcmt_data_print" % (P, p["name"]))
     add("cli_schema", P + "cli_schema")
     for form in ("v4addr_exact", "v4addr_lpm", "v4addr_ternary", "v6addr_exact", "v6addr_lpm",
                  "v6addr_ternary", "mac_exact", "mac_ternary"):
         add("address_print", P + "_print_" + form)
     # Dispatchers by handle.
     for s in ("entry_hdl_first", "entry_hdl_next", "entry_hdl_default", "member_hdl_first",
-              "member_hdl_next", "stringify_counter_matchspec"):
+              "member_hdl_next", "stringify_counter_matchspec", "plcmt_data_print",
+              "adt_plcmt_data_print"):
         add("dispatch", P + s)
     for p in program["profiles"]:
         for a in p["actions"]:
@@ -184,7 +187,8 @@ def main(lib, root):
              "indirect": 48, "indirect_get_entry": 6,
              "hash_calc": 120, "pvs": 70, "digest": 9, "snapshot": 4,
              "match_spec_print": 136, "action_print": 150, "address_print": 8,
-             "counter_label": 15, "counter_label_entry": 15, "dispatch": 6,
+             "counter_label": 15, "counter_label_entry": 15, "dispatch": 8,
+             "plcmt_data_print": 154, "adt_plcmt_data_print": 6,
              "plcmt_data": 154, "plcmt_decode": 154, "profile_plcmt": 24}
     failed = False
     for k, v in known.items():

@@ -176,4 +176,110 @@ TEST(Printers, AddressFormatters) {
   EXPECT_EQ(15u, cases);
 }
 
+// Placement data printed: the key as its printer writes it (none for a
+// default entry or a keyless table), then the action's full name at the
+// key's indent and its parameter lines; a selector table's entry, its key
+// alone. The dispatchers by handle say on the descriptor when a handle names
+// nothing.
+class PlacementPrint : public OnModel {
+ protected:
+  using Fetch = pd_status (*)(pd_sess_hdl, pd_dev_target, pd_tbl_hdl, uint32_t, void *, uint32_t *);
+  using Print = pd_status (*)(int, int, const void *);
+
+  // The placement record of an entry or member, and its print by name and by handle.
+  std::string printed(const std::string &name, uint32_t hdl, int indent = 2) {
+    record.assign(ORBISK_MODEL_PLACEMENT_MAX_BYTES, 0);
+    uint32_t size = uint32_t(record.size());
+    EXPECT_EQ(0u,
+              exported<Fetch>(name + "_get_plcmt_data")(sess, tgt, 0, hdl, record.data(), &size));
+    const bool profile = name.find("Profile") != std::string::npos;
+    const std::string text = captured([&](int fd) {
+      exported<Print>(name + (profile ? "_adt_plcmt_data_print" : "_plcmt_data_print"))(
+          fd, indent, record.data());
+    });
+    const pd_tbl_hdl h = profile ? handle_of_profile(name) : table(name).handle;
+    EXPECT_EQ(text, captured([&](int fd) {
+                (profile ? p4_pd_orbisk_switch_adt_plcmt_data_print
+                         : p4_pd_orbisk_switch_plcmt_data_print)(fd, indent, h, record.data());
+              }));
+    return text;
+  }
+  static pd_tbl_hdl handle_of_profile(const std::string &name) {
+    for (std::size_t i = 0; i < orbisk::pd::kNumProfiles; ++i) {
+      if (name == orbisk::pd::kProfiles[i].name) return orbisk::pd::kProfiles[i].adt_hdl;
+    }
+    return 0;
+  }
+  std::vector<uint8_t> record;
+};
+
+TEST_F(PlacementPrint, KeyThenActionAndTheShortForms) {
+  p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec_t route{3, 0x0A010200, 24};
+  const p4_pd_orbisk_switch_setNextHop_action_spec_t nh = {42};
+  pd_entry_hdl e;
+  ASSERT_EQ(0u, p4_pd_orbisk_switch_ipv4ShortMaskLpm_table_add_with_setNextHop(sess, tgt, &route,
+                                                                               &nh, &e));
+  EXPECT_EQ(captured([&](int fd) {
+              p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec_print(fd, 2, &route);
+            }) + "  p4_pd_orbisk_switch_setNextHop:\n" +
+                captured([&](int fd) { p4_pd_orbisk_switch_setNextHop_print(fd, 2, &nh); }),
+            printed("ipv4ShortMaskLpm", e));
+  // The default entry and a keyless table: the action alone.
+  ASSERT_EQ(0u, p4_pd_orbisk_switch_ipv4ShortMaskLpm_set_default_action_ipv4ShortMaskLpmMiss(
+                    sess, tgt, &e));
+  EXPECT_EQ("p4_pd_orbisk_switch_ipv4ShortMaskLpmMiss:\n", printed("ipv4ShortMaskLpm", e, 0));
+  ASSERT_EQ(0u, p4_pd_orbisk_switch_vlanDecap_set_default_action_removeVlanHdr(sess, tgt, &e));
+  EXPECT_EQ("   p4_pd_orbisk_switch_removeVlanHdr:\n", printed("vlanDecap", e, 3));
+  // A member, and a selector table's entry naming it: its key alone.
+  const p4_pd_orbisk_switch_setEcmpNextHop_action_spec_t m = {1, 7};
+  pd_mbr_hdl mbr;
+  ASSERT_EQ(0u, p4_pd_orbisk_switch_ecmpMemberActionProfile_add_member_with_setEcmpNextHop(
+                    sess, tgt, &m, &mbr));
+  EXPECT_EQ(
+      "p4_pd_orbisk_switch_setEcmpNextHop:\n  action_nextHopTable: 0x01\n  action_nextHop: "
+      "0x00000007\n",
+      printed("ecmpMemberActionProfile", mbr, 0));
+  const p4_pd_orbisk_switch_ecmpGroup_match_spec_t key = {0x12};
+  ASSERT_EQ(0u, p4_pd_orbisk_switch_ecmpGroup_add_entry(sess, tgt, &key, mbr, &e));
+  EXPECT_EQ("p4_pd_orbisk_switch_ecmpGroup_match_spec_t:\n  l3_nextHop mask 0xff: 0x0012\n",
+            printed("ecmpGroup", e, 0));
+}
+
+TEST_F(PlacementPrint, WhatCannotBeDecodedOrNamesNothing) {
+  const std::vector<uint8_t> junk(ORBISK_MODEL_PLACEMENT_MAX_BYTES, 0);
+  pd_status st = 0;
+  EXPECT_EQ("cannot decode plcmt_data for p4_pd_orbisk_switch_ipv4Host\n", captured([&](int fd) {
+              st = p4_pd_orbisk_switch_ipv4Host_plcmt_data_print(fd, 4, junk.data());
+            }));
+  EXPECT_EQ(ORBISK_MODEL_PLACEMENT_FOREIGN, st);
+  EXPECT_EQ("cannot decode plcmt_data for p4_pd_orbisk_switch_ecmpMemberActionProfile\n",
+            captured([&](int fd) {
+              st = p4_pd_orbisk_switch_ecmpMemberActionProfile_adt_plcmt_data_print(fd, 4,
+                                                                                    junk.data());
+            }));
+  // A member's decoder goes by the action handle it was left: none here.
+  EXPECT_EQ(15u, st);
+  // Table handles to the profile dispatcher and the reverse, the free
+  // handle and the ends of both ranges: one line, and its length.
+  const pd_tbl_hdl table_hdl = table("ipv4Host").handle,
+                   adt = handle_of_profile("ecmpMemberActionProfile");
+  for (pd_tbl_hdl h : {pd_tbl_hdl(0x01000055), pd_tbl_hdl(0x01000000), pd_tbl_hdl(0x01000076),
+                       pd_tbl_hdl(0x11010002), pd_tbl_hdl(0x11010029), adt}) {
+    int n = 0;
+    char line[64];
+    snprintf(line, sizeof line, "0x%08x table not found\n", h);
+    EXPECT_EQ(line, captured([&](int fd) {
+                n = p4_pd_orbisk_switch_plcmt_data_print(fd, 2, h, junk.data());
+              }));
+    EXPECT_EQ(int(std::strlen(line)), n);
+  }
+  for (pd_tbl_hdl h : {table_hdl, pd_tbl_hdl(0x02000000), pd_tbl_hdl(0x0300001d)}) {
+    char line[64];
+    snprintf(line, sizeof line, "0x%08x table not found\n", h);
+    EXPECT_EQ(line, captured([&](int fd) {
+                p4_pd_orbisk_switch_adt_plcmt_data_print(fd, 2, h, junk.data());
+              }));
+  }
+}
+
 }  // namespace

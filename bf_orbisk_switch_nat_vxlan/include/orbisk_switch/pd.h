@@ -125,6 +125,9 @@
  *      selector, the member or group it names; flags untouched for neither).
  *      A keyless table says is-default for every record; 3 for an action not
  *      the table's.
+ *  <t>_plcmt_data_print(file descriptor, indent, placement data): decodes the
+ *      placement data and writes its key (none for a default entry) and
+ *      action to fd; 0, or the decoder's status after a line saying so.
  *  <t>_match_spec_stringify_for_counter(match spec, out text): writes the
  *      counting table's label of the key record and a NUL; its length.
  *  <t>_stringify_counter_match_spec(sess, device id, entry handle, out text):
@@ -218,6 +221,9 @@
  *      placement data, out action): the same, asking the member-selection
  *      state for the member's resources first (an action with parameters);
  *      what it answers is not used.
+ *  <r>_adt_plcmt_data_print(file descriptor, indent, placement data): decodes
+ *      a member's placement data and writes its action to fd; 0, or the
+ *      decoder's status after a line saying so.
  *  <a>_print(file descriptor, indent, action spec): writes the action's
  *      parameters to fd, one line each.
  *  <a>_schema(): the action tuple: a constant NUL-terminated text.
@@ -1698,6 +1704,16 @@ void p4_pd_orbisk_switch_ha_restore_state_from_adt_sel(pd_sess_hdl sess_hdl,
 const char *p4_pd_orbisk_switch_action_enum_to_string(uint32_t action);
 /* Action of a full name; P4_PD_ORBISK_SWITCH_ACTION_COUNT for none. */
 p4_pd_orbisk_switch_action_names_t p4_pd_orbisk_switch_action_string_to_enum(const char *name);
+/* The placement print of the table with this handle; for any other, a line saying so and that write's result. */
+int p4_pd_orbisk_switch_plcmt_data_print(int fd,
+    int indent,
+    pd_tbl_hdl tbl_hdl,
+    const void *plcmt_data);
+/* The placement print of the profile with this action data table handle; for any other, a line saying so and that write's result. */
+int p4_pd_orbisk_switch_adt_plcmt_data_print(int fd,
+    int indent,
+    pd_tbl_hdl tbl_hdl,
+    const void *plcmt_data);
 /* "<label> a.b.c.d "; its length. */
 int p4_pd_orbisk_switch__print_v4addr_exact(char *out,
     const char *label,
@@ -1865,6 +1881,9 @@ pd_status p4_pd_orbisk_switch_ingressPortMapping_get_entry_from_plcmt_data(const
     p4_pd_orbisk_switch_ingressPortMapping_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ingressPortMapping_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* l2DomainLookup: table 0x01000004, pipeline A, ternary match, 6 key bytes (28 bits) */
 typedef struct p4_pd_orbisk_switch_l2DomainLookup_match_spec {
@@ -2016,6 +2035,9 @@ pd_status p4_pd_orbisk_switch_l2DomainLookup_get_entry_from_plcmt_data(const voi
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_l2DomainLookup_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* taggedXlatePktToL3: table 0x01000005, pipeline A, exact match, 4 key bytes (26 bits) */
 typedef struct p4_pd_orbisk_switch_taggedXlatePktToL3_match_spec {
@@ -2122,6 +2144,9 @@ pd_status p4_pd_orbisk_switch_taggedXlatePktToL3_get_entry_from_plcmt_data(const
     p4_pd_orbisk_switch_taggedXlatePktToL3_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_taggedXlatePktToL3_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* taggedPktToL3: table 0x01000007, pipeline A, exact match, 2 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_taggedPktToL3_match_spec {
@@ -2226,6 +2251,9 @@ pd_status p4_pd_orbisk_switch_taggedPktToL3_get_entry_from_plcmt_data(const void
     p4_pd_orbisk_switch_taggedPktToL3_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_taggedPktToL3_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* untaggedPktToL3: table 0x01000006, pipeline A, exact match, 2 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_untaggedPktToL3_match_spec {
@@ -2330,6 +2358,9 @@ pd_status p4_pd_orbisk_switch_untaggedPktToL3_get_entry_from_plcmt_data(const vo
     p4_pd_orbisk_switch_untaggedPktToL3_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_untaggedPktToL3_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ingStpCheck: table 0x0100000b, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_ingStpCheck_get_entry(pd_sess_hdl sess_hdl,
@@ -2388,6 +2419,9 @@ pd_status p4_pd_orbisk_switch_ingStpCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
 pd_status p4_pd_orbisk_switch_ingStpCheck_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ingStpCheck_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ingVlanCheck: table 0x0100000c, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_ingVlanCheck_get_entry(pd_sess_hdl sess_hdl,
@@ -2446,6 +2480,9 @@ pd_status p4_pd_orbisk_switch_ingVlanCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
 pd_status p4_pd_orbisk_switch_ingVlanCheck_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ingVlanCheck_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* vlanProperties: table 0x01000018, pipeline A, exact match, 2 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_vlanProperties_match_spec {
@@ -2541,6 +2578,9 @@ pd_status p4_pd_orbisk_switch_vlanProperties_get_entry_from_plcmt_data(const voi
     p4_pd_orbisk_switch_vlanProperties_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_vlanProperties_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ingressPortDropCheck: table 0x01000010, pipeline A, ternary match, 7 key bytes (17 bits), entries carry ingressPortDropCount */
 typedef struct p4_pd_orbisk_switch_ingressPortDropCheck_match_spec {
@@ -2667,6 +2707,9 @@ pd_status p4_pd_orbisk_switch_ingressPortDropCheck_get_entry_from_plcmt_data(con
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ingressPortDropCheck_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_t *match_spec,
     char *out);
 int p4_pd_orbisk_switch_ingressPortDropCheck_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
@@ -2766,6 +2809,9 @@ pd_status p4_pd_orbisk_switch_ingL2DomainCount_get_entry_from_plcmt_data(const v
     p4_pd_orbisk_switch_ingL2DomainCount_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ingL2DomainCount_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_ingL2DomainCount_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_ingL2DomainCount_match_spec_t *match_spec,
     char *out);
 int p4_pd_orbisk_switch_ingL2DomainCount_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
@@ -2865,6 +2911,9 @@ pd_status p4_pd_orbisk_switch_egrL2DomainCount_get_entry_from_plcmt_data(const v
     p4_pd_orbisk_switch_egrL2DomainCount_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_egrL2DomainCount_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_egrL2DomainCount_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_egrL2DomainCount_match_spec_t *match_spec,
     char *out);
 int p4_pd_orbisk_switch_egrL2DomainCount_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
@@ -2990,6 +3039,9 @@ pd_status p4_pd_orbisk_switch_egressVlanXlate_get_entry_from_plcmt_data(const vo
     p4_pd_orbisk_switch_egressVlanXlate_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_egressVlanXlate_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* egrStpCheck: table 0x01000071, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_egrStpCheck_get_entry(pd_sess_hdl sess_hdl,
@@ -3048,6 +3100,9 @@ pd_status p4_pd_orbisk_switch_egrStpCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
 pd_status p4_pd_orbisk_switch_egrStpCheck_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_egrStpCheck_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* egrVlanCheck: table 0x01000072, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_egrVlanCheck_get_entry(pd_sess_hdl sess_hdl,
@@ -3106,6 +3161,9 @@ pd_status p4_pd_orbisk_switch_egrVlanCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
 pd_status p4_pd_orbisk_switch_egrVlanCheck_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_egrVlanCheck_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* vlanEncap: table 0x01000073, pipeline A, exact match, 5 key bytes (22 bits) */
 typedef struct p4_pd_orbisk_switch_vlanEncap_match_spec {
@@ -3211,6 +3269,9 @@ pd_status p4_pd_orbisk_switch_vlanEncap_get_entry_from_plcmt_data(const void *pl
     p4_pd_orbisk_switch_vlanEncap_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_vlanEncap_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* vlanDecap: table 0x11010026, pipeline B, no key */
 pd_status p4_pd_orbisk_switch_vlanDecap_get_entry(pd_sess_hdl sess_hdl,
@@ -3269,6 +3330,9 @@ pd_status p4_pd_orbisk_switch_vlanDecap_get_plcmt_data(pd_sess_hdl sess_hdl,
 pd_status p4_pd_orbisk_switch_vlanDecap_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_vlanDecap_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* copyOverlayL2Domain: table 0x0100006b, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_copyOverlayL2Domain_get_entry(pd_sess_hdl sess_hdl,
@@ -3327,6 +3391,9 @@ pd_status p4_pd_orbisk_switch_copyOverlayL2Domain_get_plcmt_data(pd_sess_hdl ses
 pd_status p4_pd_orbisk_switch_copyOverlayL2Domain_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_copyOverlayL2Domain_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* srcIntfToOvoIntf: table 0x0100006a, pipeline A, exact match, 2 key bytes (9 bits) */
 typedef struct p4_pd_orbisk_switch_srcIntfToOvoIntf_match_spec {
@@ -3435,6 +3502,9 @@ pd_status p4_pd_orbisk_switch_srcIntfToOvoIntf_get_entry_from_plcmt_data(const v
     p4_pd_orbisk_switch_srcIntfToOvoIntf_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_srcIntfToOvoIntf_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* egrIntfToOvoIntf: table 0x0100006f, pipeline A, exact match, 3 key bytes (20 bits) */
 typedef struct p4_pd_orbisk_switch_egrIntfToOvoIntf_match_spec {
@@ -3580,6 +3650,9 @@ pd_status p4_pd_orbisk_switch_egrIntfToOvoIntf_get_entry_from_plcmt_data(const v
     p4_pd_orbisk_switch_egrIntfToOvoIntf_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_egrIntfToOvoIntf_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ovoIntfToPhysical: table 0x0100002a, pipeline A, ternary match, 6 key bytes (29 bits) */
 typedef struct p4_pd_orbisk_switch_ovoIntfToPhysical_match_spec {
@@ -3725,6 +3798,9 @@ pd_status p4_pd_orbisk_switch_ovoIntfToPhysical_get_entry_from_plcmt_data(const 
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ovoIntfToPhysical_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* egressPortDropCheck: table 0x01000074, pipeline A, ternary match, 9 key bytes (23 bits), entries carry egressPortDropCount */
 typedef struct p4_pd_orbisk_switch_egressPortDropCheck_match_spec {
@@ -3860,6 +3936,9 @@ pd_status p4_pd_orbisk_switch_egressPortDropCheck_get_entry_from_plcmt_data(cons
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_egressPortDropCheck_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_egressPortDropCheck_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_egressPortDropCheck_match_spec_t *match_spec,
     char *out);
 int p4_pd_orbisk_switch_egressPortDropCheck_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
@@ -3969,6 +4048,9 @@ pd_status p4_pd_orbisk_switch_egressSamePortBridgingTest_get_entry_from_plcmt_da
     p4_pd_orbisk_switch_egressSamePortBridgingTest_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_egressSamePortBridgingTest_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* samePortBridgingTest: table 0x0100004f, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_samePortBridgingTest_get_entry(pd_sess_hdl sess_hdl,
@@ -4027,6 +4109,9 @@ pd_status p4_pd_orbisk_switch_samePortBridgingTest_get_plcmt_data(pd_sess_hdl se
 pd_status p4_pd_orbisk_switch_samePortBridgingTest_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_samePortBridgingTest_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* mlagUcastPrune: table 0x01000050, pipeline A, exact match, 3 key bytes (20 bits) */
 typedef struct p4_pd_orbisk_switch_mlagUcastPrune_match_spec {
@@ -4128,6 +4213,9 @@ pd_status p4_pd_orbisk_switch_mlagUcastPrune_get_entry_from_plcmt_data(const voi
     p4_pd_orbisk_switch_mlagUcastPrune_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_mlagUcastPrune_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ================================================================== */
 /* L2 forwarding and learning */
@@ -4327,6 +4415,9 @@ pd_status p4_pd_orbisk_switch_l2DmacClassify_get_entry_from_plcmt_data(const voi
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_l2DmacClassify_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_l2DmacClassify_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_l2DmacClassify_match_spec_t *match_spec,
     char *out);
 int p4_pd_orbisk_switch_l2DmacClassify_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
@@ -4448,6 +4539,9 @@ pd_status p4_pd_orbisk_switch_l2SmacCheck_get_entry_from_plcmt_data(const void *
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_l2SmacCheck_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* l2StaticMacSrcAddrDrop: table 0x01000013, pipeline A, exact match, 8 key bytes (60 bits) */
 typedef struct p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_match_spec {
@@ -4553,6 +4647,9 @@ pd_status p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_get_entry_from_plcmt_data(c
     p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* l2LearningLookup: table 0x01000014, pipeline A, exact match, 11 key bytes (80 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_l2LearningLookup_match_spec {
@@ -4693,6 +4790,9 @@ pd_status p4_pd_orbisk_switch_l2LearningLookup_get_entry_from_plcmt_data(const v
     p4_pd_orbisk_switch_l2LearningLookup_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_l2LearningLookup_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* l2Lookup: table 0x0100002f, pipeline A, exact match, 8 key bytes (60 bits) */
 typedef struct p4_pd_orbisk_switch_l2Lookup_match_spec {
@@ -4837,6 +4937,9 @@ pd_status p4_pd_orbisk_switch_l2Lookup_get_entry_from_plcmt_data(const void *plc
     p4_pd_orbisk_switch_l2Lookup_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_l2Lookup_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* l2LookupMiss: table 0x01000030, pipeline A, ternary match, 8 key bytes (57 bits), entries carry stormControlMeter */
 typedef struct p4_pd_orbisk_switch_l2LookupMiss_match_spec {
@@ -4992,6 +5095,9 @@ pd_status p4_pd_orbisk_switch_l2LookupMiss_get_entry_from_plcmt_data(const void 
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_l2LookupMiss_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* l2ForwardParams: table 0x01000017, pipeline A, exact match, 1 key bytes (1 bits) */
 typedef struct p4_pd_orbisk_switch_l2ForwardParams_match_spec {
@@ -5087,6 +5193,9 @@ pd_status p4_pd_orbisk_switch_l2ForwardParams_get_entry_from_plcmt_data(const vo
     p4_pd_orbisk_switch_l2ForwardParams_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_l2ForwardParams_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* l2XRemap: table 0x11010007, pipeline B, exact match, 2 key bytes (9 bits) */
 typedef struct p4_pd_orbisk_switch_l2XRemap_match_spec {
@@ -5182,6 +5291,9 @@ pd_status p4_pd_orbisk_switch_l2XRemap_get_entry_from_plcmt_data(const void *plc
     p4_pd_orbisk_switch_l2XRemap_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_l2XRemap_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* learningDigestGeneration: table 0x0100003b, pipeline A, ternary match, 10 key bytes (35 bits) */
 typedef struct p4_pd_orbisk_switch_learningDigestGeneration_match_spec {
@@ -5347,6 +5459,9 @@ pd_status p4_pd_orbisk_switch_learningDigestGeneration_get_entry_from_plcmt_data
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_learningDigestGeneration_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* bridgeToEA: table 0x11010024, pipeline B, no key */
 pd_status p4_pd_orbisk_switch_bridgeToEA_get_entry(pd_sess_hdl sess_hdl,
@@ -5405,6 +5520,9 @@ pd_status p4_pd_orbisk_switch_bridgeToEA_get_plcmt_data(pd_sess_hdl sess_hdl,
 pd_status p4_pd_orbisk_switch_bridgeToEA_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_bridgeToEA_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ================================================================== */
 /* IP routing tables */
@@ -5545,6 +5663,9 @@ pd_status p4_pd_orbisk_switch_l3DmacCheck_get_entry_from_plcmt_data(const void *
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_l3DmacCheck_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* vrrpMacCheck: table 0x01000012, pipeline A, exact match, 8 key bytes (60 bits) */
 typedef struct p4_pd_orbisk_switch_vrrpMacCheck_match_spec {
@@ -5650,6 +5771,9 @@ pd_status p4_pd_orbisk_switch_vrrpMacCheck_get_entry_from_plcmt_data(const void 
     p4_pd_orbisk_switch_vrrpMacCheck_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_vrrpMacCheck_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ipv4Host: table 0x11010008, pipeline B, exact match, 5 key bytes (40 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv4Host_match_spec {
@@ -5826,6 +5950,9 @@ pd_status p4_pd_orbisk_switch_ipv4Host_get_entry_from_plcmt_data(const void *plc
     p4_pd_orbisk_switch_ipv4Host_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ipv4Host_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ipv4ShortMaskLpm: table 0x1101000c, pipeline B, longest prefix match, 5 key bytes (40 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec {
@@ -6005,6 +6132,9 @@ pd_status p4_pd_orbisk_switch_ipv4ShortMaskLpm_get_entry_from_plcmt_data(const v
     p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ipv4ShortMaskLpm_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ipv4Partition0: table 0x1101000a, pipeline B, longest prefix match, 5 key bytes (40 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv4Partition0_match_spec {
@@ -6145,6 +6275,9 @@ pd_status p4_pd_orbisk_switch_ipv4Partition0_get_entry_from_plcmt_data(const voi
     p4_pd_orbisk_switch_ipv4Partition0_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ipv4Partition0_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ipv4FinalResolve0: table 0x1101000b, pipeline B, partitioned longest prefix match, 6 key bytes (48 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv4FinalResolve0_match_spec {
@@ -6324,6 +6457,9 @@ pd_status p4_pd_orbisk_switch_ipv4FinalResolve0_get_entry_from_plcmt_data(const 
     p4_pd_orbisk_switch_ipv4FinalResolve0_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ipv4FinalResolve0_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ipv6Host: table 0x01000022, pipeline A, exact match, 17 key bytes (136 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv6Host_match_spec {
@@ -6500,6 +6636,9 @@ pd_status p4_pd_orbisk_switch_ipv6Host_get_entry_from_plcmt_data(const void *plc
     p4_pd_orbisk_switch_ipv6Host_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ipv6Host_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ipv6ShortMaskLpm: table 0x0100002e, pipeline A, longest prefix match, 17 key bytes (136 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv6ShortMaskLpm_match_spec {
@@ -6679,6 +6818,9 @@ pd_status p4_pd_orbisk_switch_ipv6ShortMaskLpm_get_entry_from_plcmt_data(const v
     p4_pd_orbisk_switch_ipv6ShortMaskLpm_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ipv6ShortMaskLpm_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ipv6Partition: table 0x0100002d, pipeline A, longest prefix match, 17 key bytes (136 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv6Partition_match_spec {
@@ -6858,6 +7000,9 @@ pd_status p4_pd_orbisk_switch_ipv6Partition_get_entry_from_plcmt_data(const void
     p4_pd_orbisk_switch_ipv6Partition_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ipv6Partition_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ipv6FinalResolve: table 0x01000031, pipeline A, partitioned longest prefix match, 18 key bytes (144 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv6FinalResolve_match_spec {
@@ -7037,6 +7182,9 @@ pd_status p4_pd_orbisk_switch_ipv6FinalResolve_get_entry_from_plcmt_data(const v
     p4_pd_orbisk_switch_ipv6FinalResolve_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ipv6FinalResolve_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ipv6LgMaskPartition0: table 0x01000023, pipeline A, longest prefix match, 17 key bytes (136 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv6LgMaskPartition0_match_spec {
@@ -7177,6 +7325,9 @@ pd_status p4_pd_orbisk_switch_ipv6LgMaskPartition0_get_entry_from_plcmt_data(con
     p4_pd_orbisk_switch_ipv6LgMaskPartition0_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ipv6LgMaskPartition0_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ipv6LgMaskFinalResolve0: table 0x0100002c, pipeline A, partitioned longest prefix match, 18 key bytes (144 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_match_spec {
@@ -7356,6 +7507,9 @@ pd_status p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_get_entry_from_plcmt_data(
     p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ================================================================== */
 /* Next hops and load balancing */
@@ -7476,6 +7630,9 @@ pd_status p4_pd_orbisk_switch_ecmpGroup_get_entry_from_plcmt_data(const void *pl
     bool *has_mbr,
     bool *has_grp,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ecmpGroup_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* reservedNextHop: table 0x1101000e, pipeline B, exact match, 2 key bytes (15 bits) */
 typedef struct p4_pd_orbisk_switch_reservedNextHop_match_spec {
@@ -7580,6 +7737,9 @@ pd_status p4_pd_orbisk_switch_reservedNextHop_get_entry_from_plcmt_data(const vo
     p4_pd_orbisk_switch_reservedNextHop_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_reservedNextHop_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* nextHop0: table 0x1101000f, pipeline B, exact match, 2 key bytes (15 bits) */
 typedef struct p4_pd_orbisk_switch_nextHop0_match_spec {
@@ -7675,6 +7835,9 @@ pd_status p4_pd_orbisk_switch_nextHop0_get_entry_from_plcmt_data(const void *plc
     p4_pd_orbisk_switch_nextHop0_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_nextHop0_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* routerNextHop0: table 0x11010010, pipeline B, exact match, 2 key bytes (15 bits) */
 typedef struct p4_pd_orbisk_switch_routerNextHop0_match_spec {
@@ -7770,6 +7933,9 @@ pd_status p4_pd_orbisk_switch_routerNextHop0_get_entry_from_plcmt_data(const voi
     p4_pd_orbisk_switch_routerNextHop0_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_routerNextHop0_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* lagGroup: table 0x11010023, pipeline B, ternary match, 3 key bytes (20 bits), entries name a member or group of lagPortActionProfile */
 typedef struct p4_pd_orbisk_switch_lagGroup_match_spec {
@@ -7897,6 +8063,9 @@ pd_status p4_pd_orbisk_switch_lagGroup_get_entry_from_plcmt_data(const void *plc
     bool *has_mbr,
     bool *has_grp,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_lagGroup_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ecmpHashSelection: table 0x01000043, pipeline A, ternary match, 9 key bytes (9 bits) */
 typedef struct p4_pd_orbisk_switch_ecmpHashSelection_match_spec {
@@ -8081,6 +8250,9 @@ pd_status p4_pd_orbisk_switch_ecmpHashSelection_get_entry_from_plcmt_data(const 
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ecmpHashSelection_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* lagHashSelection: table 0x01000042, pipeline A, ternary match, 10 key bytes (10 bits) */
 typedef struct p4_pd_orbisk_switch_lagHashSelection_match_spec {
@@ -8280,6 +8452,9 @@ pd_status p4_pd_orbisk_switch_lagHashSelection_get_entry_from_plcmt_data(const v
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_lagHashSelection_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* hashComputeInnerIpHdr: table 0x01000002, pipeline A, exact match, 2 key bytes (2 bits) */
 typedef struct p4_pd_orbisk_switch_hashComputeInnerIpHdr_match_spec {
@@ -8393,6 +8568,9 @@ pd_status p4_pd_orbisk_switch_hashComputeInnerIpHdr_get_entry_from_plcmt_data(co
     p4_pd_orbisk_switch_hashComputeInnerIpHdr_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_hashComputeInnerIpHdr_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* hashComputeOuterIpv4Hdr: table 0x01000037, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_get_entry(pd_sess_hdl sess_hdl,
@@ -8451,6 +8629,9 @@ pd_status p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_get_plcmt_data(pd_sess_hdl
 pd_status p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* hashComputeOuterIpv6Hdr: table 0x01000038, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_get_entry(pd_sess_hdl sess_hdl,
@@ -8509,6 +8690,9 @@ pd_status p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_get_plcmt_data(pd_sess_hdl
 pd_status p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* hashComputeInnerEthHdr: table 0x01000039, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_hashComputeInnerEthHdr_get_entry(pd_sess_hdl sess_hdl,
@@ -8567,6 +8751,9 @@ pd_status p4_pd_orbisk_switch_hashComputeInnerEthHdr_get_plcmt_data(pd_sess_hdl 
 pd_status p4_pd_orbisk_switch_hashComputeInnerEthHdr_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_hashComputeInnerEthHdr_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* hashComputeIpAndL4Hdr: table 0x0100003e, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_get_entry(pd_sess_hdl sess_hdl,
@@ -8625,6 +8812,9 @@ pd_status p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_get_plcmt_data(pd_sess_hdl s
 pd_status p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* hashFromCpuHdr: table 0x01000041, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_hashFromCpuHdr_get_entry(pd_sess_hdl sess_hdl,
@@ -8683,6 +8873,9 @@ pd_status p4_pd_orbisk_switch_hashFromCpuHdr_get_plcmt_data(pd_sess_hdl sess_hdl
 pd_status p4_pd_orbisk_switch_hashFromCpuHdr_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_hashFromCpuHdr_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ================================================================== */
 /* Multicast */
@@ -8824,6 +9017,9 @@ pd_status p4_pd_orbisk_switch_ipv4McGroupVlan_get_entry_from_plcmt_data(const vo
     p4_pd_orbisk_switch_ipv4McGroupVlan_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ipv4McGroupVlan_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ipv4McSourceGroupVlan: table 0x0100004e, pipeline A, exact match, 6 key bytes (48 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv4McSourceGroupVlan_match_spec {
@@ -8961,6 +9157,9 @@ pd_status p4_pd_orbisk_switch_ipv4McSourceGroupVlan_get_entry_from_plcmt_data(co
     p4_pd_orbisk_switch_ipv4McSourceGroupVlan_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ipv4McSourceGroupVlan_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* l2Multicast: table 0x01000040, pipeline A, exact match, 8 key bytes (60 bits) */
 typedef struct p4_pd_orbisk_switch_l2Multicast_match_spec {
@@ -9069,6 +9268,9 @@ pd_status p4_pd_orbisk_switch_l2Multicast_get_entry_from_plcmt_data(const void *
     p4_pd_orbisk_switch_l2Multicast_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_l2Multicast_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* finalizeMcResult: table 0x01000053, pipeline A, ternary match, 9 key bytes (26 bits) */
 typedef struct p4_pd_orbisk_switch_finalizeMcResult_match_spec {
@@ -9280,6 +9482,9 @@ pd_status p4_pd_orbisk_switch_finalizeMcResult_get_entry_from_plcmt_data(const v
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_finalizeMcResult_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* egressMcRemap: table 0x01000060, pipeline A, exact match, 2 key bytes (16 bits) */
 typedef struct p4_pd_orbisk_switch_egressMcRemap_match_spec {
@@ -9384,6 +9589,9 @@ pd_status p4_pd_orbisk_switch_egressMcRemap_get_entry_from_plcmt_data(const void
     p4_pd_orbisk_switch_egressMcRemap_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_egressMcRemap_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* mcastPrune: table 0x11010028, pipeline B, ternary match, 8 key bytes (42 bits) */
 typedef struct p4_pd_orbisk_switch_mcastPrune_match_spec {
@@ -9554,6 +9762,9 @@ pd_status p4_pd_orbisk_switch_mcastPrune_get_entry_from_plcmt_data(const void *p
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_mcastPrune_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ================================================================== */
 /* VXLAN and tunnels */
@@ -9696,6 +9907,9 @@ pd_status p4_pd_orbisk_switch_tunnelTermination_get_entry_from_plcmt_data(const 
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_tunnelTermination_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* vxlanL2AintfLookup: table 0x01000008, pipeline A, exact match, 4 key bytes (32 bits) */
 typedef struct p4_pd_orbisk_switch_vxlanL2AintfLookup_match_spec {
@@ -9830,6 +10044,9 @@ pd_status p4_pd_orbisk_switch_vxlanL2AintfLookup_get_entry_from_plcmt_data(const
     p4_pd_orbisk_switch_vxlanL2AintfLookup_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_vxlanL2AintfLookup_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* vxlanVniResolution: table 0x01000009, pipeline A, exact match, 4 key bytes (27 bits) */
 typedef struct p4_pd_orbisk_switch_vxlanVniResolution_match_spec {
@@ -9955,6 +10172,9 @@ pd_status p4_pd_orbisk_switch_vxlanVniResolution_get_entry_from_plcmt_data(const
     p4_pd_orbisk_switch_vxlanVniResolution_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_vxlanVniResolution_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* vxlanVarp: table 0x01000034, pipeline A, ternary match, 8 key bytes (50 bits) */
 typedef struct p4_pd_orbisk_switch_vxlanVarp_match_spec {
@@ -10074,6 +10294,9 @@ pd_status p4_pd_orbisk_switch_vxlanVarp_get_entry_from_plcmt_data(const void *pl
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_vxlanVarp_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* vxlanArp: table 0x01000035, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_vxlanArp_get_entry(pd_sess_hdl sess_hdl,
@@ -10132,6 +10355,9 @@ pd_status p4_pd_orbisk_switch_vxlanArp_get_plcmt_data(pd_sess_hdl sess_hdl,
 pd_status p4_pd_orbisk_switch_vxlanArp_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_vxlanArp_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* tunnelDip0: table 0x0100005c, pipeline A, exact match, 4 key bytes (32 bits) */
 typedef struct p4_pd_orbisk_switch_tunnelDip0_match_spec {
@@ -10227,6 +10453,9 @@ pd_status p4_pd_orbisk_switch_tunnelDip0_get_entry_from_plcmt_data(const void *p
     p4_pd_orbisk_switch_tunnelDip0_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_tunnelDip0_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* tunnelVniAndVti: table 0x0100005f, pipeline A, exact match, 2 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_tunnelVniAndVti_match_spec {
@@ -10331,6 +10560,9 @@ pd_status p4_pd_orbisk_switch_tunnelVniAndVti_get_entry_from_plcmt_data(const vo
     p4_pd_orbisk_switch_tunnelVniAndVti_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_tunnelVniAndVti_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* tunnelL2Info: table 0x01000066, pipeline A, exact match, 4 key bytes (32 bits) */
 typedef struct p4_pd_orbisk_switch_tunnelL2Info_match_spec {
@@ -10435,6 +10667,9 @@ pd_status p4_pd_orbisk_switch_tunnelL2Info_get_entry_from_plcmt_data(const void 
     p4_pd_orbisk_switch_tunnelL2Info_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_tunnelL2Info_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* tunnelResolve: table 0x1101001f, pipeline B, exact match, 2 key bytes (10 bits), entries name a member or group of tunnelMemberActionProfile */
 typedef struct p4_pd_orbisk_switch_tunnelResolve_match_spec {
@@ -10551,6 +10786,9 @@ pd_status p4_pd_orbisk_switch_tunnelResolve_get_entry_from_plcmt_data(const void
     bool *has_mbr,
     bool *has_grp,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_tunnelResolve_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* encapDecap: table 0x01000067, pipeline A, ternary match, 9 key bytes (41 bits) */
 typedef struct p4_pd_orbisk_switch_encapDecap_match_spec {
@@ -10763,6 +11001,9 @@ pd_status p4_pd_orbisk_switch_encapDecap_get_entry_from_plcmt_data(const void *p
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_encapDecap_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* decapIngress: table 0x01000049, pipeline A, exact match, 3 key bytes (5 bits) */
 typedef struct p4_pd_orbisk_switch_decapIngress_match_spec {
@@ -10908,6 +11149,9 @@ pd_status p4_pd_orbisk_switch_decapIngress_get_entry_from_plcmt_data(const void 
     p4_pd_orbisk_switch_decapIngress_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_decapIngress_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* globalFields: table 0x01000064, pipeline A, ternary match, 8 key bytes (40 bits) */
 typedef struct p4_pd_orbisk_switch_globalFields_match_spec {
@@ -11064,6 +11308,9 @@ pd_status p4_pd_orbisk_switch_globalFields_get_entry_from_plcmt_data(const void 
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_globalFields_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ================================================================== */
 /* NAT */
@@ -11163,6 +11410,9 @@ pd_status p4_pd_orbisk_switch_ingressNatProfile_get_entry_from_plcmt_data(const 
     p4_pd_orbisk_switch_ingressNatProfile_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ingressNatProfile_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* staticDnatAcl: table 0x01000025, pipeline A, ternary match, 6 key bytes (41 bits) */
 typedef struct p4_pd_orbisk_switch_staticDnatAcl_match_spec {
@@ -11284,6 +11534,9 @@ pd_status p4_pd_orbisk_switch_staticDnatAcl_get_entry_from_plcmt_data(const void
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_staticDnatAcl_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* addrPortDnat: table 0x01000026, pipeline A, exact match, 9 key bytes (68 bits), entries carry staticDnatCounters */
 typedef struct p4_pd_orbisk_switch_addrPortDnat_match_spec {
@@ -11433,6 +11686,9 @@ pd_status p4_pd_orbisk_switch_addrPortDnat_get_entry_from_plcmt_data(const void 
     p4_pd_orbisk_switch_addrPortDnat_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_addrPortDnat_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_addrPortDnat_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_addrPortDnat_match_spec_t *match_spec,
     char *out);
 int p4_pd_orbisk_switch_addrPortDnat_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
@@ -11560,6 +11816,9 @@ pd_status p4_pd_orbisk_switch_addrOnlyDnat_get_entry_from_plcmt_data(const void 
     p4_pd_orbisk_switch_addrOnlyDnat_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_addrOnlyDnat_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* dynamicDnat1: table 0x01000021, pipeline A, exact match, 14 key bytes (112 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_dynamicDnat1_match_spec {
@@ -11718,6 +11977,9 @@ pd_status p4_pd_orbisk_switch_dynamicDnat1_get_entry_from_plcmt_data(const void 
     p4_pd_orbisk_switch_dynamicDnat1_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_dynamicDnat1_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* dynamicFullConeCompressDip: table 0x0100001f, pipeline A, exact match, 4 key bytes (32 bits) */
 typedef struct p4_pd_orbisk_switch_dynamicFullConeCompressDip_match_spec {
@@ -11813,6 +12075,9 @@ pd_status p4_pd_orbisk_switch_dynamicFullConeCompressDip_get_entry_from_plcmt_da
     p4_pd_orbisk_switch_dynamicFullConeCompressDip_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_dynamicFullConeCompressDip_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* dynamicFullConeDnat: table 0x01000024, pipeline A, exact match, 6 key bytes (41 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_dynamicFullConeDnat_match_spec {
@@ -11954,6 +12219,9 @@ pd_status p4_pd_orbisk_switch_dynamicFullConeDnat_get_entry_from_plcmt_data(cons
     p4_pd_orbisk_switch_dynamicFullConeDnat_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_dynamicFullConeDnat_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* egressNatProfile: table 0x11010012, pipeline B, exact match, 2 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_egressNatProfile_match_spec {
@@ -12049,6 +12317,9 @@ pd_status p4_pd_orbisk_switch_egressNatProfile_get_entry_from_plcmt_data(const v
     p4_pd_orbisk_switch_egressNatProfile_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_egressNatProfile_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* staticSnatAcl: table 0x11010004, pipeline B, ternary match, 6 key bytes (41 bits) */
 typedef struct p4_pd_orbisk_switch_staticSnatAcl_match_spec {
@@ -12170,6 +12441,9 @@ pd_status p4_pd_orbisk_switch_staticSnatAcl_get_entry_from_plcmt_data(const void
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_staticSnatAcl_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* addrPortSnat: table 0x11010016, pipeline B, exact match, 9 key bytes (68 bits), entries carry staticSnatCounters */
 typedef struct p4_pd_orbisk_switch_addrPortSnat_match_spec {
@@ -12293,6 +12567,9 @@ pd_status p4_pd_orbisk_switch_addrPortSnat_get_entry_from_plcmt_data(const void 
     p4_pd_orbisk_switch_addrPortSnat_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_addrPortSnat_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_addrPortSnat_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_addrPortSnat_match_spec_t *match_spec,
     char *out);
 int p4_pd_orbisk_switch_addrPortSnat_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
@@ -12407,6 +12684,9 @@ pd_status p4_pd_orbisk_switch_addrOnlySnat_get_entry_from_plcmt_data(const void 
     p4_pd_orbisk_switch_addrOnlySnat_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_addrOnlySnat_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* dynamicSnatAcl: table 0x11010013, pipeline B, ternary match, 14 key bytes (112 bits) */
 typedef struct p4_pd_orbisk_switch_dynamicSnatAcl_match_spec {
@@ -12534,6 +12814,9 @@ pd_status p4_pd_orbisk_switch_dynamicSnatAcl_get_entry_from_plcmt_data(const voi
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_dynamicSnatAcl_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* dynamicSnat1: table 0x11010015, pipeline B, exact match, 14 key bytes (112 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_dynamicSnat1_match_spec {
@@ -12692,6 +12975,9 @@ pd_status p4_pd_orbisk_switch_dynamicSnat1_get_entry_from_plcmt_data(const void 
     p4_pd_orbisk_switch_dynamicSnat1_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_dynamicSnat1_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* dynamicNatCount: table 0x1101001e, pipeline B, ternary match, 5 key bytes (26 bits), entries carry dynNatCounters */
 typedef struct p4_pd_orbisk_switch_dynamicNatCount_match_spec {
@@ -12814,6 +13100,9 @@ pd_status p4_pd_orbisk_switch_dynamicNatCount_get_entry_from_plcmt_data(const vo
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_dynamicNatCount_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_dynamicNatCount_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_dynamicNatCount_match_spec_t *match_spec,
     char *out);
 int p4_pd_orbisk_switch_dynamicNatCount_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
@@ -12921,6 +13210,9 @@ pd_status p4_pd_orbisk_switch_natTcpFlags_get_entry_from_plcmt_data(const void *
     p4_pd_orbisk_switch_natTcpFlags_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_natTcpFlags_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* natCpuTrapAcl: table 0x11010018, pipeline B, ternary match, 16 key bytes (121 bits) */
 typedef struct p4_pd_orbisk_switch_natCpuTrapAcl_match_spec {
@@ -13087,6 +13379,9 @@ pd_status p4_pd_orbisk_switch_natCpuTrapAcl_get_entry_from_plcmt_data(const void
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_natCpuTrapAcl_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* natCpuReasonCode: table 0x11010005, pipeline B, ternary match, 2 key bytes (9 bits) */
 typedef struct p4_pd_orbisk_switch_natCpuReasonCode_match_spec {
@@ -13202,6 +13497,9 @@ pd_status p4_pd_orbisk_switch_natCpuReasonCode_get_entry_from_plcmt_data(const v
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_natCpuReasonCode_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* natChecksumUpdate: table 0x11010021, pipeline B, ternary match, 9 key bytes (32 bits) */
 typedef struct p4_pd_orbisk_switch_natChecksumUpdate_match_spec {
@@ -13383,6 +13681,9 @@ pd_status p4_pd_orbisk_switch_natChecksumUpdate_get_entry_from_plcmt_data(const 
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_natChecksumUpdate_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* egressNatCpuTrapHeader: table 0x01000070, pipeline A, exact match, 2 key bytes (2 bits) */
 typedef struct p4_pd_orbisk_switch_egressNatCpuTrapHeader_match_spec {
@@ -13506,6 +13807,9 @@ pd_status p4_pd_orbisk_switch_egressNatCpuTrapHeader_get_entry_from_plcmt_data(c
     p4_pd_orbisk_switch_egressNatCpuTrapHeader_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_egressNatCpuTrapHeader_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ================================================================== */
 /* Halo classification */
@@ -13616,6 +13920,9 @@ pd_status p4_pd_orbisk_switch_haloPaclCrlId_get_entry_from_plcmt_data(const void
     p4_pd_orbisk_switch_haloPaclCrlId_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloPaclCrlId_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* haloRaclCrlId: table 0x01000016, pipeline A, exact match, 3 key bytes (15 bits) */
 typedef struct p4_pd_orbisk_switch_haloRaclCrlId_match_spec {
@@ -13722,6 +14029,9 @@ pd_status p4_pd_orbisk_switch_haloRaclCrlId_get_entry_from_plcmt_data(const void
     p4_pd_orbisk_switch_haloRaclCrlId_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloRaclCrlId_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* haloXformIpv4Sip: table 0x0100001c, pipeline A, ternary match, 4 key bytes (32 bits) */
 typedef struct p4_pd_orbisk_switch_haloXformIpv4Sip_match_spec {
@@ -13849,6 +14159,9 @@ pd_status p4_pd_orbisk_switch_haloXformIpv4Sip_get_entry_from_plcmt_data(const v
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloXformIpv4Sip_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* haloXformIpv4Dip: table 0x01000019, pipeline A, ternary match, 4 key bytes (32 bits) */
 typedef struct p4_pd_orbisk_switch_haloXformIpv4Dip_match_spec {
@@ -13976,6 +14289,9 @@ pd_status p4_pd_orbisk_switch_haloXformIpv4Dip_get_entry_from_plcmt_data(const v
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloXformIpv4Dip_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* haloXformIpv6Sip: table 0x0100001b, pipeline A, ternary match, 16 key bytes (128 bits) */
 typedef struct p4_pd_orbisk_switch_haloXformIpv6Sip_match_spec {
@@ -14103,6 +14419,9 @@ pd_status p4_pd_orbisk_switch_haloXformIpv6Sip_get_entry_from_plcmt_data(const v
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloXformIpv6Sip_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* haloXformIpv6Dip: table 0x0100001a, pipeline A, ternary match, 16 key bytes (128 bits) */
 typedef struct p4_pd_orbisk_switch_haloXformIpv6Dip_match_spec {
@@ -14230,6 +14549,9 @@ pd_status p4_pd_orbisk_switch_haloXformIpv6Dip_get_entry_from_plcmt_data(const v
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloXformIpv6Dip_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* haloXformSrcPort: table 0x0100001e, pipeline A, ternary match, 2 key bytes (16 bits) */
 typedef struct p4_pd_orbisk_switch_haloXformSrcPort_match_spec {
@@ -14345,6 +14667,9 @@ pd_status p4_pd_orbisk_switch_haloXformSrcPort_get_entry_from_plcmt_data(const v
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloXformSrcPort_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* haloXformDstPort: table 0x0100001d, pipeline A, ternary match, 2 key bytes (16 bits) */
 typedef struct p4_pd_orbisk_switch_haloXformDstPort_match_spec {
@@ -14460,6 +14785,9 @@ pd_status p4_pd_orbisk_switch_haloXformDstPort_get_entry_from_plcmt_data(const v
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloXformDstPort_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* haloKeyMaskForRow1Stage2: table 0x01000028, pipeline A, exact match, 1 key bytes (8 bits) */
 typedef struct p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_match_spec {
@@ -14555,6 +14883,9 @@ pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_get_entry_from_plcmt_data
     p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* haloRow1Stage2: table 0x01000032, pipeline A, exact match, 14 key bytes (103 bits) */
 typedef struct p4_pd_orbisk_switch_haloRow1Stage2_match_spec {
@@ -14677,6 +15008,9 @@ pd_status p4_pd_orbisk_switch_haloRow1Stage2_get_entry_from_plcmt_data(const voi
     p4_pd_orbisk_switch_haloRow1Stage2_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloRow1Stage2_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* haloKeyMaskForRow1Stage3: table 0x01000033, pipeline A, exact match, 1 key bytes (8 bits) */
 typedef struct p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_match_spec {
@@ -14772,6 +15106,9 @@ pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_get_entry_from_plcmt_data
     p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* haloRow1Stage3: table 0x0100003c, pipeline A, exact match, 14 key bytes (103 bits) */
 typedef struct p4_pd_orbisk_switch_haloRow1Stage3_match_spec {
@@ -14894,6 +15231,9 @@ pd_status p4_pd_orbisk_switch_haloRow1Stage3_get_entry_from_plcmt_data(const voi
     p4_pd_orbisk_switch_haloRow1Stage3_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloRow1Stage3_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* haloKeyMaskForRow1Stage4: table 0x0100003d, pipeline A, exact match, 1 key bytes (8 bits) */
 typedef struct p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_match_spec {
@@ -14989,6 +15329,9 @@ pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_get_entry_from_plcmt_data
     p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* haloRow1Stage4: table 0x01000044, pipeline A, exact match, 14 key bytes (103 bits) */
 typedef struct p4_pd_orbisk_switch_haloRow1Stage4_match_spec {
@@ -15111,6 +15454,9 @@ pd_status p4_pd_orbisk_switch_haloRow1Stage4_get_entry_from_plcmt_data(const voi
     p4_pd_orbisk_switch_haloRow1Stage4_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloRow1Stage4_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* haloKeyMaskForRow1Stage5: table 0x01000045, pipeline A, exact match, 1 key bytes (8 bits) */
 typedef struct p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_match_spec {
@@ -15206,6 +15552,9 @@ pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_get_entry_from_plcmt_data
     p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* haloRow1Stage5: table 0x0100004c, pipeline A, exact match, 14 key bytes (103 bits) */
 typedef struct p4_pd_orbisk_switch_haloRow1Stage5_match_spec {
@@ -15328,6 +15677,9 @@ pd_status p4_pd_orbisk_switch_haloRow1Stage5_get_entry_from_plcmt_data(const voi
     p4_pd_orbisk_switch_haloRow1Stage5_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloRow1Stage5_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* haloKeyMaskForRow1Stage6: table 0x0100004d, pipeline A, exact match, 1 key bytes (8 bits) */
 typedef struct p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_match_spec {
@@ -15423,6 +15775,9 @@ pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_get_entry_from_plcmt_data
     p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* haloRow1Stage6: table 0x01000052, pipeline A, exact match, 14 key bytes (103 bits) */
 typedef struct p4_pd_orbisk_switch_haloRow1Stage6_match_spec {
@@ -15545,6 +15900,9 @@ pd_status p4_pd_orbisk_switch_haloRow1Stage6_get_entry_from_plcmt_data(const voi
     p4_pd_orbisk_switch_haloRow1Stage6_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloRow1Stage6_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* haloBypass: table 0x01000051, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_haloBypass_get_entry(pd_sess_hdl sess_hdl,
@@ -15603,6 +15961,9 @@ pd_status p4_pd_orbisk_switch_haloBypass_get_plcmt_data(pd_sess_hdl sess_hdl,
 pd_status p4_pd_orbisk_switch_haloBypass_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloBypass_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* haloCounters: table 0x01000059, pipeline A, exact match, 4 key bytes (32 bits), entries carry haloCount */
 typedef struct p4_pd_orbisk_switch_haloCounters_match_spec {
@@ -15694,6 +16055,9 @@ pd_status p4_pd_orbisk_switch_haloCounters_get_entry_from_plcmt_data(const void 
     p4_pd_orbisk_switch_haloCounters_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloCounters_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_haloCounters_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_haloCounters_match_spec_t *match_spec,
     char *out);
 int p4_pd_orbisk_switch_haloCounters_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
@@ -15864,6 +16228,9 @@ pd_status p4_pd_orbisk_switch_ingressMirrorSession_get_entry_from_plcmt_data(con
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ingressMirrorSession_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ingressMirrorLagGroup: table 0x0100004b, pipeline A, exact match, 2 key bytes (10 bits), entries name a member or group of mirrorLagPortActionProfile */
 typedef struct p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec {
@@ -15980,6 +16347,9 @@ pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_get_entry_from_plcmt_data(co
     bool *has_mbr,
     bool *has_grp,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ingressMirrorRate: table 0x01000056, pipeline A, exact match, 2 key bytes (10 bits), entries carry ingressMirrorMeter */
 typedef struct p4_pd_orbisk_switch_ingressMirrorRate_match_spec {
@@ -16084,6 +16454,9 @@ pd_status p4_pd_orbisk_switch_ingressMirrorRate_get_entry_from_plcmt_data(const 
     p4_pd_orbisk_switch_ingressMirrorRate_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ingressMirrorRate_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ingressMirrorResult: table 0x01000058, pipeline A, exact match, 3 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_ingressMirrorResult_match_spec {
@@ -16181,6 +16554,9 @@ pd_status p4_pd_orbisk_switch_ingressMirrorResult_get_entry_from_plcmt_data(cons
     p4_pd_orbisk_switch_ingressMirrorResult_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ingressMirrorResult_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* egressMirrorSession: table 0x0100005e, pipeline A, ternary match, 51 key bytes (380 bits) */
 typedef struct p4_pd_orbisk_switch_egressMirrorSession_match_spec {
@@ -16328,6 +16704,9 @@ pd_status p4_pd_orbisk_switch_egressMirrorSession_get_entry_from_plcmt_data(cons
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_egressMirrorSession_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* egressMirrorLagGroup: table 0x01000063, pipeline A, exact match, 2 key bytes (10 bits), entries name a member or group of egrMirrorLagPortActionProfile */
 typedef struct p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec {
@@ -16444,6 +16823,9 @@ pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_get_entry_from_plcmt_data(con
     bool *has_mbr,
     bool *has_grp,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* egressMirrorRate: table 0x01000068, pipeline A, exact match, 2 key bytes (10 bits), entries carry egressMirrorMeter */
 typedef struct p4_pd_orbisk_switch_egressMirrorRate_match_spec {
@@ -16548,6 +16930,9 @@ pd_status p4_pd_orbisk_switch_egressMirrorRate_get_entry_from_plcmt_data(const v
     p4_pd_orbisk_switch_egressMirrorRate_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_egressMirrorRate_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* egressMirrorResult: table 0x01000075, pipeline A, exact match, 1 key bytes (1 bits) */
 typedef struct p4_pd_orbisk_switch_egressMirrorResult_match_spec {
@@ -16649,6 +17034,9 @@ pd_status p4_pd_orbisk_switch_egressMirrorResult_get_entry_from_plcmt_data(const
     p4_pd_orbisk_switch_egressMirrorResult_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_egressMirrorResult_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* mirrorPacketEncap: table 0x0100005d, pipeline A, exact match, 4 key bytes (25 bits) */
 typedef struct p4_pd_orbisk_switch_mirrorPacketEncap_match_spec {
@@ -16778,6 +17166,9 @@ pd_status p4_pd_orbisk_switch_mirrorPacketEncap_get_entry_from_plcmt_data(const 
     p4_pd_orbisk_switch_mirrorPacketEncap_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_mirrorPacketEncap_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ================================================================== */
 /* QoS and policing classes */
@@ -16877,6 +17268,9 @@ pd_status p4_pd_orbisk_switch_qosPortProperties_get_entry_from_plcmt_data(const 
     p4_pd_orbisk_switch_qosPortProperties_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_qosPortProperties_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* normalizeCos: table 0x01000036, pipeline A, exact match, 4 key bytes (8 bits) */
 typedef struct p4_pd_orbisk_switch_normalizeCos_match_spec {
@@ -17013,6 +17407,9 @@ pd_status p4_pd_orbisk_switch_normalizeCos_get_entry_from_plcmt_data(const void 
     p4_pd_orbisk_switch_normalizeCos_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_normalizeCos_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* normalizeDscp: table 0x01000029, pipeline A, exact match, 2 key bytes (6 bits) */
 typedef struct p4_pd_orbisk_switch_normalizeDscp_match_spec {
@@ -17171,6 +17568,9 @@ pd_status p4_pd_orbisk_switch_normalizeDscp_get_entry_from_plcmt_data(const void
     p4_pd_orbisk_switch_normalizeDscp_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_normalizeDscp_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ingressTrafficClass: table 0x0100003f, pipeline A, ternary match, 8 key bytes (23 bits) */
 typedef struct p4_pd_orbisk_switch_ingressTrafficClass_match_spec {
@@ -17296,6 +17696,9 @@ pd_status p4_pd_orbisk_switch_ingressTrafficClass_get_entry_from_plcmt_data(cons
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ingressTrafficClass_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* tcDscpMap: table 0x01000061, pipeline A, exact match, 1 key bytes (3 bits) */
 typedef struct p4_pd_orbisk_switch_tcDscpMap_match_spec {
@@ -17404,6 +17807,9 @@ pd_status p4_pd_orbisk_switch_tcDscpMap_get_entry_from_plcmt_data(const void *pl
     p4_pd_orbisk_switch_tcDscpMap_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_tcDscpMap_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* qosRewriteConfig: table 0x0100000f, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_qosRewriteConfig_get_entry(pd_sess_hdl sess_hdl,
@@ -17463,6 +17869,9 @@ pd_status p4_pd_orbisk_switch_qosRewriteConfig_get_plcmt_data(pd_sess_hdl sess_h
 pd_status p4_pd_orbisk_switch_qosRewriteConfig_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_qosRewriteConfig_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* qosRewrite: table 0x01000048, pipeline A, exact match, 5 key bytes (10 bits) */
 typedef struct p4_pd_orbisk_switch_qosRewrite_match_spec {
@@ -17601,6 +18010,9 @@ pd_status p4_pd_orbisk_switch_qosRewrite_get_entry_from_plcmt_data(const void *p
     p4_pd_orbisk_switch_qosRewrite_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_qosRewrite_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* packetDscpRewrite: table 0x0100006e, pipeline A, ternary match, 6 key bytes (10 bits) */
 typedef struct p4_pd_orbisk_switch_packetDscpRewrite_match_spec {
@@ -17800,6 +18212,9 @@ pd_status p4_pd_orbisk_switch_packetDscpRewrite_get_entry_from_plcmt_data(const 
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_packetDscpRewrite_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* queueCounters: table 0x0100005b, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_queueCounters_get_entry(pd_sess_hdl sess_hdl,
@@ -17858,6 +18273,9 @@ pd_status p4_pd_orbisk_switch_queueCounters_get_plcmt_data(pd_sess_hdl sess_hdl,
 pd_status p4_pd_orbisk_switch_queueCounters_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_queueCounters_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* pdpClassify: table 0x11010020, pipeline B, ternary match, 10 key bytes (52 bits), entries carry pdpMeter */
 typedef struct p4_pd_orbisk_switch_pdpClassify_match_spec {
@@ -17998,6 +18416,9 @@ pd_status p4_pd_orbisk_switch_pdpClassify_get_entry_from_plcmt_data(const void *
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_pdpClassify_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* pdpPolicy: table 0x11010025, pipeline B, exact match, 2 key bytes (6 bits), entries carry pdpClassCount */
 typedef struct p4_pd_orbisk_switch_pdpPolicy_match_spec {
@@ -18104,6 +18525,9 @@ pd_status p4_pd_orbisk_switch_pdpPolicy_get_entry_from_plcmt_data(const void *pl
     p4_pd_orbisk_switch_pdpPolicy_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_pdpPolicy_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ================================================================== */
 /* CPU path, MTU and final drop */
@@ -18319,6 +18743,9 @@ pd_status p4_pd_orbisk_switch_trapToCpu_get_entry_from_plcmt_data(const void *pl
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_trapToCpu_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_trapToCpu_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_trapToCpu_match_spec_t *match_spec,
     char *out);
 int p4_pd_orbisk_switch_trapToCpu_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
@@ -18422,6 +18849,9 @@ pd_status p4_pd_orbisk_switch_switchToCpu_get_entry_from_plcmt_data(const void *
     p4_pd_orbisk_switch_switchToCpu_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_switchToCpu_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* cpuEncap: table 0x11010022, pipeline B, ternary match, 7 key bytes (14 bits) */
 typedef struct p4_pd_orbisk_switch_cpuEncap_match_spec {
@@ -18637,6 +19067,9 @@ pd_status p4_pd_orbisk_switch_cpuEncap_get_entry_from_plcmt_data(const void *plc
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_cpuEncap_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* cpuEncapFields: table 0x01000069, pipeline A, exact match, 6 key bytes (15 bits) */
 typedef struct p4_pd_orbisk_switch_cpuEncapFields_match_spec {
@@ -18779,6 +19212,9 @@ pd_status p4_pd_orbisk_switch_cpuEncapFields_get_entry_from_plcmt_data(const voi
     p4_pd_orbisk_switch_cpuEncapFields_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_cpuEncapFields_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ingMtu: table 0x11010003, pipeline B, ternary match, 6 key bytes (36 bits) */
 typedef struct p4_pd_orbisk_switch_ingMtu_match_spec {
@@ -18905,6 +19341,9 @@ pd_status p4_pd_orbisk_switch_ingMtu_get_entry_from_plcmt_data(const void *plcmt
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ingMtu_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* mtuCheck: table 0x1101001b, pipeline B, ternary match, 7 key bytes (26 bits) */
 typedef struct p4_pd_orbisk_switch_mtuCheck_match_spec {
@@ -19031,6 +19470,9 @@ pd_status p4_pd_orbisk_switch_mtuCheck_get_entry_from_plcmt_data(const void *plc
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_mtuCheck_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* finalDropControl: table 0x01000057, pipeline A, ternary match, 26 key bytes (64 bits), entries carry finalDropControlCount */
 typedef struct p4_pd_orbisk_switch_finalDropControl_match_spec {
@@ -19262,6 +19704,9 @@ pd_status p4_pd_orbisk_switch_finalDropControl_get_entry_from_plcmt_data(const v
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_finalDropControl_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_finalDropControl_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_finalDropControl_match_spec_t *match_spec,
     char *out);
 int p4_pd_orbisk_switch_finalDropControl_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
@@ -19401,6 +19846,9 @@ pd_status p4_pd_orbisk_switch_finalDropControlIB_get_entry_from_plcmt_data(const
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_finalDropControlIB_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_finalDropControlIB_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_finalDropControlIB_match_spec_t *match_spec,
     char *out);
 int p4_pd_orbisk_switch_finalDropControlIB_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
@@ -19506,6 +19954,9 @@ pd_status p4_pd_orbisk_switch_eifIngPolicy_get_entry_from_plcmt_data(const void 
     p4_pd_orbisk_switch_eifIngPolicy_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_eifIngPolicy_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* eifParamsForIngress: table 0x11010014, pipeline B, no key */
 pd_status p4_pd_orbisk_switch_eifParamsForIngress_get_entry(pd_sess_hdl sess_hdl,
@@ -19564,6 +20015,9 @@ pd_status p4_pd_orbisk_switch_eifParamsForIngress_get_plcmt_data(pd_sess_hdl ses
 pd_status p4_pd_orbisk_switch_eifParamsForIngress_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_eifParamsForIngress_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* eifParamsForEgress: table 0x11010011, pipeline B, exact match, 2 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_eifParamsForEgress_match_spec {
@@ -19659,6 +20113,9 @@ pd_status p4_pd_orbisk_switch_eifParamsForEgress_get_entry_from_plcmt_data(const
     p4_pd_orbisk_switch_eifParamsForEgress_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_eifParamsForEgress_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* eifPinHole: table 0x11010019, pipeline B, exact match, 20 key bytes (160 bits) */
 typedef struct p4_pd_orbisk_switch_eifPinHole_match_spec {
@@ -19769,6 +20226,9 @@ pd_status p4_pd_orbisk_switch_eifPinHole_get_entry_from_plcmt_data(const void *p
     p4_pd_orbisk_switch_eifPinHole_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_eifPinHole_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* eifPinHoleHits: table 0x1101001c, pipeline B, exact match, 2 key bytes (15 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_eifPinHoleHits_match_spec {
@@ -19891,6 +20351,9 @@ pd_status p4_pd_orbisk_switch_eifPinHoleHits_get_entry_from_plcmt_data(const voi
     p4_pd_orbisk_switch_eifPinHoleHits_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_eifPinHoleHits_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* eifAcl: table 0x1101001a, pipeline B, ternary match, 39 key bytes (306 bits), entries carry eifAclCount */
 typedef struct p4_pd_orbisk_switch_eifAcl_match_spec {
@@ -20056,6 +20519,9 @@ pd_status p4_pd_orbisk_switch_eifAcl_get_entry_from_plcmt_data(const void *plcmt
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_eifAcl_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_eifAcl_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_eifAcl_match_spec_t *match_spec,
     char *out);
 int p4_pd_orbisk_switch_eifAcl_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
@@ -20196,6 +20662,9 @@ pd_status p4_pd_orbisk_switch_eifForwardToPeerAcl_get_entry_from_plcmt_data(cons
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_eifForwardToPeerAcl_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec_t *match_spec,
     char *out);
 int p4_pd_orbisk_switch_eifForwardToPeerAcl_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
@@ -20335,6 +20804,9 @@ pd_status p4_pd_orbisk_switch_foldedPipeDest_get_entry_from_plcmt_data(const voi
     bool *has_mbr,
     bool *has_grp,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_foldedPipeDest_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* foldedPipeQos: table 0x0100004a, pipeline A, ternary match, 8 key bytes (41 bits) */
 typedef struct p4_pd_orbisk_switch_foldedPipeQos_match_spec {
@@ -20468,6 +20940,9 @@ pd_status p4_pd_orbisk_switch_foldedPipeQos_get_entry_from_plcmt_data(const void
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_foldedPipeQos_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* foldedPipeCounters: table 0x0100005a, pipeline A, exact match, 3 key bytes (14 bits), entries carry foldedPipeCount */
 typedef struct p4_pd_orbisk_switch_foldedPipeCounters_match_spec {
@@ -20561,6 +21036,9 @@ pd_status p4_pd_orbisk_switch_foldedPipeCounters_get_entry_from_plcmt_data(const
     p4_pd_orbisk_switch_foldedPipeCounters_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_foldedPipeCounters_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_foldedPipeCounters_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_foldedPipeCounters_match_spec_t *match_spec,
     char *out);
 int p4_pd_orbisk_switch_foldedPipeCounters_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
@@ -20714,6 +21192,9 @@ pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_get_full_member_info
     pd_mbr_hdl mbr_hdl,
     const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_adt_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* mirrorLagPortActionProfile: action data table 0x0200001d, selector table 0x03000001;
  * entries of ingressMirrorLagGroup name its members and groups.
@@ -20857,6 +21338,9 @@ pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_get_full_member_info_fr
     pd_mbr_hdl mbr_hdl,
     const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_adt_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* foldedPipeActionProfile: action data table 0x02000021, selector table 0x03000002;
  * entries of foldedPipeDest name its members and groups.
@@ -21000,6 +21484,9 @@ pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_get_full_member_info_from_
     pd_mbr_hdl mbr_hdl,
     const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_adt_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ecmpMemberActionProfile: action data table 0x12010003, selector table 0x13010001;
  * entries of ecmpGroup name its members and groups.
@@ -21143,6 +21630,9 @@ pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_get_full_member_info_from_
     pd_mbr_hdl mbr_hdl,
     const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_adt_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* tunnelMemberActionProfile: action data table 0x1201000c, selector table 0x13010002;
  * entries of tunnelResolve name its members and groups.
@@ -21286,6 +21776,9 @@ pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_get_full_member_info_fro
     pd_mbr_hdl mbr_hdl,
     const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_adt_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* lagPortActionProfile: action data table 0x1201000e, selector table 0x13010003;
  * entries of lagGroup name its members and groups.
@@ -21448,6 +21941,9 @@ pd_status p4_pd_orbisk_switch_lagPortActionProfile_get_full_member_info_from_plc
     pd_mbr_hdl mbr_hdl,
     const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_adt_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ------------------------------------------------------------------ */
 /* counters, meters and registers */

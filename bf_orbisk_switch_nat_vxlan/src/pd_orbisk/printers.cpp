@@ -8,8 +8,12 @@
 
 #include <cstring>
 
+#include "assertions.h"
+#include "dispatch.h"
 #include "elements.h"
 #include "export.h"
+#include "orbisk_switch/pd.h"
+#include "placement.h"
 
 namespace orbisk::pd {
 
@@ -52,6 +56,59 @@ void print_action(const ActionDesc &a, int fd, int indent, const void *action_sp
     const uint32_t v = host_value(action_spec, p->host_offset, p->bits) & low_bits(p->bits);
     dprintf(fd, "%*c action_%s: 0x%0*x\n", indent, ' ', p->name, int(hex_digits(p->bits)), v);
   }
+}
+
+namespace {
+
+constexpr const char *kSource = "bf_orbisk_switch_nat_vxlan/src/pd_orbisk";
+
+// The action header at the key's indent, then its parameter lines. An action
+// that is none of these ends the process.
+void print_action_of(const TableActionDesc *actions, uint16_t n, const char *function, int fd,
+                     int indent, const p4_pd_orbisk_switch_action_specs_t &action) {
+  const ActionDesc *a = nullptr;
+  for (uint16_t i = 0; i < n && a == nullptr; ++i) {
+    if (actions[i].action->enum_value == uint32_t(action.name)) a = actions[i].action;
+  }
+  if (a == nullptr) pd_hard_assert_failed_in(kSource, "NULL", function, __LINE__);
+  dprintf(fd, "%*s%s:\n", indent, "", p4_pd_orbisk_switch_action_enum_to_string(action.name));
+  print_action(*a, fd, indent, &action.u);
+}
+
+}  // namespace
+
+[[gnu::noinline]] pd_status print_entry_placement(const TableDesc &t, const char *function, int fd,
+                                                  int indent, const void *plcmt_data) {
+  alignas(8) uint8_t match_spec[kPrintSpecRoom];
+  uint32_t priority = 0;
+  p4_pd_orbisk_switch_action_specs_t action{};
+  pd_mbr_hdl mbr = 0;
+  pd_grp_hdl grp = 0;
+  bool has_mbr = false, has_grp = false, is_default = false;
+  const pd_status status = decode_entry(
+      t, function, plcmt_data,
+      {t.keyed() ? match_spec : nullptr, (t.flags & kEntryPriority) != 0 ? &priority : nullptr,
+       &action, &mbr, &grp, &has_mbr, &has_grp, &is_default});
+  if (status != 0) {
+    dprintf(fd, "cannot decode plcmt_data for p4_pd_orbisk_switch_%s\n", t.name);
+    return status;
+  }
+  if (t.keyed() && !is_default) print_match_spec(t, fd, indent, match_spec);
+  // The member or group a selector table's entry holds is not printed.
+  if (!t.indirect()) print_action_of(t.actions, t.num_actions, function, fd, indent, action);
+  return 0;
+}
+
+[[gnu::noinline]] pd_status print_member_placement(const ProfileDesc &p, const char *function,
+                                                   int fd, int indent, const void *plcmt_data) {
+  p4_pd_orbisk_switch_action_specs_t action{};
+  const pd_status status = decode_member(p, function, plcmt_data, &action);
+  if (status != 0) {
+    dprintf(fd, "cannot decode plcmt_data for p4_pd_orbisk_switch_%s\n", p.name);
+    return status;
+  }
+  print_action_of(p.actions, p.num_actions, function, fd, indent, action);
+  return 0;
 }
 
 namespace {
@@ -137,4 +194,21 @@ PD_EXPORT int p4_pd_orbisk_switch__print_mac_ternary(char *out, const char *labe
                  station >> 8 & 0xFF, station & 0xFF, oui_mask >> 16 & 0xFF, oui_mask >> 8 & 0xFF,
                  oui_mask & 0xFF, station_mask >> 16 & 0xFF, station_mask >> 8 & 0xFF,
                  station_mask & 0xFF);
+}
+
+// The placement printers by handle: a handle of nothing is said on the
+// descriptor, and the result is that write's.
+
+PD_EXPORT int p4_pd_orbisk_switch_plcmt_data_print(int fd, int indent, pd_tbl_hdl tbl_hdl,
+                                                   const void *plcmt_data) {
+  const unsigned t = table_slot(tbl_hdl);
+  if (t == kNoSlot) return dprintf(fd, "0x%08x table not found\n", tbl_hdl);
+  return int(print_entry_placement(kTables[t], __func__, fd, indent, plcmt_data));
+}
+
+PD_EXPORT int p4_pd_orbisk_switch_adt_plcmt_data_print(int fd, int indent, pd_tbl_hdl tbl_hdl,
+                                                       const void *plcmt_data) {
+  const unsigned p = profile_slot(tbl_hdl);
+  if (p == kNoSlot) return dprintf(fd, "0x%08x table not found\n", tbl_hdl);
+  return int(print_member_placement(kProfiles[p], __func__, fd, indent, plcmt_data));
 }

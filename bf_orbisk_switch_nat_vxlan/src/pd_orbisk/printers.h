@@ -6,6 +6,7 @@
 #include <cstdint>
 
 #include "descriptors.h"
+#include "orbisk_switch/pd_types.h"
 
 #pragma GCC visibility push(hidden)
 
@@ -21,6 +22,22 @@ void print_match_spec(const TableDesc &t, int fd, int indent, const void *match_
 
 // <action>_print: one line per parameter, no header.
 void print_action(const ActionDesc &a, int fd, int indent, const void *action_spec);
+
+// Room for any table's key record on the stack of a placement print (each
+// table's is checked where its printers are generated).
+inline constexpr unsigned kPrintSpecRoom = 192;
+
+// <table>_plcmt_data_print: the placement record decoded, then its key
+// (unless it is a default entry) and its action with the parameters; a table
+// reached through a selector prints its key alone. 0, or the decoder's status
+// after a line saying so.
+pd_status print_entry_placement(const TableDesc &t, const char *function, int fd, int indent,
+                                const void *plcmt_data);
+
+// <profile>_adt_plcmt_data_print: a member's placement record decoded, then
+// its action and the parameters.
+pd_status print_member_placement(const ProfileDesc &p, const char *function, int fd, int indent,
+                                 const void *plcmt_data);
 
 }  // namespace orbisk::pd
 

@@ -9,6 +9,9 @@ from .base import Arg, Family, keyed
 FD = Arg("int", "fd", "file descriptor")
 INDENT = Arg("int", "indent", "indent")
 SPEC = Arg(lambda t, a: "const %s *" % t.spec_type, "match_spec", "match spec")
+PLCMT = Arg("const void *", "plcmt_data", "placement data")
+TBL_HDL = Arg("pd_tbl_hdl", "tbl_hdl", "table handle")
+ADT_HDL = Arg("pd_tbl_hdl", "tbl_hdl", "action data table handle")
 ACTION_SPEC = Arg(lambda t, a: "const %s *" % a.spec_type, "action_spec", "action spec")
 
 OUT = Arg("char *", "out", "out text")
@@ -21,6 +24,13 @@ PREFIX_LENGTH = Arg("uint16_t", "prefix_length", "prefix length")
 def formatter(form, args, doc):
     return Family("print_" + form, "{p}_print_" + form, [OUT, LABEL] + args, doc, result="int",
                   each="program")
+
+
+def table_preamble(t):
+    """A placement print decodes a key into room sized for the longest."""
+    if not t.keyed:
+        return []
+    return ["static_assert(sizeof(%s) <= kPrintSpecRoom);" % t.spec_type]
 
 
 # One-line functions: one generated source for all areas.
@@ -37,6 +47,22 @@ FAMILIES = [
            "writes the action's parameters to fd, one line each.",
            lambda f: ["  print_action(kActions[%d], fd, indent, action_spec);" % f.action.enum],
            result="void", each="action", when=lambda a: a.has_spec),
+    Family("plcmt_data_print", "{p}{t}_plcmt_data_print", [FD, INDENT, PLCMT],
+           "decodes the placement data and writes its key (none for a default entry) and action "
+           "to fd; 0, or the decoder's status after a line saying so.",
+           lambda f: ["  return print_entry_placement(kTables[%d], __func__, fd, indent, plcmt_data);"
+                      % f.table.index], place=(120, 1)),
+    Family("adt_plcmt_data_print", "{p}{r}_adt_plcmt_data_print", [FD, INDENT, PLCMT],
+           "decodes a member's placement data and writes its action to fd; 0, or the "
+           "decoder's status after a line saying so.",
+           lambda f: ["  return print_member_placement(kProfiles[%d], __func__, fd, indent, plcmt_data);"
+                      % f.profile.index], each="profile", when=lambda r: True, place=(120, 0)),
+    Family("plcmt_data_print_by_handle", "{p}plcmt_data_print", [FD, INDENT, TBL_HDL, PLCMT],
+           "The placement print of the table with this handle; for any other, a line saying so "
+           "and that write's result.", result="int", each="program"),
+    Family("adt_plcmt_data_print_by_handle", "{p}adt_plcmt_data_print", [FD, INDENT, ADT_HDL, PLCMT],
+           "The placement print of the profile with this action data table handle; for any "
+           "other, a line saying so and that write's result.", result="int", each="program"),
     formatter("v4addr_exact", [V4], "\"<label> a.b.c.d \"; its length."),
     formatter("v4addr_lpm", [V4, PREFIX_LENGTH], "\"<label> a.b.c.d/<prefix> \"; its length."),
     formatter("v4addr_ternary", [V4, Arg("uint32_t", "mask", "mask")],
