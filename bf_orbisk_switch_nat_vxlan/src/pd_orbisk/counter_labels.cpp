@@ -93,7 +93,8 @@ int stringify_for_counter(const LabelTable &l, const void *match_spec, char *out
 }
 
 // Kept out of line: the dispatcher by handle forwards to it by a tail call.
-[[gnu::noinline]] int stringify_counter_entry(const LabelTable &l, pd_sess_hdl sess, uint8_t dev_id,
+[[gnu::noinline]] int stringify_counter_entry(const LabelTable &l, const char *function,
+                                              pd_sess_hdl sess, uint8_t dev_id,
                                               pd_entry_hdl entry_hdl, char *out) {
   // Room for the key of any counting table (each is checked where its items
   // are generated).
@@ -103,7 +104,7 @@ int stringify_for_counter(const LabelTable &l, const void *match_spec, char *out
   bool is_default = false;
   const TableDesc &t = *l.table;
   const pd_status status = read_entry(
-      t, __func__, sess, dev_id, entry_hdl, true,
+      t, function, sess, dev_id, entry_hdl, true,
       {match_spec, t.ternary() ? &priority : nullptr, nullptr, &action_spec, nullptr, &is_default});
   if (status != 0) return 0;
   return stringify_for_counter(l, match_spec, out);
@@ -118,5 +119,6 @@ PD_EXPORT int p4_pd_orbisk_switch_stringify_counter_matchspec(pd_sess_hdl sess_h
                                                               pd_entry_hdl entry_hdl, char *out) {
   const unsigned t = table_slot(tbl_hdl);
   if (t == kNoSlot || kLabelsOfTable[t] == kNoLabels) return 0;
-  return stringify_counter_entry(kLabelTables[kLabelsOfTable[t]], sess_hdl, dev_id, entry_hdl, out);
+  return stringify_counter_entry(kLabelTables[kLabelsOfTable[t]], __func__, sess_hdl, dev_id,
+                                 entry_hdl, out);
 }

@@ -67,9 +67,10 @@ extern const uint8_t kLabelsOfTable[];
 int stringify_for_counter(const LabelTable &l, const void *match_spec, char *out);
 
 // <table>_stringify_counter_match_spec: the label of an entry read from
-// hardware; 0, out untouched, when the read fails.
-int stringify_counter_entry(const LabelTable &l, pd_sess_hdl sess, uint8_t dev_id,
-                            pd_entry_hdl entry_hdl, char *out);
+// hardware; 0, out untouched, when the read fails. `function` names the
+// exported function for the read's assertions.
+int stringify_counter_entry(const LabelTable &l, const char *function, pd_sess_hdl sess,
+                            uint8_t dev_id, pd_entry_hdl entry_hdl, char *out);
 
 }  // namespace orbisk::pd
 

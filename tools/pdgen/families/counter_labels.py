@@ -87,7 +87,7 @@ FAMILIES = [
     Family("stringify_counter_match_spec", "{p}{t}_stringify_counter_match_spec",
            [SESS, DEV8, ENTRY_HDL, OUT],
            "reads the entry from hardware and writes its key's label; 0 if the read fails.",
-           body("stringify_counter_entry(kLabelTables[{i}], sess_hdl, dev_id, entry_hdl, out)"),
+           body("stringify_counter_entry(kLabelTables[{i}], __func__, sess_hdl, dev_id, entry_hdl, out)"),
            result="int", when=counting, place=(130, 1)),
     Family("stringify_counter_matchspec", "{p}stringify_counter_matchspec",
            [SESS, DEV8, Arg("pd_tbl_hdl", "tbl_hdl", "table handle"), ENTRY_HDL, OUT],
