@@ -50,68 +50,63 @@ class Walk : public OnModel {
 };
 
 TEST_F(Walk, EveryDispatcherOverEveryHandle) {
+  using ByHandle = pd_status (*)(pd_sess_hdl, pd_dev_target, pd_tbl_hdl, uint32_t *);
+  using ByHandleNext =
+      pd_status (*)(pd_sess_hdl, pd_dev_target, pd_tbl_hdl, uint32_t, uint32_t, uint32_t *);
+  // Each dispatcher, the per-table or per-profile function it stands for, and its miss status.
+  const struct {
+    ByHandle first;
+    ByHandleNext next;
+    const char *target;
+    bool of_table;
+    pd_status miss;
+  } rows[] = {
+      {p4_pd_orbisk_switch_entry_hdl_first, nullptr, "_get_first_entry_handle", true, 0},
+      {nullptr, p4_pd_orbisk_switch_entry_hdl_next, "_get_next_entry_handles", true, 0},
+      {p4_pd_orbisk_switch_entry_hdl_default, nullptr, "_table_get_default_entry_handle", true, 0},
+      {p4_pd_orbisk_switch_member_hdl_first, nullptr, "_get_first_member", false, kInvalid},
+      {nullptr, p4_pd_orbisk_switch_member_hdl_next, "_get_next_members", false, kInvalid},
+  };
   std::vector<uint32_t> handles = {0, kInvalid, 0x02000000, 0x12010000, 0x04000001};
   for (uint32_t h = 0x01000000; h <= 0x01000076; ++h) handles.push_back(h);
   for (uint32_t h = 0x11010002; h <= 0x11010029; ++h) handles.push_back(h);
-  for (std::size_t i = 0; i < kNumProfiles; ++i)
+  for (std::size_t i = 0; i < kNumProfiles; ++i) {
     handles.insert(handles.end(), {kProfiles[i].adt_hdl, kProfiles[i].sel_hdl});
+  }
   std::size_t tables = 0, profiles = 0;
   for (uint32_t h : handles) {
-    SCOPED_TRACE(::testing::Message() << std::hex << "handle 0x" << h);
-    // The table or profile of this handle, from the descriptors' rows, not by the lookup under
-    // test.
+    // Its table or profile from the descriptors' rows, not by the lookup under test.
     std::string t, r;
     for (std::size_t i = 0; i < kNumTables; ++i) t = kTables[i].handle == h ? kTables[i].name : t;
     for (std::size_t i = 0; i < kNumProfiles; ++i)
       r = kProfiles[i].adt_hdl == h ? kProfiles[i].name : r;
-    const uint32_t after = t == "ipv4ShortMaskLpm" ? entries[0] : 1, mafter = members[0];
-    const auto miss = std::make_pair(pd_status(0), kInvalid);
     tables += !t.empty();
     profiles += !r.empty();
-    EXPECT_EQ(
-        t.empty() ? miss : answer([&](uint32_t *o) {
-          return exported<First>(t + "_get_first_entry_handle")(sess, tgt, o);
-        }),
-        answer([&](uint32_t *o) { return p4_pd_orbisk_switch_entry_hdl_first(sess, tgt, h, o); }));
-    EXPECT_EQ(t.empty() ? miss : answer([&](uint32_t *o) {
-                return exported<Next>(t + "_get_next_entry_handles")(sess, tgt, after, 1, o);
-              }),
-              answer([&](uint32_t *o) {
-                return p4_pd_orbisk_switch_entry_hdl_next(sess, tgt, h, after, 1, o);
-              }));
-    EXPECT_EQ(t.empty() ? miss : answer([&](uint32_t *o) {
-                return exported<First>(t + "_table_get_default_entry_handle")(sess, tgt, o);
-              }),
-              answer([&](uint32_t *o) {
-                return p4_pd_orbisk_switch_entry_hdl_default(sess, tgt, h, o);
-              }));
-    // A member walk misses with a failure status as well.
-    const auto mmiss = std::make_pair(pd_status(kInvalid), kInvalid);
-    EXPECT_EQ(
-        r.empty() ? mmiss : answer([&](uint32_t *o) {
-          return exported<First>(r + "_get_first_member")(sess, tgt, o);
-        }),
-        answer([&](uint32_t *o) { return p4_pd_orbisk_switch_member_hdl_first(sess, tgt, h, o); }));
-    EXPECT_EQ(r.empty() ? mmiss : answer([&](uint32_t *o) {
-                return exported<Next>(r + "_get_next_members")(sess, tgt, mafter, 1, o);
-              }),
-              answer([&](uint32_t *o) {
-                return p4_pd_orbisk_switch_member_hdl_next(sess, tgt, h, mafter, 1, o);
-              }));
-  }
-  EXPECT_EQ(kNumTables, tables);  // 0x01000055 inside the first range names nothing
-  // What the walk found where entries and members are.
-  pd_entry_hdl e = 0;
-  pd_mbr_hdl m = 0;
-  EXPECT_EQ(0u, p4_pd_orbisk_switch_entry_hdl_first(sess, tgt, table("ipv4ShortMaskLpm").handle, &e));
-  EXPECT_EQ(entries[0], e);
-  for (std::size_t i = 0; i < kNumProfiles; ++i) {
-    if (std::string(kProfiles[i].name) == "ecmpMemberActionProfile") {
-      EXPECT_EQ(0u, p4_pd_orbisk_switch_member_hdl_first(sess, tgt, kProfiles[i].adt_hdl, &m));
+    for (const auto &row : rows) {
+      const std::string name = row.of_table ? t : r;
+      const uint32_t after = row.of_table ? (t == "ipv4ShortMaskLpm" ? entries[0] : 1) : members[0];
+      const auto direct = [&](uint32_t *o) {
+        return row.first ? exported<First>(name + row.target)(sess, tgt, o)
+                         : exported<Next>(name + row.target)(sess, tgt, after, 1, o);
+      };
+      EXPECT_EQ(name.empty() ? std::make_pair(row.miss, kInvalid) : answer(direct),
+                answer([&](uint32_t *o) {
+                  return row.first ? row.first(sess, tgt, h, o)
+                                   : row.next(sess, tgt, h, after, 1, o);
+                }))
+          << std::hex << "handle 0x" << h << " " << row.target;
     }
   }
-  EXPECT_EQ(members[0], m);
+  EXPECT_EQ(kNumTables, tables);  // 0x01000055 inside the first range names nothing
   EXPECT_EQ(kNumProfiles, profiles);
+  // What the walk found where entries and members are.
+  uint32_t e = 0, m = 0;
+  EXPECT_EQ(0u,
+            p4_pd_orbisk_switch_entry_hdl_first(sess, tgt, table("ipv4ShortMaskLpm").handle, &e));
+  EXPECT_EQ(
+      0u, p4_pd_orbisk_switch_member_hdl_first(sess, tgt, table("ecmpGroup").profile->adt_hdl, &m));
+  EXPECT_EQ(entries[0], e);
+  EXPECT_EQ(members[0], m);
 }
 
 }  // namespace
