@@ -5,6 +5,7 @@
 // members; any other gets its dispatcher's own miss answer.
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <string>
 #include <vector>
 
@@ -74,6 +75,7 @@ TEST_F(Walk, EveryDispatcherOverEveryHandle) {
     handles.insert(handles.end(), {kProfiles[i].adt_hdl, kProfiles[i].sel_hdl});
   }
   std::size_t tables = 0, profiles = 0;
+  static const uint8_t junk[ORBISK_MODEL_PLACEMENT_MAX_BYTES] = {};
   for (uint32_t h : handles) {
     // Its table or profile from the descriptors' rows, not by the lookup under test.
     std::string t, r;
@@ -82,6 +84,25 @@ TEST_F(Walk, EveryDispatcherOverEveryHandle) {
       r = kProfiles[i].adt_hdl == h ? kProfiles[i].name : r;
     tables += !t.empty();
     profiles += !r.empty();
+    // The placement printers by handle, given a record no decoder accepts.
+    for (const bool of_table : {true, false}) {
+      const std::string &name = of_table ? t : r;
+      char line[96];
+      snprintf(line, sizeof line, "0x%08x table not found\n", h);
+      if (!name.empty())
+        snprintf(line, sizeof line, "cannot decode plcmt_data for p4_pd_orbisk_switch_%s\n",
+                 name.c_str());
+      int n = 0;
+      EXPECT_EQ(line, captured([&](int fd) {
+                  n = (of_table ? p4_pd_orbisk_switch_plcmt_data_print
+                                : p4_pd_orbisk_switch_adt_plcmt_data_print)(fd, 1, h, junk);
+                }))
+          << std::hex << h;
+      EXPECT_EQ(name.empty() ? int(std::strlen(line))
+                : of_table   ? int(ORBISK_MODEL_PLACEMENT_FOREIGN)
+                             : 15,
+                n);
+    }
     for (const auto &row : rows) {
       const std::string name = row.of_table ? t : r;
       const uint32_t after = row.of_table ? (t == "ipv4ShortMaskLpm" ? entries[0] : 1) : members[0];
