@@ -2,7 +2,8 @@
 // beyond each end, the profiles' action data and selector handles, and
 // handles of nothing: a handle of a table (or profile) gets exactly what its
 // per-table (per-profile) function gives, on a model holding entries and
-// members; any other gets its dispatcher's own miss answer.
+// members; any other gets its dispatcher's own miss answer. The placement
+// printers by handle likewise, on a record no decoder accepts.
 #include <gtest/gtest.h>
 
 #include <cstring>
@@ -84,7 +85,9 @@ TEST_F(Walk, EveryDispatcherOverEveryHandle) {
       r = kProfiles[i].adt_hdl == h ? kProfiles[i].name : r;
     tables += !t.empty();
     profiles += !r.empty();
-    // The placement printers by handle, given a record no decoder accepts.
+    // The placement printers by handle, given a record no decoder accepts: a
+    // line, and the decoder's status (a member's goes by the action handle it
+    // was left: none, 15).
     for (const bool of_table : {true, false}) {
       const std::string &name = of_table ? t : r;
       char line[96];
