@@ -1,0 +1,98 @@
+"""Counters, meters and registers by name. Which cells a resource has (an
+entry's, or an index's) is not in the schema text: their functions are
+typed from the library's declarations."""
+
+import ctypes
+from collections import namedtuple
+
+from ._native import CounterValue, MeterSpec
+from .values import OrbiskError
+
+Count = namedtuple("Count", "packets bytes")
+Meter = namedtuple("Meter", "cir cburst pir pburst meter_type")
+REGISTER_ROOM = 64
+
+
+class Resource:
+    kind = ""
+
+    def __init__(self, switch, name):
+        self.switch, self.name = switch, name
+        self._native = switch._native
+
+    def __repr__(self):
+        return "<%s %s of device %d>" % (self.kind, self.name, self.switch.device)
+
+    @property
+    def cells(self):
+        """'entry' for one cell per entry of a table, 'index' for cells by index."""
+        _, args = self._native.proto_fn("%s_read_%s" % (self.kind, self.name))
+        return "entry" if any(n == "entry_hdl" for _, n in args) else "index"
+
+    def _call(self, fn_name, entry=None, index=None, **given):
+        fn, args = self._native.proto_fn(fn_name)
+        sw, values, outs = self.switch, [], []
+        for (ctype, name), argtype in zip(args, fn.argtypes):
+            if name == "sess_hdl":
+                values.append(sw.session)
+            elif name == "dev_id":
+                values.append(sw.device)
+            elif name == "dev_tgt":
+                values.append(sw.target)
+            elif name == "entry_hdl":
+                if entry is None:
+                    raise OrbiskError("%s: cells are an entry's: entry=<handle>" % self.name)
+                values.append(entry)
+            elif name == "index":
+                if index is None:
+                    raise OrbiskError("%s: cells are by index: index=<n>" % self.name)
+                values.append(index)
+            elif name in given:
+                v = given[name]
+                values.append(ctypes.pointer(v) if "*" in ctype and not isinstance(v, ctypes.Array) else v)
+            elif "*" in ctype:
+                out = (argtype._type_ * REGISTER_ROOM)() if argtype._type_ is ctypes.c_uint8 else argtype._type_()
+                outs.append(out)
+                values.append(ctypes.cast(out, argtype) if isinstance(out, ctypes.Array) else ctypes.pointer(out))
+            else:
+                raise OrbiskError("%s: no value for argument %s of %s" % (self.name, name, fn_name))
+        st = fn(*values)
+        if st:
+            raise sw._error(fn_name, st)
+        return outs
+
+
+class Counter(Resource):
+    kind = "counter"
+
+    def read(self, entry=None, index=None, sync=True):
+        """A cell's packets and bytes; from the chip first unless sync=False."""
+        out, = self._call("counter_read_" + self.name, entry, index, flags=1 if sync else 0)
+        return Count(out.packets, out.bytes)
+
+    def write(self, value, entry=None, index=None):
+        self._call("counter_write_" + self.name, entry, index, counter_value=CounterValue(*value))
+
+
+class MeterRes(Resource):
+    kind = "meter"
+
+    def read(self, entry=None, index=None):
+        out, = self._call("meter_read_" + self.name, entry, index)
+        return Meter(out.cir, out.cburst, out.pir, out.pburst, out.meter_type)
+
+    def set(self, spec, entry=None, index=None):
+        spec = MeterSpec(**spec) if isinstance(spec, dict) else MeterSpec(*spec)
+        self._call("meter_set_" + self.name, entry, index, meter_spec=spec)
+
+
+class Register(Resource):
+    kind = "register"
+
+    def read(self, index, sync=True):
+        """The index's value in each pipe."""
+        values, count = self._call("register_read_" + self.name, None, index, flags=1 if sync else 0)
+        return [values[i] for i in range(count.value)]
+
+    def write(self, index, value):
+        self._call("register_write_" + self.name, None, index, register_value=ctypes.c_uint8(value))
