@@ -283,10 +283,18 @@ class Table:
             ex["meter"] = ctypes.pointer(m)
         return ex
 
-    def add(self, match=None, action=None, priority=None, member=None, group=None, meter=None, ttl=None,
-            **params):
+    def _take_extras(self, suffix, types, action, params):
+        """meter= and ttl= where the call carries them; a parameter of the
+        action of the same name is the parameter."""
+        kinds = [k for _, k in self._fn(suffix, types)[1]]
+        meter = params.pop("meter", None) if "meter" in kinds and "meter" not in action.by_name else None
+        ttl = params.pop("ttl", None) if "ttl" in kinds and "ttl" not in action.by_name else None
+        return meter, ttl, kinds
+
+    def add(self, match=None, action=None, priority=None, member=None, group=None, **params):
         """Adds an entry; its handle. An ordinary table takes an action and its
-        parameters as keywords; a selector table a member or a group."""
+        parameters as keywords (and meter= or ttl= where its adds carry
+        them); a selector table a member or a group."""
         sw, tgt = self.switch, self.switch.target
         out = U32()
         if self.shape.selector:
@@ -302,11 +310,11 @@ class Table:
         if member is not None or group is not None:
             raise OrbiskError("%s: the table holds actions, not members or groups" % self.name)
         a = self._action(action, "entry")
+        meter, ttl, kinds = self._take_extras("table_add_with_" + action, self._add_types(a), a, params)
         spec = fill_params(a, params, self.name)
         key = self._key_args(match, priority)
         extra = self._extras(meter, ttl)
-        if "meter" not in extra and any(k == "meter" for _, k in self._fn("table_add_with_" + action,
-                                                                             self._add_types(a))[1]):
+        if "meter" not in extra and "meter" in kinds:
             raise OrbiskError("%s: an entry of %s carries a meter: meter=(cir, cburst, pir, pburst, type)" %
                               (self.name, action))
         self._call("table_add_with_" + action, self._add_types(a),
@@ -317,7 +325,7 @@ class Table:
     def _add_types(self, a):
         return [U32, DevTarget] + self._key_types() + ([ctypes.POINTER(a.record)] if a.record else []) + [P_U32]
 
-    def modify(self, entry, action=None, member=None, group=None, meter=None, priority=None, **params):
+    def modify(self, entry, action=None, member=None, group=None, priority=None, **params):
         """Gives an entry (a handle, or a key dict) a new action and
         parameters, or a new member or group."""
         sw = self.switch
@@ -335,9 +343,10 @@ class Table:
         if action is None:
             raise OrbiskError("%s: an action is needed (actions: %s)" % (self.name, ", ".join(self.actions)))
         a = self._action(action, "entry")
+        types = head_t + ([ctypes.POINTER(a.record)] if a.record else [])
+        meter, _, _ = self._take_extras("table_modify_with_%s%s" % (action, tail), types, a, params)
         spec = fill_params(a, params, self.name)
-        self._call("table_modify_with_%s%s" % (action, tail),
-                   head_t + ([ctypes.POINTER(a.record)] if a.record else []),
+        self._call("table_modify_with_%s%s" % (action, tail), types,
                    head + ([ctypes.byref(spec)] if spec is not None else []), self._extras(meter, None))
 
     def delete(self, entry, priority=None):
@@ -445,7 +454,7 @@ class Table:
 
     # ------------------------------------------------------------ default
 
-    def set_default(self, action=None, member=None, group=None, meter=None, **params):
+    def set_default(self, action=None, member=None, group=None, **params):
         sw, out = self.switch, U32()
         if self.shape.selector:
             if (member is None) == (group is None) or action is not None:
@@ -455,9 +464,10 @@ class Table:
                        [sw.session, sw.target, member if member is not None else group, ctypes.byref(out)], {})
             return out.value
         a = self._action(action, "default")
+        types = [U32, DevTarget] + ([ctypes.POINTER(a.record)] if a.record else []) + [P_U32]
+        meter, _, _ = self._take_extras("set_default_action_" + action, types, a, params)
         spec = fill_params(a, params, self.name)
-        self._call("set_default_action_" + action,
-                   [U32, DevTarget] + ([ctypes.POINTER(a.record)] if a.record else []) + [P_U32],
+        self._call("set_default_action_" + action, types,
                    [sw.session, sw.target] + ([ctypes.byref(spec)] if spec is not None else []) + [ctypes.byref(out)],
                    self._extras(meter, None))
         return out.value
