@@ -5,7 +5,7 @@ import ctypes
 
 import pytest
 
-from conftest import widths_value
+from conftest import key_values, member_for, param_values
 from orbisk.tables import fill_params
 
 SWITCH = None
@@ -18,46 +18,8 @@ def table_names():
     return SWITCH.tables.names()
 
 
-def key_values(t, seed):
-    """A key for the table derived from its widths: ternary fields with a
-    full mask, prefix fields with a /w-8 prefix (host bits clear)."""
-    match = {}
-    for i, f in enumerate(t.shape.values):
-        v = widths_value(f.width, seed + i)
-        if f.prefix_field is not None:
-            plen = max(f.width - 8, 0) if i else f.width
-            v &= ~((1 << (f.width - plen)) - 1)
-            match[f.key] = (v, plen)
-        elif f.mask_field is not None:
-            match[f.key] = (v, (1 << f.width) - 1)
-        else:
-            match[f.key] = v
-    return match
-
-
-def param_values(action, seed, bits=None):
-    """Parameters derived from widths; bits=10 keeps them within the cells of
-    any resource a parameter may index on an add, which sends the index cut
-    to 16 bits (a modify sends it whole)."""
-    return {p.name: widths_value(min(p.width, bits or p.width), seed + i) for i, p in enumerate(action.params)}
-
-
 def same_record(rec_a, rec_b):
     return bytes(rec_a) == bytes(rec_b)
-
-
-def member_for(sw, t, match, prio):
-    """A member some profile holds that the selector table takes: each
-    profile's first member is tried (the schema does not say which profile
-    is behind a selector table)."""
-    for p in sw.profiles:
-        a = sorted(p.shape.actions.values(), key=lambda a: -len(a.params))[0]
-        m = p.add_member(a.name, **param_values(a, 3))
-        try:
-            return t.add(match=match, priority=prio, member=m), p, m
-        except Exception:
-            p.del_member(m)
-    raise AssertionError("%s takes no member of any profile" % t.name)
 
 
 @pytest.mark.parametrize("name", table_names())
