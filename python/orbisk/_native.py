@@ -152,19 +152,23 @@ class Prototypes:
     arguments of the counter, meter and register functions) is read from
     the declarations the library is built from."""
 
-    PROTO = re.compile(r"^(?:const )?[\w ]*?\**\s*\b(" + PREFIX + r"\w+)\(([^;]*?)\);", re.M | re.S)
-
     def __init__(self, text):
         self.args = {}
-        for m in self.PROTO.finditer(text or ""):
-            params = [p.strip() for p in m.group(2).replace("\n", " ").split(",")]
+        for decl in (text or "").split(";"):
+            start = decl.find(PREFIX)
+            if start < 0 or "(" not in decl[start:] or "typedef" in decl or "#" in decl[start:]:
+                continue
+            name, _, rest = decl[start:].partition("(")
+            if not name.isidentifier():
+                continue
             out = []
-            for p in params:
+            for p in rest.rstrip().rstrip(")").replace("\n", " ").split(","):
+                p = p.strip()
                 if p in ("void", ""):
                     continue
-                pm = re.match(r"(.*?)(\w+)$", p)
-                out.append((pm.group(1).replace("const", "").strip(), pm.group(2)))
-            self.args[m.group(1)[len(PREFIX):]] = out
+                cut = len(p.rstrip("_abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789"))
+                out.append((p[:cut].replace("const", "").strip(), p[cut:]))
+            self.args[name[len(PREFIX):]] = out
 
     def __bool__(self):
         return bool(self.args)
@@ -207,12 +211,24 @@ class Native:
         self.driver = ctypes.CDLL(driver_path, mode=ctypes.RTLD_GLOBAL)
         self.lib = ctypes.CDLL(lib_path)
         self.names = {n[len(PREFIX):] for n in exported_functions(lib_path) if n.startswith(PREFIX)}
-        dirs = find_headers(lib_path)
-        self.protos = Prototypes(_header(dirs, "orbisk_switch/pd.h"))
-        self.status_names = statuses(dirs)
+        self._dirs = find_headers(lib_path)
+        self._protos = self._status_names = None
         self.is_model = hasattr(self.driver, "orbisk_model_reset")
         self.lib[PREFIX + "init"]()
         self._fns = {}
+
+    @property
+    def protos(self):
+        """The library's declarations, read on first use."""
+        if self._protos is None:
+            self._protos = Prototypes(_header(self._dirs, "orbisk_switch/pd.h"))
+        return self._protos
+
+    @property
+    def status_names(self):
+        if self._status_names is None:
+            self._status_names = statuses(self._dirs)
+        return self._status_names
 
     def fn(self, name, argtypes, restype=ctypes.c_uint32, prefix=PREFIX):
         """The exported function p4_pd_orbisk_switch_<name>, typed."""

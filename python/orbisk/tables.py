@@ -30,6 +30,15 @@ class Entry:
     group: int = None
     is_default: bool = False
 
+    def __str__(self):
+        if self.member is not None or self.group is not None:
+            what = "member 0x%x" % self.member if self.member is not None else "group 0x%x" % self.group
+        else:
+            what = "%s(%s)" % (self.action, ", ".join("%s=%r" % kv for kv in self.params.items()))
+        return "%s[%s] %s%s -> %s" % (self.table, "default" if self.handle is None else "0x%x" % self.handle,
+                                      self.match or "", "" if self.priority is None else
+                                      " priority %d" % self.priority, what)
+
     def spec(self):
         """What add() takes to make this entry again."""
         d = {"match": dict(self.match)}
@@ -186,6 +195,9 @@ class Table:
                                   (self.name, f.key, show(value, f.width, f.fmt), plen))
             store_value(rec, f, value)
             return
+        elif isinstance(v, tuple):
+            raise OrbiskError("%s.%s: %r given, but the field is matched exactly (a ternary field takes "
+                              "(value, mask), a prefix field (value, length))" % (self.name, f.key, v))
         else:
             value = v
         store_value(rec, f, parse_scalar(value, f.width, f.fmt, self.name, f.key))

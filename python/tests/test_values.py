@@ -87,6 +87,8 @@ BAD = [
      orbisk.OrbiskError, "tunnelTermination.tunnelType: a ternary value is (value, mask)"),
     (lambda sw: sw.tables.tunnelTermination.add(match={"tunnelType": (1, 8)}, action="setTunnelTerminationTypeVxlan"),
      orbisk.OrbiskError, "tunnelTermination.tunnelType: mask 0x8 is wider than the field's 3 bits"),
+    (lambda sw: sw.tables.ipv4Host.add(match={"vrfId": (1, 1)}, action="setNextHop"), orbisk.OrbiskError,
+     "ipv4Host.vrfId: (1, 1) given, but the field is matched exactly"),
     (lambda sw: sw.tables.ipv4Host.add(match={"vrfId": 1}, priority=3, action="setNextHop"), orbisk.OrbiskError,
      "ipv4Host: the table takes no priority"),
     (lambda sw: sw.tables.vlanDecap.add(action="removeVlanHdr"), orbisk.OrbiskError,
