@@ -120,6 +120,8 @@ class Table:
         self._native = switch._native
         self._pairs = mac_pairs(shape.values, key=lambda f: f.key)
         self._calls = {}
+        self._allowed = {}
+        self._types = {}
 
     def __repr__(self):
         return "<table %s 0x%08x of device %d>" % (self.name, self.shape.handle, self.switch.device)
@@ -213,15 +215,20 @@ class Table:
                 v = "%s/%d" % (v, plen) if isinstance(v, str) else (v, plen)
             out[f.key] = v
         for whole, (hi, lo) in self._pairs.items():
-            a, b = out.pop(hi.key), out.pop(lo.key)
+            a, b = out[hi.key], out[lo.key]
             if isinstance(a, tuple):
-                out[whole] = (show_mac(int(a[0].replace(":", ""), 16), int(b[0].replace(":", ""), 16)),
-                              show_mac(int(a[1].replace(":", ""), 16), int(b[1].replace(":", ""), 16)))
+                v = (show_mac(int(a[0].replace(":", ""), 16), int(b[0].replace(":", ""), 16)),
+                     show_mac(int(a[1].replace(":", ""), 16), int(b[1].replace(":", ""), 16)))
             else:
-                out[whole] = show_mac(int(a.replace(":", ""), 16), int(b.replace(":", ""), 16))
+                v = show_mac(int(a.replace(":", ""), 16), int(b.replace(":", ""), 16))
+            # The whole address stands where its first half stood.
+            out = {(whole if k == hi.key else k): (v if k == hi.key else x) for k, x in out.items() if k != lo.key}
         return out
 
     def _action(self, name, use):
+        got = self._allowed.get((name, use))
+        if got is not None:
+            return got
         a = self.shape.actions.get(name)
         fn = ("table_add_with_%s" if use == "entry" else "set_default_action_%s") % name
         if a is None or not self._native.has("%s_%s" % (self.name, fn)):
@@ -231,6 +238,7 @@ class Table:
             raise OrbiskError("%s: unknown action %r %s (allowed: %s)" %
                               (self.name, name, "for an entry" if use == "entry" else "as default",
                                ", ".join(allowed) or "none"))
+        self._allowed[(name, use)] = a
         return a
 
     # -------------------------------------------------------------- calls
@@ -335,6 +343,12 @@ class Table:
         return out.value
 
     def _add_types(self, a):
+        got = self._types.get(a.name)
+        if got is None:
+            got = self._types[a.name] = self._add_types_of(a)
+        return got
+
+    def _add_types_of(self, a):
         return [U32, DevTarget] + self._key_types() + ([ctypes.POINTER(a.record)] if a.record else []) + [P_U32]
 
     def modify(self, entry, action=None, member=None, group=None, priority=None, **params):

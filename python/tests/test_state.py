@@ -123,7 +123,7 @@ def test_shell_runs_commands_and_completes_names():
     out = run_shell([b"h = sw.tables.ipv4Ho\t.add(match={'vrf\t: 2, 'dip': '10.9.8.7'}, action='setNex\t"
                      b"', nextHop=5)\n", b"print(sw.tables.ipv4Host.get(h))\n"])
     assert "device 0, 154 tables, 6 profiles" in out
-    assert "match={'vrfId': 2, 'dip': '10.9.8.7'}, action='setNextHop', params={'nextHop': 5}" in out
+    assert "ipv4Host[0x1] {'vrfId': 2, 'dip': '10.9.8.7'} -> setNextHop(nextHop=5)" in out
 
 
 def test_shell_runs_one_command():
