@@ -84,14 +84,29 @@ def _candidates_dirs():
     return [os.path.join(root, d) for d in sorted(os.listdir(root)) if d.startswith("build")]
 
 
+def _usable_tree(build):
+    """A build tree with the library and the model, and no sanitizers unless
+    their run-time is preloaded (an interpreter is not built with them)."""
+    if not os.path.exists(os.path.join(build, "driver_model", MODEL_NAME)):
+        return False
+    cache = os.path.join(build, "CMakeCache.txt")
+    if os.path.exists(cache) and not os.environ.get("LD_PRELOAD"):
+        with open(cache) as f:
+            if re.search(r"^ORBISK_SANITIZE:BOOL=ON$", f.read(), re.M):
+                return False
+    return True
+
+
 def find_library(explicit=None):
     """The library: the argument, $ORBISK_PD_LIB, $ORBISK_BUILD_DIR's, or the
-    newest one in a build* directory next to the package's source tree."""
+    newest one in a build* directory next to the package's source tree that
+    also holds the model."""
     if explicit:
         return explicit
     if os.environ.get("ORBISK_PD_LIB"):
         return os.environ["ORBISK_PD_LIB"]
-    dirs = [os.environ["ORBISK_BUILD_DIR"]] if os.environ.get("ORBISK_BUILD_DIR") else _candidates_dirs()
+    dirs = ([os.environ["ORBISK_BUILD_DIR"]] if os.environ.get("ORBISK_BUILD_DIR") else
+            [d for d in _candidates_dirs() if _usable_tree(d)])
     found = [os.path.join(d, "bf_orbisk_switch_nat_vxlan", LIB_NAME) for d in dirs]
     found = [p for p in found if os.path.exists(p)]
     if not found:

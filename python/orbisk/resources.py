@@ -96,3 +96,52 @@ class Register(Resource):
 
     def write(self, index, value):
         self._call("register_write_" + self.name, None, index, register_value=ctypes.c_uint8(value))
+
+
+class _Attr(ctypes.Structure):
+    _fields_ = [("input_field", ctypes.c_uint32), ("attr_type", ctypes.c_uint32), ("value", ctypes.c_uint64)]
+
+
+class Hash(Resource):
+    """A hash calculation: its seed, and the value it gives for fields."""
+    kind = "hash_calc"
+
+    def _fn(self, what, types, restype=ctypes.c_uint32):
+        return self._native.fn("hash_calc_%s_%s" % (self.name, what), types, restype)
+
+    def _status(self, what, st):
+        if st:
+            raise self.switch._error("hash_calc_%s_%s" % (self.name, what), st)
+
+    @property
+    def seed(self):
+        out = ctypes.c_uint64()
+        self._status("seed_get", self._fn("seed_get", [ctypes.c_uint32, ctypes.c_uint32,
+                                                       ctypes.POINTER(ctypes.c_uint64)])(
+            self.switch.session, self.switch.device, ctypes.byref(out)))
+        return out.value
+
+    @seed.setter
+    def seed(self, value):
+        self._status("seed_set", self._fn("seed_set", [ctypes.c_uint32, ctypes.c_uint32, ctypes.c_uint64])(
+            self.switch.session, self.switch.device, value))
+
+    def calculate(self, fields, length=4):
+        """The hash of fields given as (value, width in bits), first field
+        first, as the driver computes it: length bytes."""
+        n = len(fields)
+        keep = []
+        attrs = (_Attr * max(n, 1))()
+        widths = (ctypes.c_uint32 * max(n, 1))()
+        for i, (value, width) in enumerate(fields):
+            if width > 32:
+                buf = ctypes.create_string_buffer(value.to_bytes((width + 7) // 8, "big"), (width + 7) // 8)
+                keep.append(buf)
+                value = ctypes.addressof(buf)
+            attrs[i] = _Attr(i, 0, value)
+            widths[i] = width
+        out = (ctypes.c_uint8 * length)()
+        self._status("calculate_hash_value", self._fn("calculate_hash_value", [
+            ctypes.c_uint32, ctypes.c_uint32, ctypes.c_uint32, ctypes.c_void_p, ctypes.c_void_p, ctypes.c_void_p,
+            ctypes.c_uint32])(self.switch.session, self.switch.device, n, attrs, widths, out, length))
+        return bytes(out)

@@ -7,7 +7,7 @@ import pprint
 
 from ._native import DevTarget, Native, PIPE_ALL
 from .profiles import Profile
-from .resources import Counter, MeterRes, Register
+from .resources import Counter, Hash, MeterRes, Register
 from .schema import ActionCache, ProfileShape, TableShape
 from .tables import Table, strip_prefix
 from .values import DriverError, OrbiskError
@@ -79,6 +79,8 @@ class Switch:
         self.registers = Namespace("register", [n for n in _suffixed(names, "", "register_read_")
                                               if n not in ("direct", "indirect")],
                                    lambda n: Register(self, n))
+        self.hashes = Namespace("hash calculation", _suffixed(names, "_seed_get", "hash_calc_"),
+                                lambda n: Hash(self, n))
 
     def __repr__(self):
         return "<switch device %d: %d tables, %d profiles>" % (self.device, len(self.tables), len(self.profiles))
