@@ -589,4 +589,32 @@ pd_status pipe_mgr_hitless_ha_restore_virtual_dev_state(pd_sess_hdl, uint32_t, u
   return BF_SUCCESS;
 }
 
+// Placement data: an empty record, decoded as the entry a read answers.
+pd_status pipe_mgr_plcmt_mat_data_get(pd_sess_hdl, pd_dev_target, pd_tbl_hdl, pd_entry_hdl,
+                                      void *, uint32_t *size) {
+  *size = 0;
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_plcmt_adt_data_get(pd_sess_hdl, pd_dev_target, pd_tbl_hdl, pd_mbr_hdl, void *,
+                                      uint32_t *size) {
+  *size = 0;
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_plcmt_sel_data_get(pd_sess_hdl, pd_dev_target, pd_tbl_hdl, pd_grp_hdl, void *,
+                                      uint32_t *size) {
+  *size = 0;
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_plcmt_mat_data_get_entry(const void *, pd_match_record *key,
+                                            pd_action_record *act, pd_act_fn_hdl *fn) {
+  copy_key(key);
+  fill_action(act);
+  *fn = kL2LookupKnownUcast;
+  return BF_SUCCESS;
+}
+pd_status pipe_mgr_plcmt_adt_data_get_entry(const void *, pd_action_record *, pd_act_fn_hdl *fn) {
+  *fn = kSetEcmpNextHop;
+  return BF_SUCCESS;
+}
+
 }  // extern "C"

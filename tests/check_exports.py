@@ -71,6 +71,8 @@ def main(lib, root):
         for s in ("set_property", "get_property", "get_mat_table_handle",
                   "register_mat_update_cb"):
             add(s, "%s%s_%s" % (P, n, s))
+        add("plcmt_data", "%s%s_get_plcmt_data" % (P, n))
+        add("plcmt_decode", "%s%s_get_entry_from_plcmt_data" % (P, n))
     params = {}
     for t in tables:
         for a in t.get("actions", []):
@@ -102,6 +104,10 @@ def main(lib, root):
                   "get_sel_table_handle", "register_callback", "sel_track_updates",
                   "register_sel_update_cb"):
             add("groups", "%s%s_%s" % (P, p["name"], s))
+    for p in program["profiles"]:
+        for s in ("get_plcmt_data", "sel_get_plcmt_data", "get_member_from_plcmt_data",
+                  "get_full_member_info_from_plcmt_data"):
+            add("profile_plcmt", "%s%s_%s" % (P, p["name"], s))
     for s in ("init", "cleanup", "dev_remove", "dev_log", "dev_restore", "device_state_cleanup",
               "action_enum_to_string", "action_string_to_enum", "restore_virtual_dev_state",
               "ha_restore_state_from_adt_sel"):
@@ -161,7 +167,8 @@ def main(lib, root):
              "counter": 51, "meter": 16, "meter_generic": 5, "register": 28, "register_generic": 9,
              "add_member": 15, "modify_member": 15, "members": 42, "groups": 126,
              "indirect": 48, "indirect_get_entry": 6,
-             "hash_calc": 120, "pvs": 70, "digest": 9, "snapshot": 4}
+             "hash_calc": 120, "pvs": 70, "digest": 9, "snapshot": 4,
+             "plcmt_data": 154, "plcmt_decode": 154, "profile_plcmt": 24}
     failed = False
     for k, v in known.items():
         if len(fam.get(k, ())) != v:

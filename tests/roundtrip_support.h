@@ -50,6 +50,18 @@ struct Call {
   p4_pd_orbisk_switch_action_names_t *action_enum = nullptr;
   bool *is_default = nullptr;
   pd_default_action_record *default_out = nullptr;
+  // Placement data, members and groups.
+  pd_tbl_hdl tbl_hdl = 0;
+  void *plcmt_data = nullptr;
+  uint32_t *size = nullptr;
+  p4_pd_orbisk_switch_action_specs_t *specs_out = nullptr;
+  pd_mbr_hdl mbr_hdl = 0;
+  pd_grp_hdl grp_hdl = 0;
+  pd_mbr_hdl *mbr_hdl_out = nullptr;
+  pd_grp_hdl *grp_hdl_out = nullptr;
+  bool *has_mbr = nullptr;
+  bool *has_grp = nullptr;
+  uint32_t max_grp_size = 0;
 };
 
 using Thunk = pd_status (*)(const Call &);
@@ -77,10 +89,45 @@ struct TableRow {
   Thunk table_get_default_entry = nullptr;
   Thunk table_get_default_entry_handle = nullptr;
   Thunk table_reset_default_entry = nullptr;
+  Thunk get_plcmt_data = nullptr;
+  Thunk get_entry_from_plcmt_data = nullptr;
+};
+
+// A table whose entries name a member or a group of its profile.
+struct IndirectRow {
+  const orbisk::pd::TableDesc *table;
+  Thunk add_entry = nullptr;
+  Thunk add_entry_with_selector = nullptr;
+  Thunk set_default_entry = nullptr;
+  Thunk get_plcmt_data = nullptr;
+  Thunk get_entry_from_plcmt_data = nullptr;
+};
+
+// A member of a profile made with one action.
+struct MemberRow {
+  const orbisk::pd::ActionDesc *action;
+  Thunk add_member_with = nullptr;
+};
+
+struct ProfileRow {
+  const orbisk::pd::ProfileDesc *profile;
+  const MemberRow *members;
+  std::size_t num_members;
+  Thunk create_group = nullptr;
+  Thunk add_member_to_group = nullptr;
+  Thunk profile_get_plcmt_data = nullptr;
+  Thunk profile_sel_get_plcmt_data = nullptr;
+  Thunk get_member_from_plcmt_data = nullptr;
+  Thunk get_full_member_info_from_plcmt_data = nullptr;
 };
 
 // Generated: every direct table in catalogue order.
 extern const TableRow kTableRows[];
 extern const std::size_t kNumTableRows;
+// Generated: every indirect table and every profile, in catalogue order.
+extern const IndirectRow kIndirectRows[];
+extern const std::size_t kNumIndirectRows;
+extern const ProfileRow kProfileRows[];
+extern const std::size_t kNumProfileRows;
 
 }  // namespace roundtrip

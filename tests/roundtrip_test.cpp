@@ -177,6 +177,67 @@ struct Readback {
 
 std::string full_name(const ActionDesc &a) { return std::string("p4_pd_orbisk_switch_") + a.name; }
 
+// Room for any match entry or member record of the model.
+using Room = std::vector<uint8_t>;
+Room room() { return Room(ORBISK_MODEL_PLACEMENT_MAX_BYTES, 0); }
+
+// Points a call's fetch at `r` with a table handle the fetch must not look
+// at, and checks after it that the driver was given `own`.
+void fetch_into(Call &c, Room &r, uint32_t &size) {
+  size = uint32_t(r.size());
+  c.tbl_hdl = 0x7E57AB1Eu;
+  c.plcmt_data = r.data();
+  c.size = &size;
+}
+void expect_handle_given(pd_tbl_hdl own) {
+  const orbisk_model_call *call = orbisk_model_last_call();
+  ASSERT_NE(nullptr, call);
+  EXPECT_EQ(own, call->args[2]) << call->function << " was not given the object's own handle";
+}
+
+// An action out record preset to what a decoder must overwrite.
+p4_pd_orbisk_switch_action_specs_t preset_specs() {
+  p4_pd_orbisk_switch_action_specs_t s;
+  std::memset(&s, 0xEE, sizeof s);
+  s.name = P4_PD_ORBISK_SWITCH_ACTION_COUNT;
+  return s;
+}
+
+// The placement data of an entry (or of the default entry, `dflt`) of a
+// direct table, fetched and decoded: the key written (none for a default),
+// the priority, the action and its parameters; is-default for a default and
+// for every record of a keyless table.
+void expect_placement(const TableRow &row, Call c, const Record *ms, const ActionDesc &a,
+                      const Record &as, uint32_t priority) {
+  const TableDesc &t = *row.table;
+  Room r = room();
+  uint32_t size = 0;
+  fetch_into(c, r, size);
+  ASSERT_EQ(BF_SUCCESS, row.get_plcmt_data(c));
+  expect_handle_given(t.handle);
+  Readback rb(t);
+  auto specs = preset_specs();
+  const bool shown_default = ms == nullptr || !t.keyed();
+  rb.is_default = !shown_default;
+  rb.priority = 0xEEEEEEEE;
+  c.match_spec_out.p = rb.ms.bytes();
+  c.priority_out = &rb.priority;
+  c.specs_out = &specs;
+  c.is_default = &rb.is_default;
+  ASSERT_EQ(BF_SUCCESS, row.get_entry_from_plcmt_data(c));
+  EXPECT_EQ(shown_default, rb.is_default);
+  if (t.keyed()) {
+    EXPECT_TRUE(same_key(t, ms ? *ms : Record(t.match_spec_size), rb.ms)) << "placement key";
+  }
+  if (t.ternary()) {
+    EXPECT_EQ(priority, rb.priority);
+  }
+  EXPECT_EQ(a.enum_value, uint32_t(specs.name));
+  if (a.num_params) {
+    EXPECT_TRUE(same_params(a, as, &specs.u)) << "placement parameters";
+  }
+}
+
 class RoundTrip : public ::testing::TestWithParam<TableRow> {
  protected:
   void SetUp() override {
@@ -241,6 +302,7 @@ void RoundTrip::entry_round_trip(const TableRow &row, const ActionRow &ar, unsig
     EXPECT_EQ(kPriority, rb.priority);
   }
   EXPECT_TRUE(same_params(a, as, &rb.spec)) << "after the add";
+  ASSERT_NO_FATAL_FAILURE(expect_placement(row, c, &ms, a, as, kPriority));
 
   pd_entry_hdl found = 0;
   c.entry_hdl_out = &found;
@@ -303,6 +365,7 @@ void RoundTrip::default_round_trip(const TableRow &row, const ActionRow &ar, uns
     EXPECT_TRUE(same_key(t, Record(t.match_spec_size), rb.ms)) << "a default entry has no key";
   }
   EXPECT_EQ(full_name(a), rb.name);
+  ASSERT_NO_FATAL_FAILURE(expect_placement(row, c, nullptr, a, as, 0));
   ASSERT_EQ(BF_SUCCESS, row.table_reset_default_entry(c));
 }
 
@@ -351,6 +414,171 @@ TEST(RoundTripRows, EveryDirectTableHasOneInCatalogueOrder) {
     EXPECT_EQ(&orbisk::pd::kTables[i], kTableRows[n++].table);
   }
   EXPECT_EQ(n, kNumTableRows);
+}
+
+// ------------------------------------------ placement: profiles, selectors ---
+
+class PlacementSweep : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    orbisk_model_reset();
+    p4_pd_orbisk_switch_init();
+  }
+  void TearDown() override {
+    EXPECT_EQ(BF_SUCCESS, p4_pd_orbisk_switch_cleanup());
+    EXPECT_EQ(0u, orbisk_model_live_allocations());
+  }
+  static Call base() {
+    Call c;
+    c.sess_hdl = kSess;
+    c.dev_tgt = {kDevice, PD_DEV_PIPE_ALL};
+    c.dev_id = kDevice;
+    c.priority = kPriority;
+    c.max_grp_size = 4;
+    return c;
+  }
+  // A member of the profile made with one of its actions, its parameters from seed.
+  static pd_mbr_hdl member(const MemberRow &mr, Record &as, unsigned seed) {
+    fill_params(*mr.action, as, seed, false);
+    Call c = base();
+    c.action_spec.p = as.bytes();
+    pd_mbr_hdl m = 0;
+    c.mbr_hdl_out = &m;
+    EXPECT_EQ(BF_SUCCESS, mr.add_member_with(c)) << mr.action->name;
+    return m;
+  }
+};
+
+TEST_F(PlacementSweep, EveryMemberOfEveryProfileAndAGroup) {
+  ASSERT_EQ(orbisk::pd::kNumProfiles, kNumProfileRows);
+  unsigned seed = 1;
+  for (std::size_t i = 0; i < kNumProfileRows; ++i) {
+    const ProfileRow &pr = kProfileRows[i];
+    const orbisk::pd::ProfileDesc &p = *pr.profile;
+    SCOPED_TRACE(p.name);
+    ASSERT_EQ(p.num_actions, pr.num_members);
+    pd_mbr_hdl last = 0;
+    for (std::size_t k = 0; k < pr.num_members; ++k) {
+      const ActionDesc &a = *pr.members[k].action;
+      SCOPED_TRACE(a.name);
+      Record as(a.spec_size);
+      last = member(pr.members[k], as, seed++);
+      Call c = base();
+      Room r = room();
+      uint32_t size = 0;
+      fetch_into(c, r, size);
+      c.mbr_hdl = last;
+      ASSERT_EQ(BF_SUCCESS, pr.profile_get_plcmt_data(c));
+      expect_handle_given(p.adt_hdl);
+      // Both decoders give the same; the full one asks the state for the
+      // member's resources when the action has parameters.
+      for (Thunk decode : {pr.get_member_from_plcmt_data, pr.get_full_member_info_from_plcmt_data}) {
+        auto specs = preset_specs();
+        c.specs_out = &specs;
+        orbisk_model_clear_calls();
+        ASSERT_EQ(BF_SUCCESS, decode(c));
+        EXPECT_EQ(a.enum_value, uint32_t(specs.name));
+        if (a.num_params) {
+          EXPECT_TRUE(same_params(a, as, &specs.u));
+        }
+        bool asked = false;
+        for (std::size_t n = 0; n < orbisk_model_call_count(); ++n)
+          asked |= std::string("p4_pd_ms_mbr_get_res") == orbisk_model_call_at(n)->function;
+        EXPECT_EQ(decode == pr.get_full_member_info_from_plcmt_data && a.num_params != 0, asked);
+      }
+    }
+    // A group's record is fetched, never decoded: its length tells its one member.
+    pd_grp_hdl g = 0;
+    Call c = base();
+    c.grp_hdl_out = &g;
+    ASSERT_EQ(BF_SUCCESS, pr.create_group(c));
+    c.grp_hdl = g;
+    c.mbr_hdl = last;
+    ASSERT_EQ(BF_SUCCESS, pr.add_member_to_group(c));
+    Room r = room();
+    uint32_t size = 0;
+    fetch_into(c, r, size);
+    ASSERT_EQ(BF_SUCCESS, pr.profile_sel_get_plcmt_data(c));
+    expect_handle_given(p.sel_hdl);
+    EXPECT_EQ(36u + 5u, size);
+  }
+}
+
+TEST_F(PlacementSweep, EveryIndirectTableByMemberByGroupAndItsDefault) {
+  unsigned seed = 1;
+  for (std::size_t i = 0; i < kNumIndirectRows; ++i) {
+    const IndirectRow &ir = kIndirectRows[i];
+    const TableDesc &t = *ir.table;
+    SCOPED_TRACE(t.name);
+    const ProfileRow *pr = nullptr;
+    for (std::size_t k = 0; k < kNumProfileRows; ++k)
+      if (kProfileRows[k].profile == t.profile) pr = &kProfileRows[k];
+    ASSERT_NE(nullptr, pr);
+    Record as(pr->members[0].action->spec_size);
+    const pd_mbr_hdl m = member(pr->members[0], as, seed++);
+    pd_grp_hdl g = 0;
+    Call c = base();
+    c.grp_hdl_out = &g;
+    c.mbr_hdl = m;
+    ASSERT_EQ(BF_SUCCESS, pr->create_group(c));
+    c.grp_hdl = g;
+    ASSERT_EQ(BF_SUCCESS, pr->add_member_to_group(c));
+
+    Record by_mbr(t.match_spec_size), by_grp(t.match_spec_size);
+    ASSERT_NO_FATAL_FAILURE(fill_key(t, by_mbr, seed++));
+    ASSERT_NO_FATAL_FAILURE(fill_key(t, by_grp, seed++));
+    pd_entry_hdl h_mbr = 0, h_grp = 0, h_dflt = ORBISK_MODEL_DEFAULT_ENTRY_HDL;
+    c.match_spec.p = by_mbr.bytes();
+    c.entry_hdl_out = &h_mbr;
+    ASSERT_EQ(BF_SUCCESS, ir.add_entry(c));
+    c.match_spec.p = by_grp.bytes();
+    c.entry_hdl_out = &h_grp;
+    ASSERT_EQ(BF_SUCCESS, ir.add_entry_with_selector(c));
+
+    // The declared default is a direct action: neither kind, so the
+    // handles and flags stay as the caller left them, and the status is 0.
+    const struct {
+      pd_entry_hdl *hdl;
+      const Record *key;
+      int kind;  // 2 member, 4 group, 0 neither
+    } cases[] = {{&h_dflt, nullptr, 0}, {&h_mbr, &by_mbr, 2}, {&h_grp, &by_grp, 4}, {&h_dflt, nullptr, 2}};
+    for (const auto &k : cases) {
+      SCOPED_TRACE(k.kind);
+      if (k.key == nullptr && k.kind == 2) {
+        c.entry_hdl_out = &h_dflt;
+        ASSERT_EQ(BF_SUCCESS, ir.set_default_entry(c));
+      }
+      Room r = room();
+      uint32_t size = 0;
+      Call d = c;
+      fetch_into(d, r, size);
+      d.entry_hdl = *k.hdl;
+      ASSERT_EQ(BF_SUCCESS, ir.get_plcmt_data(d));
+      expect_handle_given(t.handle);
+      Readback rb(t);
+      pd_mbr_hdl mo = 0xEEEE;
+      pd_grp_hdl go = 0xEEEE;
+      bool has_mbr = k.kind != 2, has_grp = k.kind != 4;
+      rb.is_default = k.key != nullptr;
+      d.match_spec_out.p = rb.ms.bytes();
+      d.priority_out = &rb.priority;
+      d.mbr_hdl_out = &mo;
+      d.grp_hdl_out = &go;
+      d.has_mbr = &has_mbr;
+      d.has_grp = &has_grp;
+      d.is_default = &rb.is_default;
+      ASSERT_EQ(BF_SUCCESS, ir.get_entry_from_plcmt_data(d));
+      EXPECT_EQ(k.key == nullptr, rb.is_default);
+      EXPECT_TRUE(same_key(t, k.key ? *k.key : Record(t.match_spec_size), rb.ms));
+      EXPECT_EQ(k.kind == 2 ? m : 0xEEEE, mo);
+      EXPECT_EQ(k.kind == 4 ? g : 0xEEEE, go);
+      EXPECT_EQ(k.kind != 4, has_mbr);
+      EXPECT_EQ(k.kind != 2, has_grp);
+      if (t.ternary() && k.key != nullptr) {
+        EXPECT_EQ(kPriority, rb.priority);
+      }
+    }
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(Catalogue, RoundTrip, ::testing::ValuesIn(kTableRows, kTableRows + kNumTableRows),

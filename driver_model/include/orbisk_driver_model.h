@@ -18,14 +18,12 @@
  *   Properties: per device and table, each property's two values, and the
  *     table's update callback.
  *   Counters, meters and registers: see "Counters, meters and registers".
- *   Homes, empty for now, for what later driver services keep: action data
- *     and selector tables per profile and device; digests; snapshots by
- *     device and pipe; placement data.
  *   Hash calculations, parser value sets, learning digests and snapshots:
  *     see their sections below.
- *   Homes, empty for now, for what later driver services keep: action data
- *     and selector tables per profile and device; counters, meters and
- *     registers by device, resource handle and pipe; placement data.
+ *   The hardware view: per device, table and entry, what the chip holds
+ *     where a test made it differ from what software wrote. Placement
+ *     records are made from the other stores on each fetch (see "placement
+ *     data" below).
  *   What the model knows of the program (tables, key fields and widths,
  *   actions, parameters, resources) comes from the descriptors generated from
  *   the catalogue, the same ones the library is built from.
@@ -269,9 +267,11 @@
 #ifndef ORBISK_DRIVER_MODEL_H
 #define ORBISK_DRIVER_MODEL_H
 
+#include <stdbool.h>
 #include <stddef.h>
 #include <stdint.h>
 
+#include "orbisk_switch/pd.h"
 #include "orbisk_switch/pd_driver.h"
 
 #ifdef __cplusplus
@@ -360,6 +360,25 @@ extern "C" {
 #define ORBISK_MODEL_NO_SUCH_SNAPSHOT ((pd_status)0x136)
 /* orbisk_model_snapshot_trigger on a snapshot whose trigger is not set. */
 #define ORBISK_MODEL_SNAPSHOT_NOT_ARMED ((pd_status)0x137)
+
+/* Placement data and the hardware view. */
+/* A placement record the model did not make: not its mark or version, or
+ * contents that no table or profile of the program could hold. */
+#define ORBISK_MODEL_PLACEMENT_FOREIGN ((pd_status)0x140)
+/* A placement record cut short or changed: its length below what its kind
+ * needs or above ORBISK_MODEL_PLACEMENT_MAX_BYTES, its checksum wrong, or its
+ * parts not adding up to its length. */
+#define ORBISK_MODEL_PLACEMENT_DAMAGED ((pd_status)0x141)
+/* A placement record of another kind: a member's to the match decode, a
+ * match entry's to the member decode, a group's to either. */
+#define ORBISK_MODEL_PLACEMENT_WRONG_KIND ((pd_status)0x142)
+/* A fetch given less room than the record's length: *size says the length,
+ * nothing is written. */
+#define ORBISK_MODEL_PLACEMENT_NO_ROOM ((pd_status)0x143)
+/* A hardware change at a byte past the entry's key or action data. */
+#define ORBISK_MODEL_HW_PAST_END ((pd_status)0x144)
+/* A read from hardware of an entry dropped from it (orbisk_model_hw_drop). */
+#define ORBISK_MODEL_HW_DROPPED ((pd_status)0x145)
 
 /* Handle of the default entry of every table. */
 #define ORBISK_MODEL_DEFAULT_ENTRY_HDL ((pd_entry_hdl)0x80000000u)
@@ -615,6 +634,64 @@ size_t orbisk_model_digests_pending(uint32_t device_id, uint32_t digest_hdl);
 pd_status orbisk_model_snapshot_trigger(uint32_t snapshot_hdl);
 /* ORBISK_MODEL_SNAPSHOT_* of a snapshot; NONE for an unknown handle. */
 int orbisk_model_snapshot_state(uint32_t snapshot_hdl);
+
+/* ---------------------------------------------------- placement data --- */
+
+/* The model's placement records, made by the three pipe_mgr_plcmt_*_get
+ * fetches from what software wrote, and read back by the two _get_entry
+ * calls (the format is in the model's README). Each starts with a header of
+ * ORBISK_MODEL_PLACEMENT_HEADER_BYTES: a mark, a version, its kind, its
+ * length and a checksum. A decode reads that header first, then never more
+ * than the length it declares, and refuses without reading on a length above
+ * ORBISK_MODEL_PLACEMENT_MAX_BYTES: a buffer of that many bytes, or of the
+ * length its fetch answered, is always safe to hand it. Match entry and
+ * member records are at most that long; a group's record grows with its
+ * members (36 + 5 bytes a member) and is never decoded. */
+#define ORBISK_MODEL_PLACEMENT_VERSION 1
+#define ORBISK_MODEL_PLACEMENT_HEADER_BYTES 16
+#define ORBISK_MODEL_PLACEMENT_MAX_BYTES                                              \
+  (60 + 2 * P4_PD_ORBISK_SWITCH_MAX_KEY_BYTES + P4_PD_ORBISK_SWITCH_MAX_ACTION_DATA_BYTES + \
+   PD_ACTION_RESOURCE_SLOTS * (int)sizeof(pd_resource_record))
+
+/* ---------------------------------------------------------- hardware view --- */
+
+/* What the chip holds for an entry, beside what software wrote: the two are
+ * equal until one of these changes the chip's copy of an entry (the default
+ * entry, ORBISK_MODEL_DEFAULT_ENTRY_HDL, included). pipe_mgr_get_entry and
+ * pipe_mgr_table_get_default_entry with read_from_hw set answer from the
+ * chip's copy; without it, and placement records always, from software's. A
+ * write to the entry (an action change, by handle or key, its delete, a
+ * default set or reset for the default entry) makes the chip hold what
+ * software wrote again. Each answers 0, or ORBISK_MODEL_NO_SUCH_TABLE,
+ * ORBISK_MODEL_NO_SUCH_ENTRY, ORBISK_MODEL_HW_PAST_END for a byte past the
+ * key or the data, ORBISK_MODEL_BAD_CONTROL for a selection kind other than
+ * 0, 2 or 4; nothing changes then. */
+
+/* XORs bits into byte `byte` of the packed key value string, mask string or
+ * action data as the chip holds them. */
+pd_status orbisk_model_hw_flip_key(uint32_t device_id, pd_tbl_hdl tbl, pd_entry_hdl entry_hdl,
+                                   uint16_t byte, uint8_t bits);
+pd_status orbisk_model_hw_flip_mask(uint32_t device_id, pd_tbl_hdl tbl, pd_entry_hdl entry_hdl,
+                                    uint16_t byte, uint8_t bits);
+pd_status orbisk_model_hw_flip_data(uint32_t device_id, pd_tbl_hdl tbl, pd_entry_hdl entry_hdl,
+                                    uint16_t byte, uint8_t bits);
+pd_status orbisk_model_hw_set_priority(uint32_t device_id, pd_tbl_hdl tbl,
+                                       pd_entry_hdl entry_hdl, uint32_t priority);
+/* The action handle the chip runs for the entry; any handle is taken. */
+pd_status orbisk_model_hw_set_action(uint32_t device_id, pd_tbl_hdl tbl, pd_entry_hdl entry_hdl,
+                                     pd_act_fn_hdl fn);
+/* What the entry names on the chip: kind 0 nothing (record kind 0, both
+ * handles 0), 2 the member hdl, 4 the group hdl (record kind 2 or 4, the
+ * other handle 0). Taken on any table. */
+pd_status orbisk_model_hw_set_selection(uint32_t device_id, pd_tbl_hdl tbl,
+                                        pd_entry_hdl entry_hdl, uint8_t kind, uint32_t hdl);
+/* The chip shows the entry as a default entry, without a key (true), or with
+ * its key (false; the default entry's is all zeros). */
+pd_status orbisk_model_hw_set_default(uint32_t device_id, pd_tbl_hdl tbl,
+                                      pd_entry_hdl entry_hdl, bool is_default);
+/* The chip no longer holds the entry: a read of it from hardware is
+ * ORBISK_MODEL_HW_DROPPED, until a write makes the views agree again. */
+pd_status orbisk_model_hw_drop(uint32_t device_id, pd_tbl_hdl tbl, pd_entry_hdl entry_hdl);
 
 #ifdef __cplusplus
 }

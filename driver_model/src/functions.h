@@ -133,7 +133,12 @@
   X(p4_pd_ms_grp_get_res)                      \
   X(p4_pd_ms_mbr_apply_to_grps)                \
   X(p4_pd_ms_grp_update_res)                   \
-  X(pipe_mgr_hitless_ha_restore_virtual_dev_state)
+  X(pipe_mgr_hitless_ha_restore_virtual_dev_state) \
+  X(pipe_mgr_plcmt_mat_data_get)               \
+  X(pipe_mgr_plcmt_adt_data_get)               \
+  X(pipe_mgr_plcmt_sel_data_get)               \
+  X(pipe_mgr_plcmt_mat_data_get_entry)         \
+  X(pipe_mgr_plcmt_adt_data_get_entry)
 
 namespace orbisk_model {
 

@@ -132,4 +132,8 @@ bool profile_handles(Model &m, uint32_t device_id, pd_tbl_hdl tbl, std::vector<u
 pd_status check_ref(Model &m, uint32_t device_id, const orbisk::pd::TableDesc &t, pd_act_fn_hdl fn,
                     const pd_action_record &act);
 
+// The action of the chip's copy of an entry, as a read answers it
+// (placement_store.cpp).
+ActionView hw_action(const PlacementStore::HwEntry &h);
+
 }  // namespace orbisk_model

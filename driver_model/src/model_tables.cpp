@@ -52,6 +52,29 @@ void write_action(TableStore &s, const ActionView &stored, pd_action_record *act
   s.quirk_fn = -1;
 }
 
+// Answers an entry read from the chip's copy of the entry: without a key
+// when it shows as a default entry, else with its key.
+pd_status read_hw(TableStore &s, const TableDesc &d, const PlacementStore::HwEntry &hw,
+                  pd_match_record *key, pd_action_record *act, pd_act_fn_hdl *fn) {
+  if (hw.dropped) return ORBISK_MODEL_HW_DROPPED;
+  const uint16_t n = hw.is_default ? 0 : d.key_bytes;
+  if (n != 0 && (key->num_bytes < n || key->value_bytes == nullptr || key->mask_bytes == nullptr)) {
+    return kBad;
+  }
+  const ActionView stored = hw_action(hw);
+  if (pd_status st = check_room(stored, act, fn)) return st;
+  if (n != 0) {
+    std::memcpy(key->value_bytes, hw.value.data(), n);
+    std::memcpy(key->mask_bytes, hw.mask.data(), n);
+  }
+  key->num_bytes = n;
+  key->num_valid_bits = n != 0 ? d.key_bits : 0;
+  key->priority = hw.priority;
+  key->partition_index = hw.partition;
+  write_action(s, stored, act, fn);
+  return kOk;
+}
+
 // The default a table holds: its own once written, else the declared one.
 DefaultAction default_of(const MatchTable *t, const TableDesc &d) {
   return t != nullptr ? t->default_action : DefaultAction::declared(d);
@@ -68,10 +91,12 @@ void added(Model &m, uint32_t device_id, const TableDesc &d, pd_entry_hdl hdl, u
 }
 
 void modified(Model &m, uint32_t device_id, const TableDesc &d, pd_entry_hdl hdl) {
+  m.placement.rewritten(device_id, d.handle, hdl);
   m.properties.updated(device_id, d.handle, hdl, PD_MAT_UPDATE_MODIFY, m.notifications);
 }
 
 void deleted(Model &m, uint32_t device_id, const TableDesc &d, pd_entry_hdl hdl) {
+  m.placement.rewritten(device_id, d.handle, hdl);
   if (IdleStore::Table *t = m.idle.find(device_id, d.handle)) t->entries.erase(hdl);
   m.resources.entry_deleted(device_id, d.handle, hdl);
   m.properties.updated(device_id, d.handle, hdl, PD_MAT_UPDATE_DELETE, m.notifications);
@@ -293,6 +318,10 @@ pd_status pipe_mgr_get_entry(pd_sess_hdl sess, pd_tbl_hdl tbl, pd_dev_target tar
         if (d == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
         if (key == nullptr) return kBad;
         const MatchTable *t = m.tables.find(target.device_id, *d);
+        // The chip's copy, where a test made it differ from software's.
+        const PlacementStore::HwEntry *hw =
+            read_from_hw ? m.placement.find(target.device_id, tbl, entry_hdl) : nullptr;
+        if (hw != nullptr) return read_hw(m.tables, *d, *hw, key, act, fn);
         if (entry_hdl == ORBISK_MODEL_DEFAULT_ENTRY_HDL) {
           const DefaultAction dflt = default_of(t, *d);
           if (pd_status s = check_room(dflt.view(), act, fn)) return s;
@@ -337,6 +366,7 @@ pd_status pipe_mgr_mat_default_entry_set(pd_sess_hdl sess, pd_dev_target target,
                if (pd_status s = check_action(*d, fn, act, true)) return s;
                if (pd_status s = check_ref(m, target.device_id, *d, fn, *act)) return s;
                m.tables.make(target.device_id, *d).default_action = DefaultAction::of(fn, *act);
+               m.placement.rewritten(target.device_id, tbl, ORBISK_MODEL_DEFAULT_ENTRY_HDL);
                *entry_hdl = ORBISK_MODEL_DEFAULT_ENTRY_HDL;
                return kOk;
              });
@@ -352,9 +382,15 @@ pd_status pipe_mgr_table_get_default_entry(pd_sess_hdl sess, pd_dev_target targe
              passing(nullptr, act), [&](Model &m) {
                const TableDesc *d = find_table(tbl);
                if (d == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
+               const PlacementStore::HwEntry *hw =
+                   read_from_hw ? m.placement.find(target.device_id, tbl,
+                                                   ORBISK_MODEL_DEFAULT_ENTRY_HDL)
+                                : nullptr;
+               if (hw != nullptr && hw->dropped) return ORBISK_MODEL_HW_DROPPED;
                const DefaultAction dflt = default_of(m.tables.find(target.device_id, *d), *d);
-               if (pd_status s = check_room(dflt.view(), act, fn)) return s;
-               write_action(m.tables, dflt.view(), act, fn);
+               const ActionView stored = hw != nullptr ? hw_action(*hw) : dflt.view();
+               if (pd_status s = check_room(stored, act, fn)) return s;
+               write_action(m.tables, stored, act, fn);
                return kOk;
              });
 }
@@ -376,6 +412,7 @@ pd_status pipe_mgr_mat_tbl_default_entry_reset(pd_sess_hdl sess, pd_dev_target t
              {arg(sess), arg(target), arg(tbl), arg(flags)}, [&](Model &m) {
                const TableDesc *d = find_table(tbl);
                if (d == nullptr) return ORBISK_MODEL_NO_SUCH_TABLE;
+               m.placement.rewritten(target.device_id, tbl, ORBISK_MODEL_DEFAULT_ENTRY_HDL);
                // A table without state holds its declared default already.
                if (MatchTable *t = m.tables.find(target.device_id, *d)) {
                  t->default_action = DefaultAction::declared(*d);

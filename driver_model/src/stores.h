@@ -292,15 +292,6 @@ class PropertyStore final : public Store {
   std::map<std::pair<uint32_t, pd_tbl_hdl>, UpdateCb> update_cbs;
 };
 
-// Placement data of match tables: the bytes a client reads out of one
-// device's table and writes into another's, per device and table.
-class PlacementStore final : public Store {
- public:
-  void clear() override;
-  void drop_device(uint32_t device_id) override;
-  std::map<std::pair<uint32_t, pd_tbl_hdl>, std::vector<uint8_t>> tables;
-};
-
 // Erases the entries of a map keyed by device id first.
 template <typename Map>
 void erase_device(Map &map, uint32_t device_id) {
@@ -312,6 +303,51 @@ void erase_device(Map &map, uint32_t device_id) {
     }
   });
 }
+
+// What the chip holds for match entries, beside what software wrote
+// (placement_store.cpp). The two are equal until a test changes the chip's
+// copy of an entry; only such entries are kept here, whole, and a write to
+// the entry (action change, delete, default set or reset) drops the copy, so
+// the views agree again. Placement records are made on each fetch from the
+// stores they describe and need nothing kept.
+class PlacementStore final : public Store {
+ public:
+  struct Key {
+    uint32_t device_id;
+    pd_tbl_hdl tbl;
+    pd_entry_hdl hdl;
+    auto operator<=>(const Key &) const = default;
+  };
+  // One entry as the chip holds it: its key, or none when shown as a
+  // default entry, and its action.
+  struct HwEntry {
+    bool dropped = false;     // a read of it from the chip fails
+    bool is_default = false;  // shown without a key
+    std::vector<uint8_t> value, mask;  // the table's key bytes each
+    uint32_t priority = 0;
+    uint32_t partition = 0;
+    pd_act_fn_hdl fn = 0;
+    uint8_t kind = PD_RECORD_KIND_DIRECT;
+    uint16_t bits = 0;
+    std::vector<uint8_t> data;
+    pd_mbr_hdl member = 0;
+    pd_grp_hdl group = 0;
+    std::vector<pd_resource_record> slots;
+  };
+  void clear() override { hw.clear(); }
+  void drop_device(uint32_t device_id) override { erase_device(hw, device_id); }
+  // The chip's copy where it differs from software's; null where they agree.
+  const HwEntry *find(uint32_t device_id, pd_tbl_hdl tbl, pd_entry_hdl hdl) const {
+    if (hw.empty()) return nullptr;
+    auto it = hw.find({device_id, tbl, hdl});
+    return it == hw.end() ? nullptr : &it->second;
+  }
+  // A write to the entry: the chip holds what software wrote again.
+  void rewritten(uint32_t device_id, pd_tbl_hdl tbl, pd_entry_hdl hdl) {
+    if (!hw.empty()) hw.erase({device_id, tbl, hdl});
+  }
+  std::map<Key, HwEntry> hw;
+};
 
 // Hash calculations, per device and calculation (hash_store.cpp): the input
 // and algorithm handles, the seed and the field attributes. A calculation

@@ -11,7 +11,14 @@ import families
 # ActionRow that hold their thunks.
 TABLE_FAMILIES = ["get_entry_count", "get_entry", "match_spec_to_entry_hdl", "table_delete",
                   "table_delete_by_match_spec", "table_get_default_entry",
-                  "table_get_default_entry_handle", "table_reset_default_entry"]
+                  "table_get_default_entry_handle", "table_reset_default_entry",
+                  "get_plcmt_data", "get_entry_from_plcmt_data"]
+# Those of the placement sweep over the indirect tables and the profiles.
+INDIRECT_FAMILIES = ["add_entry", "add_entry_with_selector", "set_default_entry",
+                     "get_plcmt_data", "get_entry_from_plcmt_data"]
+PROFILE_FAMILIES = ["create_group", "add_member_to_group", "profile_get_plcmt_data",
+                    "profile_sel_get_plcmt_data", "get_member_from_plcmt_data",
+                    "get_full_member_info_from_plcmt_data"]
 ACTION_FAMILIES = ["table_add_with", "table_modify_with", "table_modify_with_by_match_spec",
                    "set_default_action"]
 
@@ -33,6 +40,19 @@ CALL_MEMBERS = {
     ("pd_default_action_record *", "action_spec"): "default_out",
     ("p4_pd_orbisk_switch_action_names_t *", "action_enum"): "action_enum",
     ("bool *", "is_default"): "is_default",
+    ("pd_tbl_hdl", "tbl_hdl"): "tbl_hdl",
+    ("void *", "plcmt_data"): "plcmt_data",
+    ("const void *", "plcmt_data"): "plcmt_data",
+    ("uint32_t *", "size"): "size",
+    ("p4_pd_orbisk_switch_action_specs_t *", "action_spec"): "specs_out",
+    ("pd_mbr_hdl", "mbr_hdl"): "mbr_hdl",
+    ("pd_grp_hdl", "grp_hdl"): "grp_hdl",
+    ("pd_mbr_hdl *", "mbr_hdl"): "mbr_hdl_out",
+    ("pd_grp_hdl *", "grp_hdl"): "grp_hdl_out",
+    ("bool *", "has_mbr"): "has_mbr",
+    ("bool *", "has_grp"): "has_grp",
+    ("uint8_t", "dev_id"): "dev_id",
+    ("uint32_t", "max_grp_size"): "max_grp_size",
 }
 
 
@@ -74,11 +94,31 @@ def emit_table(index, enum_of, t):
     return o, row
 
 
+def emit_indirect(index, t):
+    fns = {f.family: f for f in families.table_functions(t)}
+    return ["    {.table = &kTables[%d],  // %s" % (index, t.name)] + [
+        "     .%s = %s," % (fam, thunk(fns[fam])) for fam in INDIRECT_FAMILIES] + ["    },"]
+
+
+def emit_profile(p, enum_of):
+    fns = families.profile_functions(p)
+    per = {f.family: f for f in fns if f.family in PROFILE_FAMILIES}
+    adds = [f for f in fns if f.family == "add_member_with"]
+    o = ["const MemberRow kMembers_%s[] = {" % p.name]
+    o += ["    {&kActions[%d], %s},  // %s" % (enum_of[f.action.name], thunk(f), f.action.name)
+          for f in adds]
+    o.append("};")
+    row = ["    {.profile = &kProfiles[%d],  // %s" % (p.index, p.name),
+           "     .members = kMembers_%s," % p.name, "     .num_members = %d," % len(adds)]
+    row += ["     .%s = %s," % (fam, thunk(per[fam])) for fam in PROFILE_FAMILIES]
+    return o, row + ["    },"]
+
+
 def emit(prog):
     o = ["// Generated from the catalogue. Do not edit.",
          '#include "roundtrip_support.h"', "",
          "namespace roundtrip {", "namespace {", "",
-         "using orbisk::pd::kActions;", "using orbisk::pd::kTables;", ""]
+         "using orbisk::pd::kActions;", "using orbisk::pd::kProfiles;", "using orbisk::pd::kTables;", ""]
     rows = []
     enum_of = {a.name: a.enum for a in prog.actions}
     for i, t in enumerate(prog.tables):
@@ -87,7 +127,19 @@ def emit(prog):
         actions, row = emit_table(i, enum_of, t)
         o += actions + [""]
         rows += row
+    profile_rows = []
+    for p in prog.profiles:
+        members, row = emit_profile(p, enum_of)
+        o += members + [""]
+        profile_rows += row
     o += ["}  // namespace", "", "const TableRow kTableRows[] = {"] + rows + ["};"]
     o.append("const std::size_t kNumTableRows = %d;" % len(prog.direct_tables()))
+    indirect = [(i, t) for i, t in enumerate(prog.tables) if t.indirect]
+    o += ["", "const IndirectRow kIndirectRows[] = {"]
+    for i, t in indirect:
+        o += emit_indirect(i, t)
+    o += ["};", "const std::size_t kNumIndirectRows = %d;" % len(indirect)]
+    o += ["", "const ProfileRow kProfileRows[] = {"] + profile_rows + ["};"]
+    o.append("const std::size_t kNumProfileRows = %d;" % len(prog.profiles))
     o += ["", "}  // namespace roundtrip", ""]
     return {"roundtrip_rows.cpp": "\n".join(o)}

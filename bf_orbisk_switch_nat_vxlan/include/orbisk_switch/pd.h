@@ -112,6 +112,17 @@
  *  <t>_<f>_width(): the key field's width in bits.
  *  <t>_supports_entry_priority(): 1 when the table's key has a mask field,
  *      else 0.
+ *  <t>_get_plcmt_data(sess, target, table handle (ignored), entry handle,
+ *      placement data, in room, out length): fetches an entry's placement
+ *      data from the driver, with the table's own handle; *size is the room
+ *      going in and the record's length coming out.
+ *  <t>_get_entry_from_plcmt_data(placement data, [out match spec], [out
+ *      priority], [out action], [out member handle], [out group handle], [out
+ *      has-member], [out has-group], out is-default): decodes placement data
+ *      into the entry's key, priority and action (or, reached through a
+ *      selector, the member or group it names; flags untouched for neither).
+ *      A keyless table says is-default for every record; 3 for an action not
+ *      the table's.
  *  <r>_schema(out text): writes the profile's action tuples as schema text
  *      and a NUL; its length.
  *  <r>_add_member_with_<a>(sess, target, [action spec], out member handle):
@@ -187,6 +198,19 @@
  *  <r>_register_sel_update_cb(sess, device id, update callback, cookie): the
  *      callback told of each group made or deleted and each member added or
  *      removed.
+ *  <r>_get_plcmt_data(sess, target, table handle (ignored), member handle,
+ *      placement data, in room, out length): fetches a member's placement
+ *      data, with the action data table's handle.
+ *  <r>_sel_get_plcmt_data(sess, target, table handle (ignored), group handle,
+ *      placement data, in room, out length): fetches a group's placement
+ *      data, with the selector table's handle; it has no decoder.
+ *  <r>_get_member_from_plcmt_data(placement data, out action): decodes a
+ *      member's placement data into its action; the driver's status, even
+ *      after the action is filled; 15 for an action not the profile's.
+ *  <r>_get_full_member_info_from_plcmt_data(device id, member handle,
+ *      placement data, out action): the same, asking the member-selection
+ *      state for the member's resources first (an action with parameters);
+ *      what it answers is not used.
  *  <a>_schema(): the action tuple: a constant NUL-terminated text.
  *  unbuild_action_spec_<a>(action record, [resources], [count], out action
  *      spec): an action record's data into an action spec.
@@ -647,6 +671,12 @@ typedef enum p4_pd_orbisk_switch_action_names {
 
 /* Room for any full action name and its final zero. */
 #define P4_PD_ORBISK_SWITCH_ACTION_NAME_MAX 61
+
+/* The longest key string (value or mask) and the longest action data the
+ * program passes to the driver, in bytes: what a driver sizes its own
+ * records of the program's entries by (placement data among them). */
+#define P4_PD_ORBISK_SWITCH_MAX_KEY_BYTES 51
+#define P4_PD_ORBISK_SWITCH_MAX_ACTION_DATA_BYTES 20
 
 /* Room for any text a <t>_schema, <r>_schema or cli_schema writes, its
  * final zero included. */
@@ -1738,6 +1768,16 @@ const char *p4_pd_orbisk_switch_ingressPortMapping_match_spec_schema(void);
 int p4_pd_orbisk_switch_ingressPortMapping_schema(char *out);
 int p4_pd_orbisk_switch_ingressPortMapping_ig_intr_md_ingress_port_width(void);
 int p4_pd_orbisk_switch_ingressPortMapping_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ingressPortMapping_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_ingressPortMapping_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ingressPortMapping_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* l2DomainLookup: table 0x01000004, pipeline A, ternary match, 6 key bytes (28 bits) */
 typedef struct p4_pd_orbisk_switch_l2DomainLookup_match_spec {
@@ -1875,6 +1915,17 @@ int p4_pd_orbisk_switch_l2DomainLookup_phase0_ingVPort_width(void);
 int p4_pd_orbisk_switch_l2DomainLookup_vlanHdr_0__width(void);
 int p4_pd_orbisk_switch_l2DomainLookup_vlanHdr_0__vlanId_width(void);
 int p4_pd_orbisk_switch_l2DomainLookup_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_l2DomainLookup_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_l2DomainLookup_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_l2DomainLookup_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* taggedXlatePktToL3: table 0x01000005, pipeline A, exact match, 4 key bytes (26 bits) */
 typedef struct p4_pd_orbisk_switch_taggedXlatePktToL3_match_spec {
@@ -1968,6 +2019,16 @@ int p4_pd_orbisk_switch_taggedXlatePktToL3_schema(char *out);
 int p4_pd_orbisk_switch_taggedXlatePktToL3_phase0_ingVPort_width(void);
 int p4_pd_orbisk_switch_taggedXlatePktToL3_vlanHdr_0__vlanId_width(void);
 int p4_pd_orbisk_switch_taggedXlatePktToL3_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_taggedXlatePktToL3_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_taggedXlatePktToL3_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_taggedXlatePktToL3_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* taggedPktToL3: table 0x01000007, pipeline A, exact match, 2 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_taggedPktToL3_match_spec {
@@ -2059,6 +2120,16 @@ const char *p4_pd_orbisk_switch_taggedPktToL3_match_spec_schema(void);
 int p4_pd_orbisk_switch_taggedPktToL3_schema(char *out);
 int p4_pd_orbisk_switch_taggedPktToL3_vlanHdr_0__vlanId_width(void);
 int p4_pd_orbisk_switch_taggedPktToL3_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_taggedPktToL3_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_taggedPktToL3_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_taggedPktToL3_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* untaggedPktToL3: table 0x01000006, pipeline A, exact match, 2 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_untaggedPktToL3_match_spec {
@@ -2150,6 +2221,16 @@ const char *p4_pd_orbisk_switch_untaggedPktToL3_match_spec_schema(void);
 int p4_pd_orbisk_switch_untaggedPktToL3_schema(char *out);
 int p4_pd_orbisk_switch_untaggedPktToL3_phase0_nativeAintf_width(void);
 int p4_pd_orbisk_switch_untaggedPktToL3_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_untaggedPktToL3_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_untaggedPktToL3_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_untaggedPktToL3_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* ingStpCheck: table 0x0100000b, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_ingStpCheck_get_entry(pd_sess_hdl sess_hdl,
@@ -2199,6 +2280,15 @@ pd_status p4_pd_orbisk_switch_ingStpCheck_register_mat_update_cb(pd_sess_hdl ses
     void *cookie);
 int p4_pd_orbisk_switch_ingStpCheck_schema(char *out);
 int p4_pd_orbisk_switch_ingStpCheck_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ingStpCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_ingStpCheck_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* ingVlanCheck: table 0x0100000c, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_ingVlanCheck_get_entry(pd_sess_hdl sess_hdl,
@@ -2248,6 +2338,15 @@ pd_status p4_pd_orbisk_switch_ingVlanCheck_register_mat_update_cb(pd_sess_hdl se
     void *cookie);
 int p4_pd_orbisk_switch_ingVlanCheck_schema(char *out);
 int p4_pd_orbisk_switch_ingVlanCheck_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ingVlanCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_ingVlanCheck_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* vlanProperties: table 0x01000018, pipeline A, exact match, 2 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_vlanProperties_match_spec {
@@ -2330,6 +2429,16 @@ const char *p4_pd_orbisk_switch_vlanProperties_match_spec_schema(void);
 int p4_pd_orbisk_switch_vlanProperties_schema(char *out);
 int p4_pd_orbisk_switch_vlanProperties_ingMd_ingL2Domain_width(void);
 int p4_pd_orbisk_switch_vlanProperties_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_vlanProperties_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_vlanProperties_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_vlanProperties_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* ingressPortDropCheck: table 0x01000010, pipeline A, ternary match, 7 key bytes (17 bits), entries carry ingressPortDropCount */
 typedef struct p4_pd_orbisk_switch_ingressPortDropCheck_match_spec {
@@ -2442,6 +2551,17 @@ int p4_pd_orbisk_switch_ingressPortDropCheck_ingMd_illegalDmac_width(void);
 int p4_pd_orbisk_switch_ingressPortDropCheck_parserMd_outerHdrFlags_width(void);
 int p4_pd_orbisk_switch_ingressPortDropCheck_parserMd_checksumErr_width(void);
 int p4_pd_orbisk_switch_ingressPortDropCheck_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ingressPortDropCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_ingressPortDropCheck_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* ingL2DomainCount: table 0x01000062, pipeline A, exact match, 3 key bytes (15 bits), entries carry ingL2DomainCounters */
 typedef struct p4_pd_orbisk_switch_ingL2DomainCount_match_spec {
@@ -2522,6 +2642,16 @@ int p4_pd_orbisk_switch_ingL2DomainCount_schema(char *out);
 int p4_pd_orbisk_switch_ingL2DomainCount_egrMd_decapType_width(void);
 int p4_pd_orbisk_switch_ingL2DomainCount_ingMd_ingL3Aintf_width(void);
 int p4_pd_orbisk_switch_ingL2DomainCount_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ingL2DomainCount_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_ingL2DomainCount_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ingL2DomainCount_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* egrL2DomainCount: table 0x01000065, pipeline A, exact match, 3 key bytes (15 bits), entries carry egrL2DomainCounters */
 typedef struct p4_pd_orbisk_switch_egrL2DomainCount_match_spec {
@@ -2602,6 +2732,16 @@ int p4_pd_orbisk_switch_egrL2DomainCount_schema(char *out);
 int p4_pd_orbisk_switch_egrL2DomainCount_egrMd_decapType_width(void);
 int p4_pd_orbisk_switch_egrL2DomainCount_egrMd_egrL2Domain_width(void);
 int p4_pd_orbisk_switch_egrL2DomainCount_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_egrL2DomainCount_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_egrL2DomainCount_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_egrL2DomainCount_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* egressVlanXlate: table 0x0100006c, pipeline A, exact match, 4 key bytes (21 bits) */
 typedef struct p4_pd_orbisk_switch_egressVlanXlate_match_spec {
@@ -2708,6 +2848,16 @@ int p4_pd_orbisk_switch_egressVlanXlate_schema(char *out);
 int p4_pd_orbisk_switch_egressVlanXlate_eg_intr_md_egress_port_width(void);
 int p4_pd_orbisk_switch_egressVlanXlate_egrMd_egrL2Domain_width(void);
 int p4_pd_orbisk_switch_egressVlanXlate_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_egressVlanXlate_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_egressVlanXlate_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_egressVlanXlate_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* egrStpCheck: table 0x01000071, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_egrStpCheck_get_entry(pd_sess_hdl sess_hdl,
@@ -2757,6 +2907,15 @@ pd_status p4_pd_orbisk_switch_egrStpCheck_register_mat_update_cb(pd_sess_hdl ses
     void *cookie);
 int p4_pd_orbisk_switch_egrStpCheck_schema(char *out);
 int p4_pd_orbisk_switch_egrStpCheck_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_egrStpCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_egrStpCheck_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* egrVlanCheck: table 0x01000072, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_egrVlanCheck_get_entry(pd_sess_hdl sess_hdl,
@@ -2806,6 +2965,15 @@ pd_status p4_pd_orbisk_switch_egrVlanCheck_register_mat_update_cb(pd_sess_hdl se
     void *cookie);
 int p4_pd_orbisk_switch_egrVlanCheck_schema(char *out);
 int p4_pd_orbisk_switch_egrVlanCheck_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_egrVlanCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_egrVlanCheck_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* vlanEncap: table 0x01000073, pipeline A, exact match, 5 key bytes (22 bits) */
 typedef struct p4_pd_orbisk_switch_vlanEncap_match_spec {
@@ -2898,6 +3066,16 @@ int p4_pd_orbisk_switch_vlanEncap_egrMd_vlanId_width(void);
 int p4_pd_orbisk_switch_vlanEncap_eg_intr_md_egress_port_width(void);
 int p4_pd_orbisk_switch_vlanEncap_egrMd_subIntf_width(void);
 int p4_pd_orbisk_switch_vlanEncap_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_vlanEncap_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_vlanEncap_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_vlanEncap_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* vlanDecap: table 0x11010026, pipeline B, no key */
 pd_status p4_pd_orbisk_switch_vlanDecap_get_entry(pd_sess_hdl sess_hdl,
@@ -2947,6 +3125,15 @@ pd_status p4_pd_orbisk_switch_vlanDecap_register_mat_update_cb(pd_sess_hdl sess_
     void *cookie);
 int p4_pd_orbisk_switch_vlanDecap_schema(char *out);
 int p4_pd_orbisk_switch_vlanDecap_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_vlanDecap_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_vlanDecap_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* copyOverlayL2Domain: table 0x0100006b, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_copyOverlayL2Domain_get_entry(pd_sess_hdl sess_hdl,
@@ -2996,6 +3183,15 @@ pd_status p4_pd_orbisk_switch_copyOverlayL2Domain_register_mat_update_cb(pd_sess
     void *cookie);
 int p4_pd_orbisk_switch_copyOverlayL2Domain_schema(char *out);
 int p4_pd_orbisk_switch_copyOverlayL2Domain_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_copyOverlayL2Domain_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_copyOverlayL2Domain_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* srcIntfToOvoIntf: table 0x0100006a, pipeline A, exact match, 2 key bytes (9 bits) */
 typedef struct p4_pd_orbisk_switch_srcIntfToOvoIntf_match_spec {
@@ -3091,6 +3287,16 @@ const char *p4_pd_orbisk_switch_srcIntfToOvoIntf_match_spec_schema(void);
 int p4_pd_orbisk_switch_srcIntfToOvoIntf_schema(char *out);
 int p4_pd_orbisk_switch_srcIntfToOvoIntf_egrMd_ingressPort_width(void);
 int p4_pd_orbisk_switch_srcIntfToOvoIntf_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_srcIntfToOvoIntf_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_srcIntfToOvoIntf_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_srcIntfToOvoIntf_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* egrIntfToOvoIntf: table 0x0100006f, pipeline A, exact match, 3 key bytes (20 bits) */
 typedef struct p4_pd_orbisk_switch_egrIntfToOvoIntf_match_spec {
@@ -3223,6 +3429,16 @@ int p4_pd_orbisk_switch_egrIntfToOvoIntf_schema(char *out);
 int p4_pd_orbisk_switch_egrIntfToOvoIntf_egrMd_egrAintfType_width(void);
 int p4_pd_orbisk_switch_egrIntfToOvoIntf_egrMd_egrAintfPort_width(void);
 int p4_pd_orbisk_switch_egrIntfToOvoIntf_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_egrIntfToOvoIntf_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_egrIntfToOvoIntf_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_egrIntfToOvoIntf_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* ovoIntfToPhysical: table 0x0100002a, pipeline A, ternary match, 6 key bytes (29 bits) */
 typedef struct p4_pd_orbisk_switch_ovoIntfToPhysical_match_spec {
@@ -3354,6 +3570,17 @@ int p4_pd_orbisk_switch_ovoIntfToPhysical_orbiskCpuHdr_lane_width(void);
 int p4_pd_orbisk_switch_ovoIntfToPhysical_orbiskCpuHdr_portChannel_width(void);
 int p4_pd_orbisk_switch_ovoIntfToPhysical_egrMd_decapType_width(void);
 int p4_pd_orbisk_switch_ovoIntfToPhysical_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ovoIntfToPhysical_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_ovoIntfToPhysical_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ovoIntfToPhysical_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* egressPortDropCheck: table 0x01000074, pipeline A, ternary match, 9 key bytes (23 bits), entries carry egressPortDropCount */
 typedef struct p4_pd_orbisk_switch_egressPortDropCheck_match_spec {
@@ -3475,6 +3702,17 @@ int p4_pd_orbisk_switch_egressPortDropCheck_outerIpv4Hdr_width(void);
 int p4_pd_orbisk_switch_egressPortDropCheck_egrMd_routed_width(void);
 int p4_pd_orbisk_switch_egressPortDropCheck_pktGen_width(void);
 int p4_pd_orbisk_switch_egressPortDropCheck_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_egressPortDropCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_egressPortDropCheck_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_egressPortDropCheck_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* egressSamePortBridgingTest: table 0x0100006d, pipeline A, exact match, 3 key bytes (11 bits) */
 typedef struct p4_pd_orbisk_switch_egressSamePortBridgingTest_match_spec {
@@ -3565,6 +3803,16 @@ int p4_pd_orbisk_switch_egressSamePortBridgingTest_schema(char *out);
 int p4_pd_orbisk_switch_egressSamePortBridgingTest_egrMd_ingressPortType_width(void);
 int p4_pd_orbisk_switch_egressSamePortBridgingTest_eg_intr_md_egress_port_width(void);
 int p4_pd_orbisk_switch_egressSamePortBridgingTest_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_egressSamePortBridgingTest_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_egressSamePortBridgingTest_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_egressSamePortBridgingTest_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* samePortBridgingTest: table 0x0100004f, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_samePortBridgingTest_get_entry(pd_sess_hdl sess_hdl,
@@ -3614,6 +3862,15 @@ pd_status p4_pd_orbisk_switch_samePortBridgingTest_register_mat_update_cb(pd_ses
     void *cookie);
 int p4_pd_orbisk_switch_samePortBridgingTest_schema(char *out);
 int p4_pd_orbisk_switch_samePortBridgingTest_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_samePortBridgingTest_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_samePortBridgingTest_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* mlagUcastPrune: table 0x01000050, pipeline A, exact match, 3 key bytes (20 bits) */
 typedef struct p4_pd_orbisk_switch_mlagUcastPrune_match_spec {
@@ -3702,6 +3959,16 @@ const char *p4_pd_orbisk_switch_mlagUcastPrune_match_spec_schema(void);
 int p4_pd_orbisk_switch_mlagUcastPrune_schema(char *out);
 int p4_pd_orbisk_switch_mlagUcastPrune_egrMd_egrL2AintfUnresolved_width(void);
 int p4_pd_orbisk_switch_mlagUcastPrune_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_mlagUcastPrune_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_mlagUcastPrune_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_mlagUcastPrune_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* ================================================================== */
 /* L2 forwarding and learning */
@@ -3887,6 +4154,17 @@ int p4_pd_orbisk_switch_l2DmacClassify_ig_intr_md_ingress_port_width(void);
 int p4_pd_orbisk_switch_l2DmacClassify_outerEthHdr_dmacOui_width(void);
 int p4_pd_orbisk_switch_l2DmacClassify_outerEthHdr_dmacStation_width(void);
 int p4_pd_orbisk_switch_l2DmacClassify_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_l2DmacClassify_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_l2DmacClassify_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_l2DmacClassify_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* l2SmacCheck: table 0x0100000d, pipeline A, ternary match, 6 key bytes (48 bits) */
 typedef struct p4_pd_orbisk_switch_l2SmacCheck_match_spec {
@@ -3988,6 +4266,17 @@ int p4_pd_orbisk_switch_l2SmacCheck_schema(char *out);
 int p4_pd_orbisk_switch_l2SmacCheck_outerEthHdr_smacOui_width(void);
 int p4_pd_orbisk_switch_l2SmacCheck_outerEthHdr_smacStation_width(void);
 int p4_pd_orbisk_switch_l2SmacCheck_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_l2SmacCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_l2SmacCheck_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_l2SmacCheck_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* l2StaticMacSrcAddrDrop: table 0x01000013, pipeline A, exact match, 8 key bytes (60 bits) */
 typedef struct p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_match_spec {
@@ -4080,6 +4369,16 @@ int p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_ingMd_smacOui_width(void);
 int p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_ingMd_smacStation_width(void);
 int p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_ingMd_ingL2Domain_width(void);
 int p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* l2LearningLookup: table 0x01000014, pipeline A, exact match, 11 key bytes (80 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_l2LearningLookup_match_spec {
@@ -4207,6 +4506,16 @@ int p4_pd_orbisk_switch_l2LearningLookup_ingMd_smacStation_width(void);
 int p4_pd_orbisk_switch_l2LearningLookup_ingMd_ingL2Domain_width(void);
 int p4_pd_orbisk_switch_l2LearningLookup_ingMd_ingL2Aintf_width(void);
 int p4_pd_orbisk_switch_l2LearningLookup_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_l2LearningLookup_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_l2LearningLookup_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_l2LearningLookup_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* l2Lookup: table 0x0100002f, pipeline A, exact match, 8 key bytes (60 bits) */
 typedef struct p4_pd_orbisk_switch_l2Lookup_match_spec {
@@ -4338,6 +4647,16 @@ int p4_pd_orbisk_switch_l2Lookup_egrMd_dmacOui_width(void);
 int p4_pd_orbisk_switch_l2Lookup_egrMd_dmacStation_width(void);
 int p4_pd_orbisk_switch_l2Lookup_egrMd_egrL2Domain_width(void);
 int p4_pd_orbisk_switch_l2Lookup_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_l2Lookup_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_l2Lookup_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_l2Lookup_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* l2LookupMiss: table 0x01000030, pipeline A, ternary match, 8 key bytes (57 bits), entries carry stormControlMeter */
 typedef struct p4_pd_orbisk_switch_l2LookupMiss_match_spec {
@@ -4479,6 +4798,17 @@ int p4_pd_orbisk_switch_l2LookupMiss_ig_intr_md_ingress_port_width(void);
 int p4_pd_orbisk_switch_l2LookupMiss_egrMd_dmacOui_width(void);
 int p4_pd_orbisk_switch_l2LookupMiss_egrMd_dmacStation_width(void);
 int p4_pd_orbisk_switch_l2LookupMiss_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_l2LookupMiss_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_l2LookupMiss_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_l2LookupMiss_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* l2ForwardParams: table 0x01000017, pipeline A, exact match, 1 key bytes (1 bits) */
 typedef struct p4_pd_orbisk_switch_l2ForwardParams_match_spec {
@@ -4561,6 +4891,16 @@ const char *p4_pd_orbisk_switch_l2ForwardParams_match_spec_schema(void);
 int p4_pd_orbisk_switch_l2ForwardParams_schema(char *out);
 int p4_pd_orbisk_switch_l2ForwardParams_outerEthHdr_width(void);
 int p4_pd_orbisk_switch_l2ForwardParams_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_l2ForwardParams_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_l2ForwardParams_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_l2ForwardParams_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* l2XRemap: table 0x11010007, pipeline B, exact match, 2 key bytes (9 bits) */
 typedef struct p4_pd_orbisk_switch_l2XRemap_match_spec {
@@ -4643,6 +4983,16 @@ const char *p4_pd_orbisk_switch_l2XRemap_match_spec_schema(void);
 int p4_pd_orbisk_switch_l2XRemap_schema(char *out);
 int p4_pd_orbisk_switch_l2XRemap_ig_intr_md_ingress_port_width(void);
 int p4_pd_orbisk_switch_l2XRemap_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_l2XRemap_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_l2XRemap_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_l2XRemap_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* learningDigestGeneration: table 0x0100003b, pipeline A, ternary match, 10 key bytes (35 bits) */
 typedef struct p4_pd_orbisk_switch_learningDigestGeneration_match_spec {
@@ -4794,6 +5144,17 @@ int p4_pd_orbisk_switch_learningDigestGeneration_ingVlanStpCheck_stpBlocked_widt
 int p4_pd_orbisk_switch_learningDigestGeneration_ingVlanStpCheck_invalidVlan_width(void);
 int p4_pd_orbisk_switch_learningDigestGeneration_ingMd_l2Control_width(void);
 int p4_pd_orbisk_switch_learningDigestGeneration_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_learningDigestGeneration_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_learningDigestGeneration_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_learningDigestGeneration_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* bridgeToEA: table 0x11010024, pipeline B, no key */
 pd_status p4_pd_orbisk_switch_bridgeToEA_get_entry(pd_sess_hdl sess_hdl,
@@ -4843,6 +5204,15 @@ pd_status p4_pd_orbisk_switch_bridgeToEA_register_mat_update_cb(pd_sess_hdl sess
     void *cookie);
 int p4_pd_orbisk_switch_bridgeToEA_schema(char *out);
 int p4_pd_orbisk_switch_bridgeToEA_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_bridgeToEA_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_bridgeToEA_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* ================================================================== */
 /* IP routing tables */
@@ -4969,6 +5339,17 @@ int p4_pd_orbisk_switch_l3DmacCheck_ingMd_dmacStation_width(void);
 int p4_pd_orbisk_switch_l3DmacCheck_ingMd_v4V6Valid_width(void);
 int p4_pd_orbisk_switch_l3DmacCheck_phase0_portType_width(void);
 int p4_pd_orbisk_switch_l3DmacCheck_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_l3DmacCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_l3DmacCheck_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_l3DmacCheck_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* vrrpMacCheck: table 0x01000012, pipeline A, exact match, 8 key bytes (60 bits) */
 typedef struct p4_pd_orbisk_switch_vrrpMacCheck_match_spec {
@@ -5061,6 +5442,16 @@ int p4_pd_orbisk_switch_vrrpMacCheck_ingMd_ingL3Aintf_width(void);
 int p4_pd_orbisk_switch_vrrpMacCheck_ingMd_dmacOui_width(void);
 int p4_pd_orbisk_switch_vrrpMacCheck_ingMd_dmacStation_width(void);
 int p4_pd_orbisk_switch_vrrpMacCheck_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_vrrpMacCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_vrrpMacCheck_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_vrrpMacCheck_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* ipv4Host: table 0x11010008, pipeline B, exact match, 5 key bytes (40 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv4Host_match_spec {
@@ -5224,6 +5615,16 @@ int p4_pd_orbisk_switch_ipv4Host_schema(char *out);
 int p4_pd_orbisk_switch_ipv4Host_l3Info_vrfId_width(void);
 int p4_pd_orbisk_switch_ipv4Host_ingIpv4_dip_width(void);
 int p4_pd_orbisk_switch_ipv4Host_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ipv4Host_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_ipv4Host_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ipv4Host_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* ipv4ShortMaskLpm: table 0x1101000c, pipeline B, longest prefix match, 5 key bytes (40 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec {
@@ -5390,6 +5791,16 @@ int p4_pd_orbisk_switch_ipv4ShortMaskLpm_schema(char *out);
 int p4_pd_orbisk_switch_ipv4ShortMaskLpm_l3Info_vrfId_width(void);
 int p4_pd_orbisk_switch_ipv4ShortMaskLpm_ingIpv4_dip_width(void);
 int p4_pd_orbisk_switch_ipv4ShortMaskLpm_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ipv4ShortMaskLpm_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_ipv4ShortMaskLpm_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* ipv4Partition0: table 0x1101000a, pipeline B, longest prefix match, 5 key bytes (40 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv4Partition0_match_spec {
@@ -5517,6 +5928,16 @@ int p4_pd_orbisk_switch_ipv4Partition0_schema(char *out);
 int p4_pd_orbisk_switch_ipv4Partition0_l3Info_vrfId_width(void);
 int p4_pd_orbisk_switch_ipv4Partition0_ingIpv4_dipAndVrf_width(void);
 int p4_pd_orbisk_switch_ipv4Partition0_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ipv4Partition0_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_ipv4Partition0_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ipv4Partition0_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* ipv4FinalResolve0: table 0x1101000b, pipeline B, partitioned longest prefix match, 6 key bytes (48 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv4FinalResolve0_match_spec {
@@ -5683,6 +6104,16 @@ int p4_pd_orbisk_switch_ipv4FinalResolve0_schema(char *out);
 int p4_pd_orbisk_switch_ipv4FinalResolve0_fibV4ResultX_partIdx_width(void);
 int p4_pd_orbisk_switch_ipv4FinalResolve0_ingIpv4_dip_width(void);
 int p4_pd_orbisk_switch_ipv4FinalResolve0_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ipv4FinalResolve0_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_ipv4FinalResolve0_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ipv4FinalResolve0_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* ipv6Host: table 0x01000022, pipeline A, exact match, 17 key bytes (136 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv6Host_match_spec {
@@ -5846,6 +6277,16 @@ int p4_pd_orbisk_switch_ipv6Host_schema(char *out);
 int p4_pd_orbisk_switch_ipv6Host_l3Info_vrfId_width(void);
 int p4_pd_orbisk_switch_ipv6Host_ingIpv6_dip_width(void);
 int p4_pd_orbisk_switch_ipv6Host_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ipv6Host_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_ipv6Host_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ipv6Host_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* ipv6ShortMaskLpm: table 0x0100002e, pipeline A, longest prefix match, 17 key bytes (136 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv6ShortMaskLpm_match_spec {
@@ -6012,6 +6453,16 @@ int p4_pd_orbisk_switch_ipv6ShortMaskLpm_schema(char *out);
 int p4_pd_orbisk_switch_ipv6ShortMaskLpm_l3Info_vrfId_width(void);
 int p4_pd_orbisk_switch_ipv6ShortMaskLpm_ingIpv6_dip_width(void);
 int p4_pd_orbisk_switch_ipv6ShortMaskLpm_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ipv6ShortMaskLpm_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_ipv6ShortMaskLpm_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ipv6ShortMaskLpm_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* ipv6Partition: table 0x0100002d, pipeline A, longest prefix match, 17 key bytes (136 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv6Partition_match_spec {
@@ -6178,6 +6629,16 @@ int p4_pd_orbisk_switch_ipv6Partition_schema(char *out);
 int p4_pd_orbisk_switch_ipv6Partition_l3Info_vrfId_width(void);
 int p4_pd_orbisk_switch_ipv6Partition_ingIpv6_dip_width(void);
 int p4_pd_orbisk_switch_ipv6Partition_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ipv6Partition_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_ipv6Partition_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ipv6Partition_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* ipv6FinalResolve: table 0x01000031, pipeline A, partitioned longest prefix match, 18 key bytes (144 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv6FinalResolve_match_spec {
@@ -6344,6 +6805,16 @@ int p4_pd_orbisk_switch_ipv6FinalResolve_schema(char *out);
 int p4_pd_orbisk_switch_ipv6FinalResolve_ingIpv6_fibPartitionIndex_width(void);
 int p4_pd_orbisk_switch_ipv6FinalResolve_ingIpv6_dip_width(void);
 int p4_pd_orbisk_switch_ipv6FinalResolve_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ipv6FinalResolve_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_ipv6FinalResolve_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ipv6FinalResolve_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* ipv6LgMaskPartition0: table 0x01000023, pipeline A, longest prefix match, 17 key bytes (136 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv6LgMaskPartition0_match_spec {
@@ -6471,6 +6942,16 @@ int p4_pd_orbisk_switch_ipv6LgMaskPartition0_schema(char *out);
 int p4_pd_orbisk_switch_ipv6LgMaskPartition0_l3Info_vrfId_width(void);
 int p4_pd_orbisk_switch_ipv6LgMaskPartition0_ingIpv6_dip_width(void);
 int p4_pd_orbisk_switch_ipv6LgMaskPartition0_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ipv6LgMaskPartition0_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_ipv6LgMaskPartition0_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ipv6LgMaskPartition0_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* ipv6LgMaskFinalResolve0: table 0x0100002c, pipeline A, partitioned longest prefix match, 18 key bytes (144 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_match_spec {
@@ -6637,6 +7118,16 @@ int p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_schema(char *out);
 int p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_fibV6ResultX_partIdx_width(void);
 int p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_ingIpv6_dip_width(void);
 int p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* ================================================================== */
 /* Next hops and load balancing */
@@ -6741,6 +7232,19 @@ const char *p4_pd_orbisk_switch_ecmpGroup_match_spec_schema(void);
 int p4_pd_orbisk_switch_ecmpGroup_schema(char *out);
 int p4_pd_orbisk_switch_ecmpGroup_l3_nextHop_width(void);
 int p4_pd_orbisk_switch_ecmpGroup_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ecmpGroup_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_ecmpGroup_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ecmpGroup_match_spec_t *match_spec,
+    pd_mbr_hdl *mbr_hdl,
+    pd_grp_hdl *grp_hdl,
+    bool *has_mbr,
+    bool *has_grp,
+    bool *is_default);
 
 /* reservedNextHop: table 0x1101000e, pipeline B, exact match, 2 key bytes (15 bits) */
 typedef struct p4_pd_orbisk_switch_reservedNextHop_match_spec {
@@ -6832,6 +7336,16 @@ const char *p4_pd_orbisk_switch_reservedNextHop_match_spec_schema(void);
 int p4_pd_orbisk_switch_reservedNextHop_schema(char *out);
 int p4_pd_orbisk_switch_reservedNextHop_l3_nextHop_width(void);
 int p4_pd_orbisk_switch_reservedNextHop_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_reservedNextHop_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_reservedNextHop_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_reservedNextHop_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* nextHop0: table 0x1101000f, pipeline B, exact match, 2 key bytes (15 bits) */
 typedef struct p4_pd_orbisk_switch_nextHop0_match_spec {
@@ -6914,6 +7428,16 @@ const char *p4_pd_orbisk_switch_nextHop0_match_spec_schema(void);
 int p4_pd_orbisk_switch_nextHop0_schema(char *out);
 int p4_pd_orbisk_switch_nextHop0_l3_nextHop_width(void);
 int p4_pd_orbisk_switch_nextHop0_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_nextHop0_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_nextHop0_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_nextHop0_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* routerNextHop0: table 0x11010010, pipeline B, exact match, 2 key bytes (15 bits) */
 typedef struct p4_pd_orbisk_switch_routerNextHop0_match_spec {
@@ -6996,6 +7520,16 @@ const char *p4_pd_orbisk_switch_routerNextHop0_match_spec_schema(void);
 int p4_pd_orbisk_switch_routerNextHop0_schema(char *out);
 int p4_pd_orbisk_switch_routerNextHop0_l3_nextHop_width(void);
 int p4_pd_orbisk_switch_routerNextHop0_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_routerNextHop0_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_routerNextHop0_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_routerNextHop0_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* lagGroup: table 0x11010023, pipeline B, ternary match, 3 key bytes (20 bits), entries name a member or group of lagPortActionProfile */
 typedef struct p4_pd_orbisk_switch_lagGroup_match_spec {
@@ -7106,6 +7640,20 @@ const char *p4_pd_orbisk_switch_lagGroup_match_spec_schema(void);
 int p4_pd_orbisk_switch_lagGroup_schema(char *out);
 int p4_pd_orbisk_switch_lagGroup_egrMd_egrL2AintfUnresolved_width(void);
 int p4_pd_orbisk_switch_lagGroup_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_lagGroup_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_lagGroup_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_lagGroup_match_spec_t *match_spec,
+    uint32_t *priority,
+    pd_mbr_hdl *mbr_hdl,
+    pd_grp_hdl *grp_hdl,
+    bool *has_mbr,
+    bool *has_grp,
+    bool *is_default);
 
 /* ecmpHashSelection: table 0x01000043, pipeline A, ternary match, 9 key bytes (9 bits) */
 typedef struct p4_pd_orbisk_switch_ecmpHashSelection_match_spec {
@@ -7276,6 +7824,17 @@ int p4_pd_orbisk_switch_ecmpHashSelection_outerIpv6Hdr_width(void);
 int p4_pd_orbisk_switch_ecmpHashSelection_outerIpv4Hdr_width(void);
 int p4_pd_orbisk_switch_ecmpHashSelection_outerIpv4Hdr_flagsMf_width(void);
 int p4_pd_orbisk_switch_ecmpHashSelection_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ecmpHashSelection_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_ecmpHashSelection_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ecmpHashSelection_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* lagHashSelection: table 0x01000042, pipeline A, ternary match, 10 key bytes (10 bits) */
 typedef struct p4_pd_orbisk_switch_lagHashSelection_match_spec {
@@ -7461,6 +8020,17 @@ int p4_pd_orbisk_switch_lagHashSelection_outerIpv4Hdr_width(void);
 int p4_pd_orbisk_switch_lagHashSelection_outerIpv4Hdr_flagsMf_width(void);
 int p4_pd_orbisk_switch_lagHashSelection_outerEthHdr_width(void);
 int p4_pd_orbisk_switch_lagHashSelection_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_lagHashSelection_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_lagHashSelection_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_lagHashSelection_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* hashComputeInnerIpHdr: table 0x01000002, pipeline A, exact match, 2 key bytes (2 bits) */
 typedef struct p4_pd_orbisk_switch_hashComputeInnerIpHdr_match_spec {
@@ -7561,6 +8131,16 @@ int p4_pd_orbisk_switch_hashComputeInnerIpHdr_schema(char *out);
 int p4_pd_orbisk_switch_hashComputeInnerIpHdr_innerIpv4Hdr_width(void);
 int p4_pd_orbisk_switch_hashComputeInnerIpHdr_innerIpv6Hdr_width(void);
 int p4_pd_orbisk_switch_hashComputeInnerIpHdr_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_hashComputeInnerIpHdr_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_hashComputeInnerIpHdr_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_hashComputeInnerIpHdr_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* hashComputeOuterIpv4Hdr: table 0x01000037, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_get_entry(pd_sess_hdl sess_hdl,
@@ -7610,6 +8190,15 @@ pd_status p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_register_mat_update_cb(pd_
     void *cookie);
 int p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_schema(char *out);
 int p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* hashComputeOuterIpv6Hdr: table 0x01000038, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_get_entry(pd_sess_hdl sess_hdl,
@@ -7659,6 +8248,15 @@ pd_status p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_register_mat_update_cb(pd_
     void *cookie);
 int p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_schema(char *out);
 int p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* hashComputeInnerEthHdr: table 0x01000039, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_hashComputeInnerEthHdr_get_entry(pd_sess_hdl sess_hdl,
@@ -7708,6 +8306,15 @@ pd_status p4_pd_orbisk_switch_hashComputeInnerEthHdr_register_mat_update_cb(pd_s
     void *cookie);
 int p4_pd_orbisk_switch_hashComputeInnerEthHdr_schema(char *out);
 int p4_pd_orbisk_switch_hashComputeInnerEthHdr_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_hashComputeInnerEthHdr_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_hashComputeInnerEthHdr_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* hashComputeIpAndL4Hdr: table 0x0100003e, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_get_entry(pd_sess_hdl sess_hdl,
@@ -7757,6 +8364,15 @@ pd_status p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_register_mat_update_cb(pd_se
     void *cookie);
 int p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_schema(char *out);
 int p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* hashFromCpuHdr: table 0x01000041, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_hashFromCpuHdr_get_entry(pd_sess_hdl sess_hdl,
@@ -7806,6 +8422,15 @@ pd_status p4_pd_orbisk_switch_hashFromCpuHdr_register_mat_update_cb(pd_sess_hdl 
     void *cookie);
 int p4_pd_orbisk_switch_hashFromCpuHdr_schema(char *out);
 int p4_pd_orbisk_switch_hashFromCpuHdr_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_hashFromCpuHdr_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_hashFromCpuHdr_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* ================================================================== */
 /* Multicast */
@@ -7934,6 +8559,16 @@ int p4_pd_orbisk_switch_ipv4McGroupVlan_schema(char *out);
 int p4_pd_orbisk_switch_ipv4McGroupVlan_ingIpv4_dip_width(void);
 int p4_pd_orbisk_switch_ipv4McGroupVlan_ingMd_ingL3Aintf_width(void);
 int p4_pd_orbisk_switch_ipv4McGroupVlan_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ipv4McGroupVlan_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_ipv4McGroupVlan_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ipv4McGroupVlan_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* ipv4McSourceGroupVlan: table 0x0100004e, pipeline A, exact match, 6 key bytes (48 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv4McSourceGroupVlan_match_spec {
@@ -8058,6 +8693,16 @@ int p4_pd_orbisk_switch_ipv4McSourceGroupVlan_schema(char *out);
 int p4_pd_orbisk_switch_ipv4McSourceGroupVlan_ingIpv4_sip_width(void);
 int p4_pd_orbisk_switch_ipv4McSourceGroupVlan_ingIpmcSGVLookup_index_width(void);
 int p4_pd_orbisk_switch_ipv4McSourceGroupVlan_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ipv4McSourceGroupVlan_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_ipv4McSourceGroupVlan_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ipv4McSourceGroupVlan_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* l2Multicast: table 0x01000040, pipeline A, exact match, 8 key bytes (60 bits) */
 typedef struct p4_pd_orbisk_switch_l2Multicast_match_spec {
@@ -8153,6 +8798,16 @@ int p4_pd_orbisk_switch_l2Multicast_egrMd_dmacOui_width(void);
 int p4_pd_orbisk_switch_l2Multicast_egrMd_dmacStation_width(void);
 int p4_pd_orbisk_switch_l2Multicast_egrMd_egrL2Domain_width(void);
 int p4_pd_orbisk_switch_l2Multicast_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_l2Multicast_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_l2Multicast_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_l2Multicast_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* finalizeMcResult: table 0x01000053, pipeline A, ternary match, 9 key bytes (26 bits) */
 typedef struct p4_pd_orbisk_switch_finalizeMcResult_match_spec {
@@ -8350,6 +9005,17 @@ int p4_pd_orbisk_switch_finalizeMcResult_egrMd_trapToCpu_width(void);
 int p4_pd_orbisk_switch_finalizeMcResult_ingMd_ttl_width(void);
 int p4_pd_orbisk_switch_finalizeMcResult_l3Info_ipRouting_width(void);
 int p4_pd_orbisk_switch_finalizeMcResult_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_finalizeMcResult_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_finalizeMcResult_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_finalizeMcResult_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* egressMcRemap: table 0x01000060, pipeline A, exact match, 2 key bytes (16 bits) */
 typedef struct p4_pd_orbisk_switch_egressMcRemap_match_spec {
@@ -8441,6 +9107,16 @@ const char *p4_pd_orbisk_switch_egressMcRemap_match_spec_schema(void);
 int p4_pd_orbisk_switch_egressMcRemap_schema(char *out);
 int p4_pd_orbisk_switch_egressMcRemap_eg_intr_md_egress_rid_width(void);
 int p4_pd_orbisk_switch_egressMcRemap_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_egressMcRemap_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_egressMcRemap_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_egressMcRemap_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* mcastPrune: table 0x11010028, pipeline B, ternary match, 8 key bytes (42 bits) */
 typedef struct p4_pd_orbisk_switch_mcastPrune_match_spec {
@@ -8597,6 +9273,17 @@ int p4_pd_orbisk_switch_mcastPrune_phase0_portType_width(void);
 int p4_pd_orbisk_switch_mcastPrune_egrMd_egrL2AintfUnresolved_width(void);
 int p4_pd_orbisk_switch_mcastPrune_ig_intr_md_for_tm_mcast_grp_a_width(void);
 int p4_pd_orbisk_switch_mcastPrune_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_mcastPrune_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_mcastPrune_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_mcastPrune_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* ================================================================== */
 /* VXLAN and tunnels */
@@ -8725,6 +9412,17 @@ int p4_pd_orbisk_switch_tunnelTermination_outerIpv4Hdr_dip_width(void);
 int p4_pd_orbisk_switch_tunnelTermination_ingMd_tunnelType_width(void);
 int p4_pd_orbisk_switch_tunnelTermination_outerIpv6Hdr_width(void);
 int p4_pd_orbisk_switch_tunnelTermination_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_tunnelTermination_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_tunnelTermination_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_tunnelTermination_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* vxlanL2AintfLookup: table 0x01000008, pipeline A, exact match, 4 key bytes (32 bits) */
 typedef struct p4_pd_orbisk_switch_vxlanL2AintfLookup_match_spec {
@@ -8846,6 +9544,16 @@ const char *p4_pd_orbisk_switch_vxlanL2AintfLookup_match_spec_schema(void);
 int p4_pd_orbisk_switch_vxlanL2AintfLookup_schema(char *out);
 int p4_pd_orbisk_switch_vxlanL2AintfLookup_outerIpv4Hdr_sip_width(void);
 int p4_pd_orbisk_switch_vxlanL2AintfLookup_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_vxlanL2AintfLookup_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_vxlanL2AintfLookup_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_vxlanL2AintfLookup_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* vxlanVniResolution: table 0x01000009, pipeline A, exact match, 4 key bytes (27 bits) */
 typedef struct p4_pd_orbisk_switch_vxlanVniResolution_match_spec {
@@ -8958,6 +9666,16 @@ int p4_pd_orbisk_switch_vxlanVniResolution_ingMd_ingressVniLow_width(void);
 int p4_pd_orbisk_switch_vxlanVniResolution_ingMd_ingressVniHigh_width(void);
 int p4_pd_orbisk_switch_vxlanVniResolution_ingMd_tunnelType_width(void);
 int p4_pd_orbisk_switch_vxlanVniResolution_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_vxlanVniResolution_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_vxlanVniResolution_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_vxlanVniResolution_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* vxlanVarp: table 0x01000034, pipeline A, ternary match, 8 key bytes (50 bits) */
 typedef struct p4_pd_orbisk_switch_vxlanVarp_match_spec {
@@ -9063,6 +9781,17 @@ int p4_pd_orbisk_switch_vxlanVarp_innerEthHdr_dmacStation_width(void);
 int p4_pd_orbisk_switch_vxlanVarp_outerIpv4Hdr_width(void);
 int p4_pd_orbisk_switch_vxlanVarp_ingMd_vxlanVarpIp_width(void);
 int p4_pd_orbisk_switch_vxlanVarp_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_vxlanVarp_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_vxlanVarp_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_vxlanVarp_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* vxlanArp: table 0x01000035, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_vxlanArp_get_entry(pd_sess_hdl sess_hdl,
@@ -9112,6 +9841,15 @@ pd_status p4_pd_orbisk_switch_vxlanArp_register_mat_update_cb(pd_sess_hdl sess_h
     void *cookie);
 int p4_pd_orbisk_switch_vxlanArp_schema(char *out);
 int p4_pd_orbisk_switch_vxlanArp_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_vxlanArp_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_vxlanArp_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* tunnelDip0: table 0x0100005c, pipeline A, exact match, 4 key bytes (32 bits) */
 typedef struct p4_pd_orbisk_switch_tunnelDip0_match_spec {
@@ -9194,6 +9932,16 @@ const char *p4_pd_orbisk_switch_tunnelDip0_match_spec_schema(void);
 int p4_pd_orbisk_switch_tunnelDip0_schema(char *out);
 int p4_pd_orbisk_switch_tunnelDip0_egrMd_tunnelInfo_width(void);
 int p4_pd_orbisk_switch_tunnelDip0_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_tunnelDip0_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_tunnelDip0_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_tunnelDip0_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* tunnelVniAndVti: table 0x0100005f, pipeline A, exact match, 2 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_tunnelVniAndVti_match_spec {
@@ -9285,6 +10033,16 @@ const char *p4_pd_orbisk_switch_tunnelVniAndVti_match_spec_schema(void);
 int p4_pd_orbisk_switch_tunnelVniAndVti_schema(char *out);
 int p4_pd_orbisk_switch_tunnelVniAndVti_egrMd_egrL2Domain_width(void);
 int p4_pd_orbisk_switch_tunnelVniAndVti_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_tunnelVniAndVti_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_tunnelVniAndVti_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_tunnelVniAndVti_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* tunnelL2Info: table 0x01000066, pipeline A, exact match, 4 key bytes (32 bits) */
 typedef struct p4_pd_orbisk_switch_tunnelL2Info_match_spec {
@@ -9376,6 +10134,16 @@ const char *p4_pd_orbisk_switch_tunnelL2Info_match_spec_schema(void);
 int p4_pd_orbisk_switch_tunnelL2Info_schema(char *out);
 int p4_pd_orbisk_switch_tunnelL2Info_egrMd_tunnelInfo_width(void);
 int p4_pd_orbisk_switch_tunnelL2Info_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_tunnelL2Info_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_tunnelL2Info_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_tunnelL2Info_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* tunnelResolve: table 0x1101001f, pipeline B, exact match, 2 key bytes (10 bits), entries name a member or group of tunnelMemberActionProfile */
 typedef struct p4_pd_orbisk_switch_tunnelResolve_match_spec {
@@ -9476,6 +10244,19 @@ const char *p4_pd_orbisk_switch_tunnelResolve_match_spec_schema(void);
 int p4_pd_orbisk_switch_tunnelResolve_schema(char *out);
 int p4_pd_orbisk_switch_tunnelResolve_egrMd_tunnelNextHop_width(void);
 int p4_pd_orbisk_switch_tunnelResolve_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_tunnelResolve_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_tunnelResolve_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_tunnelResolve_match_spec_t *match_spec,
+    pd_mbr_hdl *mbr_hdl,
+    pd_grp_hdl *grp_hdl,
+    bool *has_mbr,
+    bool *has_grp,
+    bool *is_default);
 
 /* encapDecap: table 0x01000067, pipeline A, ternary match, 9 key bytes (41 bits) */
 typedef struct p4_pd_orbisk_switch_encapDecap_match_spec {
@@ -9674,6 +10455,17 @@ int p4_pd_orbisk_switch_encapDecap_outerIpv4Hdr_width(void);
 int p4_pd_orbisk_switch_encapDecap_outerIpv6Hdr_width(void);
 int p4_pd_orbisk_switch_encapDecap_egrMd_tunnelInfo_width(void);
 int p4_pd_orbisk_switch_encapDecap_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_encapDecap_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_encapDecap_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_encapDecap_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* decapIngress: table 0x01000049, pipeline A, exact match, 3 key bytes (5 bits) */
 typedef struct p4_pd_orbisk_switch_decapIngress_match_spec {
@@ -9806,6 +10598,16 @@ int p4_pd_orbisk_switch_decapIngress_egrMd_decapType_width(void);
 int p4_pd_orbisk_switch_decapIngress_outerIpv4Hdr_width(void);
 int p4_pd_orbisk_switch_decapIngress_outerIpv6Hdr_width(void);
 int p4_pd_orbisk_switch_decapIngress_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_decapIngress_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_decapIngress_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_decapIngress_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* globalFields: table 0x01000064, pipeline A, ternary match, 8 key bytes (40 bits) */
 typedef struct p4_pd_orbisk_switch_globalFields_match_spec {
@@ -9948,6 +10750,17 @@ int p4_pd_orbisk_switch_globalFields_egrMd_encapType_width(void);
 int p4_pd_orbisk_switch_globalFields_egrMd_ingressTagged_width(void);
 int p4_pd_orbisk_switch_globalFields_egrMd_tunnelInfo_width(void);
 int p4_pd_orbisk_switch_globalFields_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_globalFields_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_globalFields_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_globalFields_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* ================================================================== */
 /* NAT */
@@ -10034,6 +10847,16 @@ const char *p4_pd_orbisk_switch_ingressNatProfile_match_spec_schema(void);
 int p4_pd_orbisk_switch_ingressNatProfile_schema(char *out);
 int p4_pd_orbisk_switch_ingressNatProfile_ingMd_ingL3Aintf_width(void);
 int p4_pd_orbisk_switch_ingressNatProfile_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ingressNatProfile_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_ingressNatProfile_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ingressNatProfile_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* staticDnatAcl: table 0x01000025, pipeline A, ternary match, 6 key bytes (41 bits) */
 typedef struct p4_pd_orbisk_switch_staticDnatAcl_match_spec {
@@ -10141,6 +10964,17 @@ int p4_pd_orbisk_switch_staticDnatAcl_ingIpv4_sip_width(void);
 int p4_pd_orbisk_switch_staticDnatAcl_ingMd_protocol_width(void);
 int p4_pd_orbisk_switch_staticDnatAcl_haloKeyOrig_isFrag_width(void);
 int p4_pd_orbisk_switch_staticDnatAcl_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_staticDnatAcl_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_staticDnatAcl_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_staticDnatAcl_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* addrPortDnat: table 0x01000026, pipeline A, exact match, 9 key bytes (68 bits), entries carry staticDnatCounters */
 typedef struct p4_pd_orbisk_switch_addrPortDnat_match_spec {
@@ -10277,6 +11111,16 @@ int p4_pd_orbisk_switch_addrPortDnat_ingIpv4_dip_width(void);
 int p4_pd_orbisk_switch_addrPortDnat_ingMd_dstPort_width(void);
 int p4_pd_orbisk_switch_addrPortDnat_ingMd_ingNatProfile_width(void);
 int p4_pd_orbisk_switch_addrPortDnat_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_addrPortDnat_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_addrPortDnat_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_addrPortDnat_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* addrOnlyDnat: table 0x01000027, pipeline A, exact match, 7 key bytes (52 bits) */
 typedef struct p4_pd_orbisk_switch_addrOnlyDnat_match_spec {
@@ -10385,6 +11229,16 @@ int p4_pd_orbisk_switch_addrOnlyDnat_ingMd_dnatAclId_width(void);
 int p4_pd_orbisk_switch_addrOnlyDnat_ingIpv4_dip_width(void);
 int p4_pd_orbisk_switch_addrOnlyDnat_ingMd_ingNatProfile_width(void);
 int p4_pd_orbisk_switch_addrOnlyDnat_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_addrOnlyDnat_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_addrOnlyDnat_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_addrOnlyDnat_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* dynamicDnat1: table 0x01000021, pipeline A, exact match, 14 key bytes (112 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_dynamicDnat1_match_spec {
@@ -10530,6 +11384,16 @@ int p4_pd_orbisk_switch_dynamicDnat1_ingIpv4_dip_width(void);
 int p4_pd_orbisk_switch_dynamicDnat1_ingMd_dstPort_width(void);
 int p4_pd_orbisk_switch_dynamicDnat1_l3Info_vrfId_width(void);
 int p4_pd_orbisk_switch_dynamicDnat1_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_dynamicDnat1_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_dynamicDnat1_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_dynamicDnat1_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* dynamicFullConeCompressDip: table 0x0100001f, pipeline A, exact match, 4 key bytes (32 bits) */
 typedef struct p4_pd_orbisk_switch_dynamicFullConeCompressDip_match_spec {
@@ -10612,6 +11476,16 @@ const char *p4_pd_orbisk_switch_dynamicFullConeCompressDip_match_spec_schema(voi
 int p4_pd_orbisk_switch_dynamicFullConeCompressDip_schema(char *out);
 int p4_pd_orbisk_switch_dynamicFullConeCompressDip_ingIpv4_dip_width(void);
 int p4_pd_orbisk_switch_dynamicFullConeCompressDip_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_dynamicFullConeCompressDip_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_dynamicFullConeCompressDip_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_dynamicFullConeCompressDip_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* dynamicFullConeDnat: table 0x01000024, pipeline A, exact match, 6 key bytes (41 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_dynamicFullConeDnat_match_spec {
@@ -10740,6 +11614,16 @@ int p4_pd_orbisk_switch_dynamicFullConeDnat_ingMd_fullConeDipRangeId_width(void)
 int p4_pd_orbisk_switch_dynamicFullConeDnat_ingMd_protocol_width(void);
 int p4_pd_orbisk_switch_dynamicFullConeDnat_ingMd_dstPort_width(void);
 int p4_pd_orbisk_switch_dynamicFullConeDnat_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_dynamicFullConeDnat_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_dynamicFullConeDnat_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_dynamicFullConeDnat_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* egressNatProfile: table 0x11010012, pipeline B, exact match, 2 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_egressNatProfile_match_spec {
@@ -10822,6 +11706,16 @@ const char *p4_pd_orbisk_switch_egressNatProfile_match_spec_schema(void);
 int p4_pd_orbisk_switch_egressNatProfile_schema(char *out);
 int p4_pd_orbisk_switch_egressNatProfile_egrMd_egrL2Domain_width(void);
 int p4_pd_orbisk_switch_egressNatProfile_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_egressNatProfile_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_egressNatProfile_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_egressNatProfile_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* staticSnatAcl: table 0x11010004, pipeline B, ternary match, 6 key bytes (41 bits) */
 typedef struct p4_pd_orbisk_switch_staticSnatAcl_match_spec {
@@ -10929,6 +11823,17 @@ int p4_pd_orbisk_switch_staticSnatAcl_outerIpv4Hdr_dip_width(void);
 int p4_pd_orbisk_switch_staticSnatAcl_ingMd_protocol_width(void);
 int p4_pd_orbisk_switch_staticSnatAcl_haloKeyOrig_isFrag_width(void);
 int p4_pd_orbisk_switch_staticSnatAcl_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_staticSnatAcl_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_staticSnatAcl_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_staticSnatAcl_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* addrPortSnat: table 0x11010016, pipeline B, exact match, 9 key bytes (68 bits), entries carry staticSnatCounters */
 typedef struct p4_pd_orbisk_switch_addrPortSnat_match_spec {
@@ -11039,6 +11944,16 @@ int p4_pd_orbisk_switch_addrPortSnat_outerIpv4Hdr_sip_width(void);
 int p4_pd_orbisk_switch_addrPortSnat_l4PortHdr_srcPort_width(void);
 int p4_pd_orbisk_switch_addrPortSnat_ingMd_egrNatProfile_width(void);
 int p4_pd_orbisk_switch_addrPortSnat_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_addrPortSnat_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_addrPortSnat_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_addrPortSnat_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* addrOnlySnat: table 0x11010017, pipeline B, exact match, 7 key bytes (52 bits) */
 typedef struct p4_pd_orbisk_switch_addrOnlySnat_match_spec {
@@ -11134,6 +12049,16 @@ int p4_pd_orbisk_switch_addrOnlySnat_ingMd_snatAclId_width(void);
 int p4_pd_orbisk_switch_addrOnlySnat_outerIpv4Hdr_sip_width(void);
 int p4_pd_orbisk_switch_addrOnlySnat_ingMd_egrNatProfile_width(void);
 int p4_pd_orbisk_switch_addrOnlySnat_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_addrOnlySnat_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_addrOnlySnat_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_addrOnlySnat_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* dynamicSnatAcl: table 0x11010013, pipeline B, ternary match, 14 key bytes (112 bits) */
 typedef struct p4_pd_orbisk_switch_dynamicSnatAcl_match_spec {
@@ -11247,6 +12172,17 @@ int p4_pd_orbisk_switch_dynamicSnatAcl_l4PortHdr_srcPort_width(void);
 int p4_pd_orbisk_switch_dynamicSnatAcl_l4PortHdr_dstPort_width(void);
 int p4_pd_orbisk_switch_dynamicSnatAcl_ingMd_protocol_width(void);
 int p4_pd_orbisk_switch_dynamicSnatAcl_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_dynamicSnatAcl_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_dynamicSnatAcl_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_dynamicSnatAcl_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* dynamicSnat1: table 0x11010015, pipeline B, exact match, 14 key bytes (112 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_dynamicSnat1_match_spec {
@@ -11392,6 +12328,16 @@ int p4_pd_orbisk_switch_dynamicSnat1_ingMd_dynNatDip_width(void);
 int p4_pd_orbisk_switch_dynamicSnat1_ingMd_dynNatDport_width(void);
 int p4_pd_orbisk_switch_dynamicSnat1_l3Info_vrfId_width(void);
 int p4_pd_orbisk_switch_dynamicSnat1_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_dynamicSnat1_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_dynamicSnat1_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_dynamicSnat1_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* dynamicNatCount: table 0x1101001e, pipeline B, ternary match, 5 key bytes (26 bits), entries carry dynNatCounters */
 typedef struct p4_pd_orbisk_switch_dynamicNatCount_match_spec {
@@ -11500,6 +12446,17 @@ int p4_pd_orbisk_switch_dynamicNatCount_ingMd_protocol_width(void);
 int p4_pd_orbisk_switch_dynamicNatCount_ingMd_ingNatProfile_width(void);
 int p4_pd_orbisk_switch_dynamicNatCount_ingMd_egrNatProfile_width(void);
 int p4_pd_orbisk_switch_dynamicNatCount_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_dynamicNatCount_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_dynamicNatCount_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_dynamicNatCount_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* natTcpFlags: table 0x11010006, pipeline B, exact match, 1 key bytes (8 bits) */
 typedef struct p4_pd_orbisk_switch_natTcpFlags_match_spec {
@@ -11588,6 +12545,16 @@ const char *p4_pd_orbisk_switch_natTcpFlags_match_spec_schema(void);
 int p4_pd_orbisk_switch_natTcpFlags_schema(char *out);
 int p4_pd_orbisk_switch_natTcpFlags_outerTcpHdr_flags_width(void);
 int p4_pd_orbisk_switch_natTcpFlags_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_natTcpFlags_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_natTcpFlags_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_natTcpFlags_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* natCpuTrapAcl: table 0x11010018, pipeline B, ternary match, 16 key bytes (121 bits) */
 typedef struct p4_pd_orbisk_switch_natCpuTrapAcl_match_spec {
@@ -11740,6 +12707,17 @@ int p4_pd_orbisk_switch_natCpuTrapAcl_l4PortHdr_srcPort_width(void);
 int p4_pd_orbisk_switch_natCpuTrapAcl_l4PortHdr_dstPort_width(void);
 int p4_pd_orbisk_switch_natCpuTrapAcl_outerIpv4Hdr_protocol_width(void);
 int p4_pd_orbisk_switch_natCpuTrapAcl_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_natCpuTrapAcl_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_natCpuTrapAcl_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_natCpuTrapAcl_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* natCpuReasonCode: table 0x11010005, pipeline B, ternary match, 2 key bytes (9 bits) */
 typedef struct p4_pd_orbisk_switch_natCpuReasonCode_match_spec {
@@ -11841,6 +12819,17 @@ int p4_pd_orbisk_switch_natCpuReasonCode_schema(char *out);
 int p4_pd_orbisk_switch_natCpuReasonCode_outerTcpHdr_width(void);
 int p4_pd_orbisk_switch_natCpuReasonCode_outerTcpHdr_flags_width(void);
 int p4_pd_orbisk_switch_natCpuReasonCode_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_natCpuReasonCode_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_natCpuReasonCode_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_natCpuReasonCode_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* natChecksumUpdate: table 0x11010021, pipeline B, ternary match, 9 key bytes (32 bits) */
 typedef struct p4_pd_orbisk_switch_natChecksumUpdate_match_spec {
@@ -12008,6 +12997,17 @@ int p4_pd_orbisk_switch_natChecksumUpdate_outerUdpHdr_width(void);
 int p4_pd_orbisk_switch_natChecksumUpdate_outerL4Checksum_checksum_width(void);
 int p4_pd_orbisk_switch_natChecksumUpdate_egrMd_decapType_width(void);
 int p4_pd_orbisk_switch_natChecksumUpdate_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_natChecksumUpdate_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_natChecksumUpdate_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_natChecksumUpdate_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* egressNatCpuTrapHeader: table 0x01000070, pipeline A, exact match, 2 key bytes (2 bits) */
 typedef struct p4_pd_orbisk_switch_egressNatCpuTrapHeader_match_spec {
@@ -12118,6 +13118,16 @@ int p4_pd_orbisk_switch_egressNatCpuTrapHeader_schema(char *out);
 int p4_pd_orbisk_switch_egressNatCpuTrapHeader_egrMd_natAclIdHi_width(void);
 int p4_pd_orbisk_switch_egressNatCpuTrapHeader_egrMd_natAclIdLo_width(void);
 int p4_pd_orbisk_switch_egressNatCpuTrapHeader_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_egressNatCpuTrapHeader_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_egressNatCpuTrapHeader_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_egressNatCpuTrapHeader_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* ================================================================== */
 /* Halo classification */
@@ -12215,6 +13225,16 @@ int p4_pd_orbisk_switch_haloPaclCrlId_schema(char *out);
 int p4_pd_orbisk_switch_haloPaclCrlId_ingMd_v4V6Valid_width(void);
 int p4_pd_orbisk_switch_haloPaclCrlId_ig_intr_md_ingress_port_width(void);
 int p4_pd_orbisk_switch_haloPaclCrlId_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_haloPaclCrlId_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_haloPaclCrlId_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_haloPaclCrlId_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* haloRaclCrlId: table 0x01000016, pipeline A, exact match, 3 key bytes (15 bits) */
 typedef struct p4_pd_orbisk_switch_haloRaclCrlId_match_spec {
@@ -12308,6 +13328,16 @@ int p4_pd_orbisk_switch_haloRaclCrlId_schema(char *out);
 int p4_pd_orbisk_switch_haloRaclCrlId_ingMd_v4V6Valid_width(void);
 int p4_pd_orbisk_switch_haloRaclCrlId_ingMd_ingL3Aintf_width(void);
 int p4_pd_orbisk_switch_haloRaclCrlId_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_haloRaclCrlId_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_haloRaclCrlId_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_haloRaclCrlId_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* haloXformIpv4Sip: table 0x0100001c, pipeline A, ternary match, 4 key bytes (32 bits) */
 typedef struct p4_pd_orbisk_switch_haloXformIpv4Sip_match_spec {
@@ -12421,6 +13451,17 @@ const char *p4_pd_orbisk_switch_haloXformIpv4Sip_match_spec_schema(void);
 int p4_pd_orbisk_switch_haloXformIpv4Sip_schema(char *out);
 int p4_pd_orbisk_switch_haloXformIpv4Sip_ingIpv4_sip_width(void);
 int p4_pd_orbisk_switch_haloXformIpv4Sip_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_haloXformIpv4Sip_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_haloXformIpv4Sip_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_haloXformIpv4Sip_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* haloXformIpv4Dip: table 0x01000019, pipeline A, ternary match, 4 key bytes (32 bits) */
 typedef struct p4_pd_orbisk_switch_haloXformIpv4Dip_match_spec {
@@ -12534,6 +13575,17 @@ const char *p4_pd_orbisk_switch_haloXformIpv4Dip_match_spec_schema(void);
 int p4_pd_orbisk_switch_haloXformIpv4Dip_schema(char *out);
 int p4_pd_orbisk_switch_haloXformIpv4Dip_ingIpv4_dip_width(void);
 int p4_pd_orbisk_switch_haloXformIpv4Dip_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_haloXformIpv4Dip_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_haloXformIpv4Dip_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_haloXformIpv4Dip_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* haloXformIpv6Sip: table 0x0100001b, pipeline A, ternary match, 16 key bytes (128 bits) */
 typedef struct p4_pd_orbisk_switch_haloXformIpv6Sip_match_spec {
@@ -12647,6 +13699,17 @@ const char *p4_pd_orbisk_switch_haloXformIpv6Sip_match_spec_schema(void);
 int p4_pd_orbisk_switch_haloXformIpv6Sip_schema(char *out);
 int p4_pd_orbisk_switch_haloXformIpv6Sip_ingIpv6_sip_width(void);
 int p4_pd_orbisk_switch_haloXformIpv6Sip_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_haloXformIpv6Sip_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_haloXformIpv6Sip_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_haloXformIpv6Sip_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* haloXformIpv6Dip: table 0x0100001a, pipeline A, ternary match, 16 key bytes (128 bits) */
 typedef struct p4_pd_orbisk_switch_haloXformIpv6Dip_match_spec {
@@ -12760,6 +13823,17 @@ const char *p4_pd_orbisk_switch_haloXformIpv6Dip_match_spec_schema(void);
 int p4_pd_orbisk_switch_haloXformIpv6Dip_schema(char *out);
 int p4_pd_orbisk_switch_haloXformIpv6Dip_ingIpv6_dip_width(void);
 int p4_pd_orbisk_switch_haloXformIpv6Dip_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_haloXformIpv6Dip_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_haloXformIpv6Dip_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_haloXformIpv6Dip_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* haloXformSrcPort: table 0x0100001e, pipeline A, ternary match, 2 key bytes (16 bits) */
 typedef struct p4_pd_orbisk_switch_haloXformSrcPort_match_spec {
@@ -12861,6 +13935,17 @@ const char *p4_pd_orbisk_switch_haloXformSrcPort_match_spec_schema(void);
 int p4_pd_orbisk_switch_haloXformSrcPort_schema(char *out);
 int p4_pd_orbisk_switch_haloXformSrcPort_ingMd_srcPort_width(void);
 int p4_pd_orbisk_switch_haloXformSrcPort_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_haloXformSrcPort_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_haloXformSrcPort_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_haloXformSrcPort_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* haloXformDstPort: table 0x0100001d, pipeline A, ternary match, 2 key bytes (16 bits) */
 typedef struct p4_pd_orbisk_switch_haloXformDstPort_match_spec {
@@ -12962,6 +14047,17 @@ const char *p4_pd_orbisk_switch_haloXformDstPort_match_spec_schema(void);
 int p4_pd_orbisk_switch_haloXformDstPort_schema(char *out);
 int p4_pd_orbisk_switch_haloXformDstPort_ingMd_dstPort_width(void);
 int p4_pd_orbisk_switch_haloXformDstPort_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_haloXformDstPort_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_haloXformDstPort_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_haloXformDstPort_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* haloKeyMaskForRow1Stage2: table 0x01000028, pipeline A, exact match, 1 key bytes (8 bits) */
 typedef struct p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_match_spec {
@@ -13044,6 +14140,16 @@ const char *p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_match_spec_schema(void)
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_schema(char *out);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_haloKeyOrig_crlId_width(void);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* haloRow1Stage2: table 0x01000032, pipeline A, exact match, 14 key bytes (103 bits) */
 typedef struct p4_pd_orbisk_switch_haloRow1Stage2_match_spec {
@@ -13153,6 +14259,16 @@ int p4_pd_orbisk_switch_haloRow1Stage2_haloKeyMaskedRow1_ttl_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage2_haloKeyMaskedRow1_flags_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage2_haloKeyMaskedRow1_isFrag_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage2_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_haloRow1Stage2_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_haloRow1Stage2_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_haloRow1Stage2_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* haloKeyMaskForRow1Stage3: table 0x01000033, pipeline A, exact match, 1 key bytes (8 bits) */
 typedef struct p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_match_spec {
@@ -13235,6 +14351,16 @@ const char *p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_match_spec_schema(void)
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_schema(char *out);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_haloKeyOrig_crlId_width(void);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* haloRow1Stage3: table 0x0100003c, pipeline A, exact match, 14 key bytes (103 bits) */
 typedef struct p4_pd_orbisk_switch_haloRow1Stage3_match_spec {
@@ -13344,6 +14470,16 @@ int p4_pd_orbisk_switch_haloRow1Stage3_haloKeyMaskedRow1_ttl_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage3_haloKeyMaskedRow1_flags_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage3_haloKeyMaskedRow1_isFrag_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage3_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_haloRow1Stage3_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_haloRow1Stage3_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_haloRow1Stage3_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* haloKeyMaskForRow1Stage4: table 0x0100003d, pipeline A, exact match, 1 key bytes (8 bits) */
 typedef struct p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_match_spec {
@@ -13426,6 +14562,16 @@ const char *p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_match_spec_schema(void)
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_schema(char *out);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_haloKeyOrig_crlId_width(void);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* haloRow1Stage4: table 0x01000044, pipeline A, exact match, 14 key bytes (103 bits) */
 typedef struct p4_pd_orbisk_switch_haloRow1Stage4_match_spec {
@@ -13535,6 +14681,16 @@ int p4_pd_orbisk_switch_haloRow1Stage4_haloKeyMaskedRow1_ttl_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage4_haloKeyMaskedRow1_flags_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage4_haloKeyMaskedRow1_isFrag_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage4_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_haloRow1Stage4_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_haloRow1Stage4_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_haloRow1Stage4_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* haloKeyMaskForRow1Stage5: table 0x01000045, pipeline A, exact match, 1 key bytes (8 bits) */
 typedef struct p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_match_spec {
@@ -13617,6 +14773,16 @@ const char *p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_match_spec_schema(void)
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_schema(char *out);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_haloKeyOrig_crlId_width(void);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* haloRow1Stage5: table 0x0100004c, pipeline A, exact match, 14 key bytes (103 bits) */
 typedef struct p4_pd_orbisk_switch_haloRow1Stage5_match_spec {
@@ -13726,6 +14892,16 @@ int p4_pd_orbisk_switch_haloRow1Stage5_haloKeyMaskedRow1_ttl_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage5_haloKeyMaskedRow1_flags_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage5_haloKeyMaskedRow1_isFrag_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage5_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_haloRow1Stage5_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_haloRow1Stage5_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_haloRow1Stage5_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* haloKeyMaskForRow1Stage6: table 0x0100004d, pipeline A, exact match, 1 key bytes (8 bits) */
 typedef struct p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_match_spec {
@@ -13808,6 +14984,16 @@ const char *p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_match_spec_schema(void)
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_schema(char *out);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_haloKeyOrig_crlId_width(void);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* haloRow1Stage6: table 0x01000052, pipeline A, exact match, 14 key bytes (103 bits) */
 typedef struct p4_pd_orbisk_switch_haloRow1Stage6_match_spec {
@@ -13917,6 +15103,16 @@ int p4_pd_orbisk_switch_haloRow1Stage6_haloKeyMaskedRow1_ttl_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage6_haloKeyMaskedRow1_flags_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage6_haloKeyMaskedRow1_isFrag_width(void);
 int p4_pd_orbisk_switch_haloRow1Stage6_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_haloRow1Stage6_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_haloRow1Stage6_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_haloRow1Stage6_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* haloBypass: table 0x01000051, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_haloBypass_get_entry(pd_sess_hdl sess_hdl,
@@ -13966,6 +15162,15 @@ pd_status p4_pd_orbisk_switch_haloBypass_register_mat_update_cb(pd_sess_hdl sess
     void *cookie);
 int p4_pd_orbisk_switch_haloBypass_schema(char *out);
 int p4_pd_orbisk_switch_haloBypass_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_haloBypass_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_haloBypass_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* haloCounters: table 0x01000059, pipeline A, exact match, 4 key bytes (32 bits), entries carry haloCount */
 typedef struct p4_pd_orbisk_switch_haloCounters_match_spec {
@@ -14044,6 +15249,16 @@ const char *p4_pd_orbisk_switch_haloCounters_match_spec_schema(void);
 int p4_pd_orbisk_switch_haloCounters_schema(char *out);
 int p4_pd_orbisk_switch_haloCounters_haloResultRow1_bestResult_width(void);
 int p4_pd_orbisk_switch_haloCounters_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_haloCounters_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_haloCounters_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_haloCounters_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* ================================================================== */
 /* Mirroring */
@@ -14194,6 +15409,17 @@ int p4_pd_orbisk_switch_ingressMirrorSession_haloKeyOrig_isFrag_width(void);
 int p4_pd_orbisk_switch_ingressMirrorSession_haloKeyOrig_flags_width(void);
 int p4_pd_orbisk_switch_ingressMirrorSession_ingMd_v4V6Valid_width(void);
 int p4_pd_orbisk_switch_ingressMirrorSession_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ingressMirrorSession_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_ingressMirrorSession_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ingressMirrorSession_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* ingressMirrorLagGroup: table 0x0100004b, pipeline A, exact match, 2 key bytes (10 bits), entries name a member or group of mirrorLagPortActionProfile */
 typedef struct p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec {
@@ -14294,6 +15520,19 @@ const char *p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_schema(void);
 int p4_pd_orbisk_switch_ingressMirrorLagGroup_schema(char *out);
 int p4_pd_orbisk_switch_ingressMirrorLagGroup_ingMirrorMd_mirrorSession_width(void);
 int p4_pd_orbisk_switch_ingressMirrorLagGroup_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_t *match_spec,
+    pd_mbr_hdl *mbr_hdl,
+    pd_grp_hdl *grp_hdl,
+    bool *has_mbr,
+    bool *has_grp,
+    bool *is_default);
 
 /* ingressMirrorRate: table 0x01000056, pipeline A, exact match, 2 key bytes (10 bits), entries carry ingressMirrorMeter */
 typedef struct p4_pd_orbisk_switch_ingressMirrorRate_match_spec {
@@ -14385,6 +15624,16 @@ const char *p4_pd_orbisk_switch_ingressMirrorRate_match_spec_schema(void);
 int p4_pd_orbisk_switch_ingressMirrorRate_schema(char *out);
 int p4_pd_orbisk_switch_ingressMirrorRate_ingMirrorMd_mirrorBufId_width(void);
 int p4_pd_orbisk_switch_ingressMirrorRate_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ingressMirrorRate_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_ingressMirrorRate_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ingressMirrorRate_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* ingressMirrorResult: table 0x01000058, pipeline A, exact match, 3 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_ingressMirrorResult_match_spec {
@@ -14469,6 +15718,16 @@ int p4_pd_orbisk_switch_ingressMirrorResult_schema(char *out);
 int p4_pd_orbisk_switch_ingressMirrorResult_ingMirrorMd_mirrorColor_width(void);
 int p4_pd_orbisk_switch_ingressMirrorResult_ingMirrorMd_mirrorSession_width(void);
 int p4_pd_orbisk_switch_ingressMirrorResult_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ingressMirrorResult_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_ingressMirrorResult_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ingressMirrorResult_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* egressMirrorSession: table 0x0100005e, pipeline A, ternary match, 51 key bytes (380 bits) */
 typedef struct p4_pd_orbisk_switch_egressMirrorSession_match_spec {
@@ -14602,6 +15861,17 @@ int p4_pd_orbisk_switch_egressMirrorSession_outerIpv4Hdr_protocol_width(void);
 int p4_pd_orbisk_switch_egressMirrorSession_outerIpv6Hdr_nextHdr_width(void);
 int p4_pd_orbisk_switch_egressMirrorSession_haloKeyOrig_isFrag_width(void);
 int p4_pd_orbisk_switch_egressMirrorSession_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_egressMirrorSession_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_egressMirrorSession_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_egressMirrorSession_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* egressMirrorLagGroup: table 0x01000063, pipeline A, exact match, 2 key bytes (10 bits), entries name a member or group of egrMirrorLagPortActionProfile */
 typedef struct p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec {
@@ -14702,6 +15972,19 @@ const char *p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_schema(void);
 int p4_pd_orbisk_switch_egressMirrorLagGroup_schema(char *out);
 int p4_pd_orbisk_switch_egressMirrorLagGroup_egrMirrorMd_mirrorSession_width(void);
 int p4_pd_orbisk_switch_egressMirrorLagGroup_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_t *match_spec,
+    pd_mbr_hdl *mbr_hdl,
+    pd_grp_hdl *grp_hdl,
+    bool *has_mbr,
+    bool *has_grp,
+    bool *is_default);
 
 /* egressMirrorRate: table 0x01000068, pipeline A, exact match, 2 key bytes (10 bits), entries carry egressMirrorMeter */
 typedef struct p4_pd_orbisk_switch_egressMirrorRate_match_spec {
@@ -14793,6 +16076,16 @@ const char *p4_pd_orbisk_switch_egressMirrorRate_match_spec_schema(void);
 int p4_pd_orbisk_switch_egressMirrorRate_schema(char *out);
 int p4_pd_orbisk_switch_egressMirrorRate_egrMirrorMd_mirrorBufId_width(void);
 int p4_pd_orbisk_switch_egressMirrorRate_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_egressMirrorRate_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_egressMirrorRate_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_egressMirrorRate_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* egressMirrorResult: table 0x01000075, pipeline A, exact match, 1 key bytes (1 bits) */
 typedef struct p4_pd_orbisk_switch_egressMirrorResult_match_spec {
@@ -14881,6 +16174,16 @@ const char *p4_pd_orbisk_switch_egressMirrorResult_match_spec_schema(void);
 int p4_pd_orbisk_switch_egressMirrorResult_schema(char *out);
 int p4_pd_orbisk_switch_egressMirrorResult_egrMirrorMd_mirrorColor_width(void);
 int p4_pd_orbisk_switch_egressMirrorResult_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_egressMirrorResult_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_egressMirrorResult_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_egressMirrorResult_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* mirrorPacketEncap: table 0x0100005d, pipeline A, exact match, 4 key bytes (25 bits) */
 typedef struct p4_pd_orbisk_switch_mirrorPacketEncap_match_spec {
@@ -14997,6 +16300,16 @@ int p4_pd_orbisk_switch_mirrorPacketEncap_schema(char *out);
 int p4_pd_orbisk_switch_mirrorPacketEncap_eg_intr_md_egress_rid_width(void);
 int p4_pd_orbisk_switch_mirrorPacketEncap_eg_intr_md_egress_port_width(void);
 int p4_pd_orbisk_switch_mirrorPacketEncap_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_mirrorPacketEncap_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_mirrorPacketEncap_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_mirrorPacketEncap_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* ================================================================== */
 /* QoS and policing classes */
@@ -15083,6 +16396,16 @@ const char *p4_pd_orbisk_switch_qosPortProperties_match_spec_schema(void);
 int p4_pd_orbisk_switch_qosPortProperties_schema(char *out);
 int p4_pd_orbisk_switch_qosPortProperties_ig_intr_md_ingress_port_width(void);
 int p4_pd_orbisk_switch_qosPortProperties_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_qosPortProperties_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_qosPortProperties_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_qosPortProperties_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* normalizeCos: table 0x01000036, pipeline A, exact match, 4 key bytes (8 bits) */
 typedef struct p4_pd_orbisk_switch_normalizeCos_match_spec {
@@ -15206,6 +16529,16 @@ int p4_pd_orbisk_switch_normalizeCos_qosMd_defaultCos_width(void);
 int p4_pd_orbisk_switch_normalizeCos_vlanHdr_0__priority_width(void);
 int p4_pd_orbisk_switch_normalizeCos_vlanHdr_1__width(void);
 int p4_pd_orbisk_switch_normalizeCos_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_normalizeCos_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_normalizeCos_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_normalizeCos_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* normalizeDscp: table 0x01000029, pipeline A, exact match, 2 key bytes (6 bits) */
 typedef struct p4_pd_orbisk_switch_normalizeDscp_match_spec {
@@ -15351,6 +16684,16 @@ int p4_pd_orbisk_switch_normalizeDscp_schema(char *out);
 int p4_pd_orbisk_switch_normalizeDscp_egrMd_decapType_width(void);
 int p4_pd_orbisk_switch_normalizeDscp_ingMd_v4V6Valid_width(void);
 int p4_pd_orbisk_switch_normalizeDscp_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_normalizeDscp_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_normalizeDscp_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_normalizeDscp_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* ingressTrafficClass: table 0x0100003f, pipeline A, ternary match, 8 key bytes (23 bits) */
 typedef struct p4_pd_orbisk_switch_ingressTrafficClass_match_spec {
@@ -15462,6 +16805,17 @@ int p4_pd_orbisk_switch_ingressTrafficClass_egrMd_decapType_width(void);
 int p4_pd_orbisk_switch_ingressTrafficClass_orbiskCpuHdr_trustMode_width(void);
 int p4_pd_orbisk_switch_ingressTrafficClass_orbiskCpuHdr_tc_width(void);
 int p4_pd_orbisk_switch_ingressTrafficClass_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ingressTrafficClass_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_ingressTrafficClass_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ingressTrafficClass_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* tcDscpMap: table 0x01000061, pipeline A, exact match, 1 key bytes (3 bits) */
 typedef struct p4_pd_orbisk_switch_tcDscpMap_match_spec {
@@ -15557,6 +16911,16 @@ const char *p4_pd_orbisk_switch_tcDscpMap_match_spec_schema(void);
 int p4_pd_orbisk_switch_tcDscpMap_schema(char *out);
 int p4_pd_orbisk_switch_tcDscpMap_ig_intr_md_for_tm_ingress_cos_width(void);
 int p4_pd_orbisk_switch_tcDscpMap_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_tcDscpMap_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_tcDscpMap_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_tcDscpMap_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* qosRewriteConfig: table 0x0100000f, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_qosRewriteConfig_get_entry(pd_sess_hdl sess_hdl,
@@ -15607,6 +16971,15 @@ pd_status p4_pd_orbisk_switch_qosRewriteConfig_register_mat_update_cb(pd_sess_hd
     void *cookie);
 int p4_pd_orbisk_switch_qosRewriteConfig_schema(char *out);
 int p4_pd_orbisk_switch_qosRewriteConfig_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_qosRewriteConfig_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_qosRewriteConfig_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* qosRewrite: table 0x01000048, pipeline A, exact match, 5 key bytes (10 bits) */
 typedef struct p4_pd_orbisk_switch_qosRewrite_match_spec {
@@ -15732,6 +17105,16 @@ int p4_pd_orbisk_switch_qosRewrite_qosMd_dscpRewrite_width(void);
 int p4_pd_orbisk_switch_qosRewrite_ig_intr_md_for_tm_ingress_cos_width(void);
 int p4_pd_orbisk_switch_qosRewrite_egrMd_decapType_width(void);
 int p4_pd_orbisk_switch_qosRewrite_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_qosRewrite_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_qosRewrite_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_qosRewrite_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* packetDscpRewrite: table 0x0100006e, pipeline A, ternary match, 6 key bytes (10 bits) */
 typedef struct p4_pd_orbisk_switch_packetDscpRewrite_match_spec {
@@ -15917,6 +17300,17 @@ int p4_pd_orbisk_switch_packetDscpRewrite_outerIpv4Hdr_width(void);
 int p4_pd_orbisk_switch_packetDscpRewrite_outerIpv6Hdr_width(void);
 int p4_pd_orbisk_switch_packetDscpRewrite_encapIpv4Hdr_width(void);
 int p4_pd_orbisk_switch_packetDscpRewrite_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_packetDscpRewrite_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_packetDscpRewrite_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_packetDscpRewrite_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* queueCounters: table 0x0100005b, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_queueCounters_get_entry(pd_sess_hdl sess_hdl,
@@ -15966,6 +17360,15 @@ pd_status p4_pd_orbisk_switch_queueCounters_register_mat_update_cb(pd_sess_hdl s
     void *cookie);
 int p4_pd_orbisk_switch_queueCounters_schema(char *out);
 int p4_pd_orbisk_switch_queueCounters_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_queueCounters_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_queueCounters_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* pdpClassify: table 0x11010020, pipeline B, ternary match, 10 key bytes (52 bits), entries carry pdpMeter */
 typedef struct p4_pd_orbisk_switch_pdpClassify_match_spec {
@@ -16092,6 +17495,17 @@ int p4_pd_orbisk_switch_pdpClassify_ingMd_protocol_width(void);
 int p4_pd_orbisk_switch_pdpClassify_ingMd_srcPort_width(void);
 int p4_pd_orbisk_switch_pdpClassify_ingMd_dstPort_width(void);
 int p4_pd_orbisk_switch_pdpClassify_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_pdpClassify_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_pdpClassify_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_pdpClassify_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* pdpPolicy: table 0x11010025, pipeline B, exact match, 2 key bytes (6 bits), entries carry pdpClassCount */
 typedef struct p4_pd_orbisk_switch_pdpPolicy_match_spec {
@@ -16185,6 +17599,16 @@ int p4_pd_orbisk_switch_pdpPolicy_schema(char *out);
 int p4_pd_orbisk_switch_pdpPolicy_qosMd_pdpDrop_width(void);
 int p4_pd_orbisk_switch_pdpPolicy_qosMd_pdpClassId_width(void);
 int p4_pd_orbisk_switch_pdpPolicy_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_pdpPolicy_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_pdpPolicy_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_pdpPolicy_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* ================================================================== */
 /* CPU path, MTU and final drop */
@@ -16386,6 +17810,17 @@ int p4_pd_orbisk_switch_trapToCpu_ingIpv6_dip_width(void);
 int p4_pd_orbisk_switch_trapToCpu_ingMd_cpuMemberOfIngressVlan_width(void);
 int p4_pd_orbisk_switch_trapToCpu_egrMd_cpuReasonCode_width(void);
 int p4_pd_orbisk_switch_trapToCpu_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_trapToCpu_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_trapToCpu_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_trapToCpu_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* switchToCpu: table 0x11010009, pipeline B, exact match, 2 key bytes (7 bits) */
 typedef struct p4_pd_orbisk_switch_switchToCpu_match_spec {
@@ -16470,6 +17905,16 @@ int p4_pd_orbisk_switch_switchToCpu_schema(char *out);
 int p4_pd_orbisk_switch_switchToCpu_l3Info_ipRouting_width(void);
 int p4_pd_orbisk_switch_switchToCpu_ingMd_v4V6Valid_width(void);
 int p4_pd_orbisk_switch_switchToCpu_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_switchToCpu_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_switchToCpu_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_switchToCpu_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* cpuEncap: table 0x11010022, pipeline B, ternary match, 7 key bytes (14 bits) */
 typedef struct p4_pd_orbisk_switch_cpuEncap_match_spec {
@@ -16671,6 +18116,17 @@ int p4_pd_orbisk_switch_cpuEncap_ingMd_subIntf_width(void);
 int p4_pd_orbisk_switch_cpuEncap_vlanHdr_0__width(void);
 int p4_pd_orbisk_switch_cpuEncap_l3RsvdQueue_width(void);
 int p4_pd_orbisk_switch_cpuEncap_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_cpuEncap_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_cpuEncap_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_cpuEncap_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* cpuEncapFields: table 0x01000069, pipeline A, exact match, 6 key bytes (15 bits) */
 typedef struct p4_pd_orbisk_switch_cpuEncapFields_match_spec {
@@ -16800,6 +18256,16 @@ int p4_pd_orbisk_switch_cpuEncapFields_egrMd_ingressTagged_width(void);
 int p4_pd_orbisk_switch_cpuEncapFields_egrMd_decapType_width(void);
 int p4_pd_orbisk_switch_cpuEncapFields_encapEthHdr_width(void);
 int p4_pd_orbisk_switch_cpuEncapFields_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_cpuEncapFields_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_cpuEncapFields_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_cpuEncapFields_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* ingMtu: table 0x11010003, pipeline B, ternary match, 6 key bytes (36 bits) */
 typedef struct p4_pd_orbisk_switch_ingMtu_match_spec {
@@ -16912,6 +18378,17 @@ int p4_pd_orbisk_switch_ingMtu_outerIpv4Hdr_width(void);
 int p4_pd_orbisk_switch_ingMtu_outerIpv4Hdr_totalLen_width(void);
 int p4_pd_orbisk_switch_ingMtu_outerIpv6Hdr_payloadLen_width(void);
 int p4_pd_orbisk_switch_ingMtu_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_ingMtu_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_ingMtu_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_ingMtu_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* mtuCheck: table 0x1101001b, pipeline B, ternary match, 7 key bytes (26 bits) */
 typedef struct p4_pd_orbisk_switch_mtuCheck_match_spec {
@@ -17024,6 +18501,17 @@ int p4_pd_orbisk_switch_mtuCheck_ingMd_egrMtuId_width(void);
 int p4_pd_orbisk_switch_mtuCheck_egrMd_routed_width(void);
 int p4_pd_orbisk_switch_mtuCheck_egrMd_egrL2AintfUnresolved_width(void);
 int p4_pd_orbisk_switch_mtuCheck_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_mtuCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_mtuCheck_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_mtuCheck_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* finalDropControl: table 0x01000057, pipeline A, ternary match, 26 key bytes (64 bits), entries carry finalDropControlCount */
 typedef struct p4_pd_orbisk_switch_finalDropControl_match_spec {
@@ -17241,6 +18729,17 @@ int p4_pd_orbisk_switch_finalDropControl_ingMd_stormControlDrop_width(void);
 int p4_pd_orbisk_switch_finalDropControl_ingMd_bcast_width(void);
 int p4_pd_orbisk_switch_finalDropControl_ingMd_mcast_width(void);
 int p4_pd_orbisk_switch_finalDropControl_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_finalDropControl_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_finalDropControl_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_finalDropControl_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* finalDropControlIB: table 0x11010027, pipeline B, ternary match, 12 key bytes (50 bits), entries carry finalDropControlIBCount */
 typedef struct p4_pd_orbisk_switch_finalDropControlIB_match_spec {
@@ -17360,6 +18859,17 @@ int p4_pd_orbisk_switch_finalDropControlIB_egrMd_trapToCpu_width(void);
 int p4_pd_orbisk_switch_finalDropControlIB_egrMd_routed_width(void);
 int p4_pd_orbisk_switch_finalDropControlIB_eif_eifDrop_width(void);
 int p4_pd_orbisk_switch_finalDropControlIB_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_finalDropControlIB_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_finalDropControlIB_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_finalDropControlIB_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* ================================================================== */
 /* Interface policy and folded pipe */
@@ -17446,6 +18956,16 @@ const char *p4_pd_orbisk_switch_eifIngPolicy_match_spec_schema(void);
 int p4_pd_orbisk_switch_eifIngPolicy_schema(char *out);
 int p4_pd_orbisk_switch_eifIngPolicy_ingMd_ingL3Aintf_width(void);
 int p4_pd_orbisk_switch_eifIngPolicy_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_eifIngPolicy_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_eifIngPolicy_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_eifIngPolicy_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* eifParamsForIngress: table 0x11010014, pipeline B, no key */
 pd_status p4_pd_orbisk_switch_eifParamsForIngress_get_entry(pd_sess_hdl sess_hdl,
@@ -17495,6 +19015,15 @@ pd_status p4_pd_orbisk_switch_eifParamsForIngress_register_mat_update_cb(pd_sess
     void *cookie);
 int p4_pd_orbisk_switch_eifParamsForIngress_schema(char *out);
 int p4_pd_orbisk_switch_eifParamsForIngress_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_eifParamsForIngress_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_eifParamsForIngress_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* eifParamsForEgress: table 0x11010011, pipeline B, exact match, 2 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_eifParamsForEgress_match_spec {
@@ -17577,6 +19106,16 @@ const char *p4_pd_orbisk_switch_eifParamsForEgress_match_spec_schema(void);
 int p4_pd_orbisk_switch_eifParamsForEgress_schema(char *out);
 int p4_pd_orbisk_switch_eifParamsForEgress_egrMd_egrL2Domain_width(void);
 int p4_pd_orbisk_switch_eifParamsForEgress_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_eifParamsForEgress_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_eifParamsForEgress_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_eifParamsForEgress_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* eifPinHole: table 0x11010019, pipeline B, exact match, 20 key bytes (160 bits) */
 typedef struct p4_pd_orbisk_switch_eifPinHole_match_spec {
@@ -17674,6 +19213,16 @@ int p4_pd_orbisk_switch_eifPinHole_ingMd_protocol_width(void);
 int p4_pd_orbisk_switch_eifPinHole_eif_matchAddr_width(void);
 int p4_pd_orbisk_switch_eifPinHole_eif_matchL4Port_width(void);
 int p4_pd_orbisk_switch_eifPinHole_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_eifPinHole_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_eifPinHole_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_eifPinHole_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* eifPinHoleHits: table 0x1101001c, pipeline B, exact match, 2 key bytes (15 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_eifPinHoleHits_match_spec {
@@ -17783,6 +19332,16 @@ const char *p4_pd_orbisk_switch_eifPinHoleHits_match_spec_schema(void);
 int p4_pd_orbisk_switch_eifPinHoleHits_schema(char *out);
 int p4_pd_orbisk_switch_eifPinHoleHits_eif_matchedIdx_width(void);
 int p4_pd_orbisk_switch_eifPinHoleHits_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_eifPinHoleHits_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_eifPinHoleHits_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_eifPinHoleHits_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* eifAcl: table 0x1101001a, pipeline B, ternary match, 39 key bytes (306 bits), entries carry eifAclCount */
 typedef struct p4_pd_orbisk_switch_eifAcl_match_spec {
@@ -17934,6 +19493,17 @@ int p4_pd_orbisk_switch_eifAcl_ingIpv6_sip_width(void);
 int p4_pd_orbisk_switch_eifAcl_ingMd_srcPort_width(void);
 int p4_pd_orbisk_switch_eifAcl_ingMd_dstPort_width(void);
 int p4_pd_orbisk_switch_eifAcl_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_eifAcl_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_eifAcl_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_eifAcl_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* eifForwardToPeerAcl: table 0x1101001d, pipeline B, ternary match, 34 key bytes (272 bits), entries carry eifForwardToPeerAclCount */
 typedef struct p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec {
@@ -18054,6 +19624,17 @@ int p4_pd_orbisk_switch_eifForwardToPeerAcl_eif_policy_width(void);
 int p4_pd_orbisk_switch_eifForwardToPeerAcl_ingIpv6_dip_width(void);
 int p4_pd_orbisk_switch_eifForwardToPeerAcl_ingIpv6_sip_width(void);
 int p4_pd_orbisk_switch_eifForwardToPeerAcl_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_eifForwardToPeerAcl_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_eifForwardToPeerAcl_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* foldedPipeDest: table 0x01000054, pipeline A, ternary match, 4 key bytes (18 bits), entries name a member or group of foldedPipeActionProfile */
 typedef struct p4_pd_orbisk_switch_foldedPipeDest_match_spec {
@@ -18170,6 +19751,20 @@ int p4_pd_orbisk_switch_foldedPipeDest_l3Info_vrfId_width(void);
 int p4_pd_orbisk_switch_foldedPipeDest_l3Info_ingL3DmacValid_width(void);
 int p4_pd_orbisk_switch_foldedPipeDest_ig_intr_md_ingress_port_width(void);
 int p4_pd_orbisk_switch_foldedPipeDest_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_foldedPipeDest_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_foldedPipeDest_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_foldedPipeDest_match_spec_t *match_spec,
+    uint32_t *priority,
+    pd_mbr_hdl *mbr_hdl,
+    pd_grp_hdl *grp_hdl,
+    bool *has_mbr,
+    bool *has_grp,
+    bool *is_default);
 
 /* foldedPipeQos: table 0x0100004a, pipeline A, ternary match, 8 key bytes (41 bits) */
 typedef struct p4_pd_orbisk_switch_foldedPipeQos_match_spec {
@@ -18289,6 +19884,17 @@ int p4_pd_orbisk_switch_foldedPipeQos_ingMd_tcpFlags_width(void);
 int p4_pd_orbisk_switch_foldedPipeQos_qosMd_dscp_width(void);
 int p4_pd_orbisk_switch_foldedPipeQos_l3Info_ingL3DmacValid_width(void);
 int p4_pd_orbisk_switch_foldedPipeQos_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_foldedPipeQos_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_foldedPipeQos_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_foldedPipeQos_match_spec_t *match_spec,
+    uint32_t *priority,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* foldedPipeCounters: table 0x0100005a, pipeline A, exact match, 3 key bytes (14 bits), entries carry foldedPipeCount */
 typedef struct p4_pd_orbisk_switch_foldedPipeCounters_match_spec {
@@ -18369,6 +19975,16 @@ int p4_pd_orbisk_switch_foldedPipeCounters_schema(char *out);
 int p4_pd_orbisk_switch_foldedPipeCounters_ig_intr_md_for_tm_ucast_egress_port_width(void);
 int p4_pd_orbisk_switch_foldedPipeCounters_ingMd_foldedPipeQid_width(void);
 int p4_pd_orbisk_switch_foldedPipeCounters_supports_entry_priority(void);
+pd_status p4_pd_orbisk_switch_foldedPipeCounters_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_foldedPipeCounters_get_entry_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_foldedPipeCounters_match_spec_t *match_spec,
+    p4_pd_orbisk_switch_action_specs_t *action_spec,
+    bool *is_default);
 
 /* ================================================================== */
 /* Action profiles: members, selector groups */
@@ -18498,6 +20114,24 @@ pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_register_sel_update_
     uint32_t dev_id,
     pd_sel_update_cb callback,
     void *cookie);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_mbr_hdl mbr_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_sel_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_grp_hdl grp_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_get_member_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_get_full_member_info_from_plcmt_data(uint8_t dev_id,
+    pd_mbr_hdl mbr_hdl,
+    const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec);
 
 /* mirrorLagPortActionProfile: action data table 0x0200001d, selector table 0x03000001;
  * entries of ingressMirrorLagGroup name its members and groups.
@@ -18623,6 +20257,24 @@ pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_register_sel_update_cb(
     uint32_t dev_id,
     pd_sel_update_cb callback,
     void *cookie);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_mbr_hdl mbr_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_sel_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_grp_hdl grp_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_get_member_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_get_full_member_info_from_plcmt_data(uint8_t dev_id,
+    pd_mbr_hdl mbr_hdl,
+    const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec);
 
 /* foldedPipeActionProfile: action data table 0x02000021, selector table 0x03000002;
  * entries of foldedPipeDest name its members and groups.
@@ -18748,6 +20400,24 @@ pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_register_sel_update_cb(pd_
     uint32_t dev_id,
     pd_sel_update_cb callback,
     void *cookie);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_mbr_hdl mbr_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_sel_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_grp_hdl grp_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_get_member_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_get_full_member_info_from_plcmt_data(uint8_t dev_id,
+    pd_mbr_hdl mbr_hdl,
+    const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec);
 
 /* ecmpMemberActionProfile: action data table 0x12010003, selector table 0x13010001;
  * entries of ecmpGroup name its members and groups.
@@ -18873,6 +20543,24 @@ pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_register_sel_update_cb(pd_
     uint32_t dev_id,
     pd_sel_update_cb callback,
     void *cookie);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_mbr_hdl mbr_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_sel_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_grp_hdl grp_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_get_member_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_get_full_member_info_from_plcmt_data(uint8_t dev_id,
+    pd_mbr_hdl mbr_hdl,
+    const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec);
 
 /* tunnelMemberActionProfile: action data table 0x1201000c, selector table 0x13010002;
  * entries of tunnelResolve name its members and groups.
@@ -18998,6 +20686,24 @@ pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_register_sel_update_cb(p
     uint32_t dev_id,
     pd_sel_update_cb callback,
     void *cookie);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_mbr_hdl mbr_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_sel_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_grp_hdl grp_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_get_member_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_get_full_member_info_from_plcmt_data(uint8_t dev_id,
+    pd_mbr_hdl mbr_hdl,
+    const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec);
 
 /* lagPortActionProfile: action data table 0x1201000e, selector table 0x13010003;
  * entries of lagGroup name its members and groups.
@@ -19142,6 +20848,24 @@ pd_status p4_pd_orbisk_switch_lagPortActionProfile_register_sel_update_cb(pd_ses
     uint32_t dev_id,
     pd_sel_update_cb callback,
     void *cookie);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_mbr_hdl mbr_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_sel_get_plcmt_data(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_grp_hdl grp_hdl,
+    void *plcmt_data,
+    uint32_t *size);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_get_member_from_plcmt_data(const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_get_full_member_info_from_plcmt_data(uint8_t dev_id,
+    pd_mbr_hdl mbr_hdl,
+    const void *plcmt_data,
+    p4_pd_orbisk_switch_action_specs_t *action_spec);
 
 /* ------------------------------------------------------------------ */
 /* counters, meters and registers */

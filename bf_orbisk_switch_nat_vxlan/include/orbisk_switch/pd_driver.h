@@ -372,6 +372,26 @@ pd_status pipe_mgr_hitless_ha_restore_virtual_dev_state(pd_sess_hdl sess, uint32
                                                         void *reserved,
                                                         pd_ha_restore_cb callback);
 
+/* Placement data: an opaque record the driver keeps for what it placed on the
+ * chip, in the driver's own format. A fetch writes the record of a match
+ * entry, a member (action data entry) or a group (selector entry) at
+ * plcmt_data, given the room there in *size, and answers its length in
+ * *size. The two _get_entry calls turn a match or member record back into
+ * the records a write sends: the key's strings and the action's data go into
+ * the places the caller points them at, with the room offered in num_bytes;
+ * a default entry comes back with a key of num_bytes 0. A group's record is
+ * fetched only. */
+pd_status pipe_mgr_plcmt_mat_data_get(pd_sess_hdl sess, pd_dev_target target, pd_tbl_hdl tbl,
+                                      pd_entry_hdl entry_hdl, void *plcmt_data, uint32_t *size);
+pd_status pipe_mgr_plcmt_adt_data_get(pd_sess_hdl sess, pd_dev_target target, pd_tbl_hdl adt,
+                                      pd_mbr_hdl mbr_hdl, void *plcmt_data, uint32_t *size);
+pd_status pipe_mgr_plcmt_sel_data_get(pd_sess_hdl sess, pd_dev_target target, pd_tbl_hdl sel,
+                                      pd_grp_hdl grp_hdl, void *plcmt_data, uint32_t *size);
+pd_status pipe_mgr_plcmt_mat_data_get_entry(const void *plcmt_data, pd_match_record *key,
+                                            pd_action_record *act, pd_act_fn_hdl *fn);
+pd_status pipe_mgr_plcmt_adt_data_get_entry(const void *plcmt_data, pd_action_record *act,
+                                            pd_act_fn_hdl *fn);
+
 #ifdef __cplusplus
 }
 #endif

@@ -42,6 +42,13 @@ pd_status decode_entry(const TableDesc &t, const char *function, const void *plc
 pd_status decode_member(const ProfileDesc &p, const char *function, const void *plcmt_data,
                         p4_pd_orbisk_switch_action_specs_t *out);
 
+// get_full_member_info_from_plcmt_data: the same, and for an action with
+// parameters the member's resources asked of the profile's state (when it
+// has one) first, and dropped.
+pd_status decode_full_member(const ProfileDesc &p, const char *function, pd_ms_state *state,
+                             uint8_t device_id, pd_mbr_hdl mbr_hdl, const void *plcmt_data,
+                             p4_pd_orbisk_switch_action_specs_t *out);
+
 }  // namespace orbisk::pd
 
 #pragma GCC visibility pop
