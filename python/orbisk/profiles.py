@@ -4,7 +4,7 @@ import ctypes
 from dataclasses import dataclass, field as dc_field
 
 from ._native import DevTarget
-from .tables import ANY_SPEC_ROOM, P_U32, U32, WALK_BATCH, fill_params, read_params
+from .tables import ANY_SPEC_ROOM, PLACEMENT_ROOM, P_U32, U32, WALK_BATCH, fill_params, read_params
 from .values import OrbiskError
 
 
@@ -14,6 +14,9 @@ class Member:
     handle: int
     action: str
     params: dict = dc_field(default_factory=dict)
+
+    def _replace_handle(self, handle):
+        return Member(self.profile, handle, self.action, dict(self.params))
 
 
 @dataclass
@@ -78,6 +81,23 @@ class Profile:
         a = self.shape.actions.get(name) or self.switch._actions.get(self._native, name)
         params = read_params(a, a.record.from_buffer(room, 4)) if a.record is not None else {}
         return Member(self.name, member, name, params)
+
+    def placement(self, member):
+        """The driver's placement data of a member: bytes, opaque here."""
+        room = ctypes.create_string_buffer(PLACEMENT_ROOM)
+        size = U32(PLACEMENT_ROOM)
+        self._call("get_plcmt_data", [U32, DevTarget, U32, U32, ctypes.c_void_p, P_U32],
+                   [self.switch.session, self.switch.target, self.shape.handle, member, room, ctypes.byref(size)])
+        return room.raw[:size.value]
+
+    def from_placement(self, data):
+        """A member as placement data says it is (its handle unknown: None)."""
+        room = (ctypes.c_uint64 * (ANY_SPEC_ROOM // 8 + 1))()
+        buf = ctypes.create_string_buffer(bytes(data), max(len(data), PLACEMENT_ROOM))
+        self._call("get_member_from_plcmt_data", [ctypes.c_void_p, ctypes.c_void_p], [buf, room])
+        name = self.switch._action_name(ctypes.c_uint32.from_buffer(room).value)
+        a = self.switch._actions.get(self._native, name)
+        return Member(self.name, None, name, read_params(a, a.record.from_buffer(room, 4)) if a.record else {})
 
     def _walk(self, first, nxt, count_suffix, head, head_t):
         n = U32()

@@ -13,6 +13,7 @@ P_BOOL = ctypes.POINTER(ctypes.c_bool)
 ANY_SPEC_ROOM = 1024  # room for any action's parameters (the library's union)
 NAME_ROOM = 128
 WALK_BATCH = 256
+PLACEMENT_ROOM = 1 << 16  # the driver's placement records are its own; this is room for any
 
 
 @dataclass
@@ -35,7 +36,8 @@ class Entry:
             what = "member 0x%x" % self.member if self.member is not None else "group 0x%x" % self.group
         else:
             what = "%s(%s)" % (self.action, ", ".join("%s=%r" % kv for kv in self.params.items()))
-        return "%s[%s] %s%s -> %s" % (self.table, "default" if self.handle is None else "0x%x" % self.handle,
+        return "%s[%s] %s%s -> %s" % (self.table, "default" if self.is_default else "-" if self.handle is None
+                                      else "0x%x" % self.handle,
                                       self.match or "", "" if self.priority is None else
                                       " priority %d" % self.priority, what)
 
@@ -427,6 +429,50 @@ class Table:
         if rec is not None:
             e.match = self.read_match(rec)
             e.is_default = bool(is_default.value)
+        if shape.has_priority:
+            e.priority = prio.value
+        return e
+
+    def placement(self, handle):
+        """The driver's placement data of an entry: bytes, opaque here."""
+        room = ctypes.create_string_buffer(PLACEMENT_ROOM)
+        size = U32(PLACEMENT_ROOM)
+        self._call("get_plcmt_data", [U32, DevTarget, U32, U32, ctypes.c_void_p, P_U32],
+                   [self.switch.session, self.switch.target, self.shape.handle, handle, room, ctypes.byref(size)],
+                   {})
+        return room.raw[:size.value]
+
+    def from_placement(self, data):
+        """An entry as placement data says it is (its handle unknown: None)."""
+        shape, sw = self.shape, self.switch
+        rec = shape.record() if shape.record else None
+        prio, is_default = U32(), ctypes.c_bool()
+        buf = ctypes.create_string_buffer(bytes(data), max(len(data), PLACEMENT_ROOM))
+        args, types = [buf], [ctypes.c_void_p]
+        if rec is not None:
+            args.append(ctypes.byref(rec))
+            types.append(ctypes.POINTER(shape.record))
+        if shape.has_priority:
+            args.append(ctypes.byref(prio))
+            types.append(P_U32)
+        e = Entry(self.name, None)
+        if shape.selector:
+            m, g, has_m, has_g = U32(), U32(), ctypes.c_bool(), ctypes.c_bool()
+            self._call("get_entry_from_plcmt_data", types + [P_U32, P_U32, P_BOOL, P_BOOL, P_BOOL],
+                       args + [ctypes.byref(x) for x in (m, g, has_m, has_g, is_default)], {})
+            e.member = m.value if has_m.value else None
+            e.group = g.value if has_g.value and not has_m.value else None
+        else:
+            room = (ctypes.c_uint64 * (ANY_SPEC_ROOM // 8 + 1))()
+            self._call("get_entry_from_plcmt_data", types + [ctypes.c_void_p, P_BOOL],
+                       args + [room, ctypes.byref(is_default)], {})
+            e.action = sw._action_name(ctypes.c_uint32.from_buffer(room).value)
+            a = sw._actions.get(sw._native, e.action)
+            if a.record is not None:
+                e.params = read_params(a, a.record.from_buffer(room, 4))
+        if rec is not None:
+            e.match = self.read_match(rec)
+        e.is_default = bool(is_default.value)
         if shape.has_priority:
             e.priority = prio.value
         return e

@@ -83,9 +83,26 @@ def test_devices_side_by_side(sw):
     assert list(calls(sw.model, "pipe_mgr_mat_ent_add"))
 
 
-def test_verify_finds_nothing_on_a_model_that_holds_what_was_written(sw):
+# What the model's chip is told to hold otherwise, and the name the message
+# must give.
+HW_FAULTS = [
+    ("orbisk_model_hw_flip_data", (0, 1), "nextHop"),
+    ("orbisk_model_hw_flip_key", (1, 0x10), "dip"),
+    ("orbisk_model_hw_drop", (), "get_entry"),
+]
+
+
+def test_verify_finds_every_difference_the_hardware_is_given(sw):
     populate(sw)
     assert sw.verify() == []
+    t = sw.tables.ipv4Host
+    for control, args, words in HW_FAULTS:
+        h = t.add(match={"vrfId": 9, "dip": "10.0.0.9"}, action="setNextHop", nextHop=1)
+        assert getattr(sw.model, control)(0, t.shape.handle, h, *args) == 0
+        found = sw.verify()
+        assert len(found) == 1 and found[0].startswith("ipv4Host entry 0x%x: " % h) and words in found[0], found
+        t.delete(h)
+        assert sw.verify() == []
 
 
 def read_until(fd, out, end):

@@ -31,6 +31,9 @@ def test_every_action_round_trips(sw, name):
         h, p, m = member_for(sw, t, match, prio)
         e = t.get(h)
         assert (e.member, e.group) == (m, None)
+        placed = t.from_placement(t.placement(h))
+        assert (placed.match, placed.member, placed.priority) == (e.match, m, e.priority)
+        assert p.from_placement(p.placement(m)) == p.get_member(m)._replace_handle(None)
         assert same_record(t.match_record(e.match), t.match_record(match))
         g = p.create_group(2)
         p.add_member_to_group(g, m)
@@ -49,6 +52,9 @@ def test_every_action_round_trips(sw, name):
         h = t.add(match=match, action=a_name, priority=prio, **meter, **params)
         e = t.get(h)
         assert e.action == a_name and e.priority == prio
+        placed = t.from_placement(t.placement(h))
+        assert (placed.match, placed.action, placed.params, placed.priority) == (e.match, e.action, e.params,
+                                                                                e.priority)
         if t.shape.record:
             assert same_record(t.match_record(e.match), t.match_record(match)), e
         if a.record:
