@@ -13,6 +13,7 @@ P_BOOL = ctypes.POINTER(ctypes.c_bool)
 ANY_SPEC_ROOM = 1024  # room for any action's parameters (the library's union)
 NAME_ROOM = 128
 WALK_BATCH = 256
+TEXT_ROOM = 1 << 14
 PLACEMENT_ROOM = 1 << 16  # the driver's placement records are its own; this is room for any
 
 
@@ -476,6 +477,28 @@ class Table:
         if shape.has_priority:
             e.priority = prio.value
         return e
+
+    def value_text(self, handle, hw=False):
+        """The library's value text of an entry (a Python literal paired with
+        the schema text), where the library writes it."""
+        name = "%s_value" % self.name
+        if not self._native.has(name):
+            raise OrbiskError("%s: the library writes no value text (%s%s)" % (self.name, "p4_pd_orbisk_switch_",
+                                                                                name))
+        buf = ctypes.create_string_buffer(TEXT_ROOM)
+        f = self._native.fn(name, [U32, ctypes.c_uint8, U32, ctypes.c_uint8, ctypes.c_char_p], ctypes.c_int)
+        n = f(self.switch.session, self.switch.device, handle, int(bool(hw)), buf)
+        if n == 0:
+            self.get(handle, hw)  # the read's status, as an exception
+            raise OrbiskError("%s: no value text for entry 0x%x" % (self.name, handle))
+        return buf.raw[:n].decode()
+
+    def get_text(self, handle, hw=False):
+        """The entry as its value text says it is. Value text shows a key
+        field through the schema's mask, so bits above it read as 0 here
+        where get() shows what the driver holds."""
+        from .valuetext import parse_entry
+        return parse_entry(self, self.value_text(handle, hw), handle)
 
     def count(self):
         out = U32()
