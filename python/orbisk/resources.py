@@ -145,3 +145,58 @@ class Hash(Resource):
             ctypes.c_uint32, ctypes.c_uint32, ctypes.c_uint32, ctypes.c_void_p, ctypes.c_void_p, ctypes.c_void_p,
             ctypes.c_uint32])(self.switch.session, self.switch.device, n, attrs, widths, out, length))
         return bytes(out)
+
+
+class DigestMsg(ctypes.Structure):
+    _fields_ = [("device_id", ctypes.c_uint32), ("dev_pipe_id", ctypes.c_uint16), ("digest_hdl", ctypes.c_uint32),
+                ("num_entries", ctypes.c_uint16), ("entry_bytes", ctypes.c_uint16),
+                ("entries", ctypes.POINTER(ctypes.c_uint8)), ("msg_id", ctypes.c_uint64)]
+
+
+DIGEST_CB = ctypes.CFUNCTYPE(ctypes.c_uint32, ctypes.c_uint32, ctypes.POINTER(DigestMsg), ctypes.c_void_p)
+
+
+class Digest(Resource):
+    """A learning digest: subscribe, then take the entries learned. Each
+    entry is its bytes as the driver delivers them (entry_size each): the
+    names of its fields are not among the facts the library offers."""
+    kind = "digest"
+
+    def __init__(self, switch, name):
+        super().__init__(switch, name)
+        self._cb, self._got = None, []
+
+    @property
+    def entry_size(self):
+        return self._native.fn("get_digest_entry_size", [ctypes.c_char_p])(self.name.encode())
+
+    def _on_message(self, sess, msg, cookie):
+        m = msg.contents
+        data = ctypes.string_at(m.entries, m.num_entries * m.entry_bytes) if m.num_entries else b""
+        self._got += [data[i * m.entry_bytes:(i + 1) * m.entry_bytes] for i in range(m.num_entries)]
+        st = self._native.fn("%s_notify_ack" % self.name, [ctypes.c_uint32, ctypes.POINTER(DigestMsg)])(sess, msg)
+        return st
+
+    def subscribe(self):
+        if self._cb is None:
+            self._cb = DIGEST_CB(self._on_message)
+            st = self._native.fn("%s_register" % self.name, [ctypes.c_uint32, ctypes.c_uint8, DIGEST_CB,
+                                                             ctypes.c_void_p])(
+                self.switch.session, self.switch.device, self._cb, None)
+            if st:
+                self._cb = None
+                raise self.switch._error("%s_register" % self.name, st)
+
+    def unsubscribe(self):
+        if self._cb is not None:
+            st = self._native.fn("%s_deregister" % self.name, [ctypes.c_uint32, ctypes.c_uint8])(
+                self.switch.session, self.switch.device)
+            if st:
+                raise self.switch._error("%s_deregister" % self.name, st)
+            self._cb = None
+
+    def take(self):
+        """The entries delivered since the last take, oldest first; every
+        message was handed back to the driver as it came."""
+        got, self._got = self._got, []
+        return got

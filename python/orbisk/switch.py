@@ -7,7 +7,7 @@ import pprint
 
 from ._native import DevTarget, Native, PIPE_ALL
 from .profiles import Profile
-from .resources import Counter, Hash, MeterRes, Register
+from .resources import Counter, Digest, Hash, MeterRes, Register
 from .schema import ActionCache, ProfileShape, TableShape
 from .tables import Table, strip_prefix
 from .values import DriverError, OrbiskError
@@ -79,6 +79,7 @@ class Switch:
         self.registers = Namespace("register", [n for n in _suffixed(names, "", "register_read_")
                                               if n not in ("direct", "indirect")],
                                    lambda n: Register(self, n))
+        self.digests = Namespace("digest", _suffixed(names, "_notify_ack"), lambda n: Digest(self, n))
         self.hashes = Namespace("hash calculation", _suffixed(names, "_seed_get", "hash_calc_"),
                                 lambda n: Hash(self, n))
 

@@ -65,3 +65,22 @@ def test_members_and_groups_of_every_profile_read_back(sw):
         assert p.group_members(g) == list(reversed(ms))[1:]
         p.clear()
         assert p.member_handles() == [] and p.group_handles() == []
+
+
+def test_every_digest_delivers_what_was_learned(sw):
+    import json
+    import os
+    services = json.load(open(os.path.join(os.path.dirname(__file__), "..", "..", "catalogue", "services.json")))
+    assert sorted(sw.digests.names()) == sorted(d["name"] for d in services["digests"])
+    for d in services["digests"]:
+        dig = sw.digests[d["name"]]
+        assert dig.entry_size == d["entry_bytes"]
+        dig.subscribe()
+        words = [max(1, f["bytes"] // 8) for f in d["fields"]]
+        values = (ctypes.c_uint64 * sum(words))(*range(1, sum(words) + 1))
+        assert sw.model.orbisk_model_learn(0, int(d["handle"], 16), values, sum(words)) == 0
+        (entry,) = dig.take()
+        expect = b"".join(b"".join(v.to_bytes(8, "big") for v in values[sum(words[:i]):sum(words[:i + 1])])[-f["bytes"]:]
+                          for i, f in enumerate(d["fields"]))
+        assert entry == expect, d["name"]
+        dig.unsubscribe()
