@@ -10,7 +10,7 @@ from .profiles import Profile
 from .resources import Counter, Digest, Hash, MeterRes, Register
 from .schema import ActionCache, ProfileShape, TableShape
 from .tables import Table, strip_prefix
-from .values import DriverError, OrbiskError
+from .values import DriverError, OrbiskError, UnknownName
 
 
 class Namespace:
@@ -28,7 +28,7 @@ class Namespace:
         obj = self._made.get(name)
         if obj is None:
             if name not in self._names:
-                raise OrbiskError("unknown %s %r" % (self._kind, name))
+                raise UnknownName("unknown %s %r" % (self._kind, name))
             obj = self._made[name] = self._make(name)
         return obj
 
@@ -131,7 +131,9 @@ class Switch:
                     row["meter"] = tuple(self.meters[t.meter].read(entry=h))
             if defaults and not t.shape.selector:
                 d = t.default()
-                rows.append({"default": True, "action": d.action, **d.params})
+                # A default only the program sets has no setter: it is left out.
+                if self._native.has("%s_set_default_action_%s" % (t.name, d.action)):
+                    rows.append({"default": True, "action": d.action, **d.params})
             if rows:
                 state["tables"][t.name] = rows
         return pprint.pformat(state, width=110, sort_dicts=True)

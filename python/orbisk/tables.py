@@ -280,7 +280,7 @@ class Table:
         if st:
             raise self.switch._error("%s_%s" % (self.name, suffix), st)
 
-    def _key_types(self, by_key=True):
+    def _key_types(self):
         t = [ctypes.POINTER(self.shape.record)] if self.shape.record else []
         return t + ([U32] if self.shape.has_priority else [])
 

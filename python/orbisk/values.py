@@ -9,6 +9,10 @@ class OrbiskError(Exception):
     """Anything refused before it reaches the library."""
 
 
+class UnknownName(OrbiskError, AttributeError):
+    """A table, profile or resource the library does not have."""
+
+
 class DriverError(OrbiskError):
     """A status other than success from the library or its driver; nothing
     was changed."""

@@ -147,3 +147,20 @@ def test_shell_runs_one_command():
     out = subprocess.run([sys.executable, "-m", "orbisk", "-c", "sw.tables.vlanDecap.default()"],
                          capture_output=True, text=True, check=True).stdout
     assert "action='removeVlanHdr'" in out
+
+
+def test_defaults_travel_in_a_dump_when_asked(sw):
+    t, a = next((t, t.shape.actions[a]) for t in sw.tables for a in t.actions
+                if t.shape.actions[a].params and sw._native.has("%s_set_default_action_%s" % (t.name, a)))
+    params = param_values(a, 1, bits=8)
+    t.set_default(a.name, **params)
+    text = sw.dump(defaults=True)
+    assert t.name in eval(text)["tables"]
+    sw.model.orbisk_model_reset()
+    start = t.default()
+    assert start.params != params
+    sw.load(text)
+    assert (t.default().action, t.default().params) == (a.name, params)
+    t.reset_default()
+    changed = orbisk.diff(text, sw.dump(defaults=True))
+    assert changed and all(c.startswith("changed: %s default " % t.name) for c in changed), changed
