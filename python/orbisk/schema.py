@@ -5,6 +5,7 @@ import ast
 import ctypes
 
 from ._native import MatchRecord, PREFIX
+from .values import mac_pairs
 
 SCHEMA_ROOM = 1 << 14
 
@@ -54,6 +55,7 @@ class Action:
         self.by_name = {}
         for p in self.params:
             self.by_name[p.name] = self.by_name[p.field] = p
+        self.mac_pairs = mac_pairs(self.params, key=lambda p: p.name)
         self.record = None
         if self.params:
             self.record = type("%s_action_spec_t" % name, (ctypes.Structure,),

@@ -77,7 +77,7 @@ def store_value(rec, f, v):
 def fill_params(action, params, owner):
     """An action's parameter record from keyword arguments (parameter names,
     full field names, or one MAC for two halves); None for no parameters."""
-    pairs = mac_pairs(action.params, key=lambda p: p.name)
+    pairs = action.mac_pairs
     values = {}
     for name, v in params.items():
         if name in pairs and name not in action.by_name:
@@ -109,7 +109,7 @@ def read_params(action, rec):
     if action.record is None:
         return {}
     out = {p.name: show(record_value(rec, p), p.width, p.fmt) for p in action.params}
-    for whole, (hi, lo) in mac_pairs(action.params, key=lambda p: p.name).items():
+    for whole, (hi, lo) in action.mac_pairs.items():
         out[whole] = show_mac(record_value(rec, hi), record_value(rec, lo))
         del out[hi.name], out[lo.name]
     return out

@@ -41,6 +41,8 @@ def _mac_bytes(text, n, table, field):
 def parse_scalar(value, width, fmt, table, field, what="value"):
     """One value of a field of this width and format, as an integer (or 16
     bytes for a 128-bit field); text is read by the format."""
+    if type(value) is int and 0 <= value and not value >> width:
+        return value  # the common case, first
     if isinstance(value, bool):
         value = int(value)
     if isinstance(value, str):
