@@ -8,7 +8,6 @@ import ctypes
 import os
 import re
 import struct
-import sys
 
 PREFIX = "p4_pd_orbisk_switch_"
 LIB_NAME = "libob_bf_pd_nat_vxlan.so"

@@ -4,7 +4,7 @@ schema text at run time, and the ctypes records built from it."""
 import ast
 import ctypes
 
-from ._native import MatchRecord, PREFIX
+from ._native import MatchRecord
 from .values import mac_pairs
 
 SCHEMA_ROOM = 1 << 14
