@@ -99,6 +99,18 @@ class Profile:
         a = self.switch._actions.get(self._native, name)
         return Member(self.name, None, name, read_params(a, a.record.from_buffer(room, 4)) if a.record else {})
 
+    def placement_text(self, data):
+        """The library's value text of a member's placement data."""
+        name = "%s_plcmt_data_value" % self.name
+        if not self._native.has(name):
+            raise OrbiskError("%s: the library writes no placement text" % self.name)
+        buf = ctypes.create_string_buffer(1 << 12)
+        raw = ctypes.create_string_buffer(bytes(data), max(len(data), PLACEMENT_ROOM))
+        n = self._native.fn(name, [ctypes.c_void_p, ctypes.c_char_p], ctypes.c_int)(raw, buf)
+        if n == 0:
+            raise OrbiskError("%s: placement data the library cannot decode" % self.name)
+        return buf.raw[:n].decode()
+
     def _walk(self, first, nxt, count_suffix, head, head_t):
         n = U32()
         self._call(count_suffix, head_t + [P_U32], head + [ctypes.byref(n)])

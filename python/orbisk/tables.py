@@ -493,6 +493,19 @@ class Table:
             raise OrbiskError("%s: no value text for entry 0x%x" % (self.name, handle))
         return buf.raw[:n].decode()
 
+    def placement_text(self, data):
+        """The library's value text of placement data: the entry's key and
+        action, without priority."""
+        name = "%s_plcmt_data_value" % self.name
+        if not self._native.has(name):
+            raise OrbiskError("%s: the library writes no placement text" % self.name)
+        buf = ctypes.create_string_buffer(TEXT_ROOM)
+        raw = ctypes.create_string_buffer(bytes(data), max(len(data), PLACEMENT_ROOM))
+        n = self._native.fn(name, [ctypes.c_void_p, ctypes.c_char_p], ctypes.c_int)(raw, buf)
+        if n == 0:
+            raise OrbiskError("%s: placement data the library cannot decode" % self.name)
+        return buf.raw[:n].decode()
+
     def get_text(self, handle, hw=False):
         """The entry as its value text says it is. Value text shows a key
         field through the schema's mask, so bits above it read as 0 here

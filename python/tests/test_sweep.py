@@ -9,6 +9,7 @@ from conftest import key_values, member_for, param_values
 from orbisk._native import MeterSpec
 from orbisk.model import calls
 from orbisk.tables import fill_params
+from orbisk.valuetext import parse_member, parse_placement
 
 SWITCH = None
 
@@ -72,6 +73,11 @@ def test_every_action_round_trips(sw, name):
         placed = t.from_placement(t.placement(h))
         assert (placed.match, placed.member, placed.priority) == (e.match, m, e.priority)
         assert p.from_placement(p.placement(m)) == p.get_member(m)._replace_handle(None)
+        if sw._native.has(name + "_value"):
+            text = t.get_text(h)
+            assert (text.member, text.priority) == (m, e.priority)
+            assert through_masks(t, t.match_record(text.match)) == through_masks(t, t.match_record(e.match))
+            assert parse_member(p, p.placement_text(p.placement(m))) == p.get_member(m)._replace_handle(None)
         assert same_record(t.match_record(e.match), t.match_record(match))
         g = p.create_group(2)
         p.add_member_to_group(g, m)
@@ -99,6 +105,8 @@ def test_every_action_round_trips(sw, name):
             text = t.get_text(h)
             assert (text.action, text.params, text.priority) == (e.action, e.params, e.priority)
             assert through_masks(t, t.match_record(text.match)) == through_masks(t, t.match_record(e.match))
+            placed = parse_placement(t, t.placement_text(t.placement(h)))
+            assert (placed.match, placed.action, placed.params) == (text.match, text.action, text.params)
         if t.shape.record:
             assert same_record(t.match_record(e.match), t.match_record(match)), e
         if a.record:
