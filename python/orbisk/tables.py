@@ -540,10 +540,11 @@ class Table:
             out += got
         return out
 
-    def entries(self, hw=False):
-        """Every entry, read back, in walk order."""
+    def entries(self, hw=False, text=False):
+        """Every entry, read back (from its value text with text=True), in
+        walk order."""
         for h in self.handles():
-            yield self.get(h, hw)
+            yield self.get_text(h, hw) if text else self.get(h, hw)
 
     def clear(self):
         for h in self.handles():
