@@ -89,6 +89,8 @@ TEST_F(Placement, AnActionNotTheProfilesIsAnswered15) {
   orbisk_model_clear_log();
   EXPECT_EQ(15u, p4_pd_orbisk_switch_ecmpMemberActionProfile_get_full_member_info_from_plcmt_data(
                      0, 1, r.data(), &out));
+  EXPECT_TRUE(logged_once("ASSERTION FAILED: \"((void *)0)\" (NULL) from "
+                          "p4_pd_orbisk_switch_ecmpMemberActionProfile_get_full_member_info_from_plcmt_data:"));
   EXPECT_EQ(0u, calls_of("p4_pd_ms_mbr_get_res")) << "no action, no resources asked for";
 }
 
