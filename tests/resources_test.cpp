@@ -344,11 +344,23 @@ TEST_F(Generic, MeterWredAndRegisterCallsPassTheCallersHandleAndRecords) {
   EXPECT_EQ(5u, back.cir);
   EXPECT_EQ(7u, back.meter_type);
 
+  // WRED on an indexed meter's cell is kept as given; anything else is
+  // refused and keeps nothing.
   const pd_wred_spec w{0.5f, 10, 20, 0.25f};
-  EXPECT_EQ(ORBISK_MODEL_NO_SUCH_RESOURCE, p4_pd_orbisk_switch_wred_set(sess, kAll, 0x77, 1, &w));
+  ASSERT_EQ(BF_SUCCESS, p4_pd_orbisk_switch_wred_set(sess, kAll, pdp, 1, &w));
   EXPECT_EQ(bytes(w), handed("pipe_mgr_wred_ent_set", "wred"));
   const Args wa = last("pipe_mgr_wred_ent_set").args;
-  EXPECT_EQ((Args{sess, target_word(kDev, PD_DEV_PIPE_ALL), 0x77, 1, wa.at(4), 0}), wa);
+  EXPECT_EQ((Args{sess, target_word(kDev, PD_DEV_PIPE_ALL), pdp, 1, wa.at(4), 0}), wa);
+  pd_wred_spec kept{};
+  ASSERT_EQ(BF_SUCCESS, orbisk_model_wred_get(kDev, pdp, 1, &kept));
+  EXPECT_EQ(bytes(w), bytes(kept));
+  const pd_wred_spec other{1.0f, 1, 2, 1.0f};
+  EXPECT_EQ(ORBISK_MODEL_NO_SUCH_RESOURCE, p4_pd_orbisk_switch_wred_set(sess, kAll, 0x77, 1, &other));
+  EXPECT_EQ(ORBISK_MODEL_INDEX_PAST_SIZE, p4_pd_orbisk_switch_wred_set(sess, kAll, pdp, 1024, &other));
+  ASSERT_EQ(BF_SUCCESS, orbisk_model_wred_get(kDev, pdp, 1, &kept));
+  EXPECT_EQ(bytes(w), bytes(kept));
+  ASSERT_EQ(BF_SUCCESS, orbisk_model_wred_get(kDev, pdp, 2, &kept));
+  EXPECT_EQ(bytes(pd_wred_spec{}), bytes(kept));
 
   // The direct write: device as one byte, one handle as table and resource.
   pd_register_element e{};

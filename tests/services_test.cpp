@@ -87,6 +87,9 @@ TEST_F(HashStream, FieldsMakeOneRightAlignedBigEndianBitString) {
       // A value is not cut to its width: its whole source bytes are placed.
       {"a value wider than its width spills into the field before", {4, 4}, {0x1, 0x3F}, {0x3F}},
       {"only the bytes the width needs are taken", {8, 8}, {0x00, 0x1FF}, {0x00, 0xFF}},
+      {"whole-byte widths of every size", {24, 16, 8, 32},
+       {0x1234567, 0x12345, 0x1FF, 0x89ABCDEF},
+       {0x23, 0x45, 0x67, 0x23, 0x45, 0xFF, 0x89, 0xAB, 0xCD, 0xEF}},
       {"a spill off the top of the stream is lost", {9, 3}, {0xFFFF, 0}, {0xFF, 0xF8}},
   };
   for (const Case &c : cases) {

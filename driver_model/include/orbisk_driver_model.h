@@ -170,8 +170,12 @@
  *     resource handle); read with the match table's handle, it answers that
  *     slot's record, all 0 when the slot is detached. The byte-count
  *     adjustment is kept per device and meter, by the meter's own handle,
- *     0 before any set. The program has no WRED table: pipe_mgr_wred_ent_set
- *     is ORBISK_MODEL_NO_SUCH_RESOURCE for every handle.
+ *     0 before any set. The program declares no WRED table of its own: a
+ *     WRED record is kept on an indexed meter's cell, beside its meter
+ *     record, by device, meter handle and index, as given;
+ *     pipe_mgr_wred_ent_set on any other handle is
+ *     ORBISK_MODEL_NO_SUCH_RESOURCE, past the meter's size
+ *     ORBISK_MODEL_INDEX_PAST_SIZE. orbisk_model_wred_get reads it.
  *   - Registers: pipe_stful_query_get_sizes answers the pipes of the target
  *     (ORBISK_MODEL_PIPES for PD_DEV_PIPE_ALL, else 1). A query fills one
  *     element per pipe, in pipe order, and needs room for them (count at
@@ -453,6 +457,12 @@ void orbisk_model_advance_time(uint64_t ms);
  * finds it active. ORBISK_MODEL_NO_SUCH_TABLE, ORBISK_MODEL_NO_IDLE_TIME for
  * a table whose entries do not age, ORBISK_MODEL_NO_SUCH_ENTRY. */
 pd_status orbisk_model_mark_hit(uint32_t device_id, pd_tbl_hdl tbl, pd_entry_hdl entry_hdl);
+
+/* The WRED record kept on an indexed meter's cell, as the last
+ * pipe_mgr_wred_ent_set gave it (all 0 before any). The statuses of
+ * pipe_mgr_wred_ent_set. */
+pd_status orbisk_model_wred_get(uint32_t device_id, pd_tbl_hdl tbl, uint32_t index,
+                                pd_wred_spec *wred);
 
 /* Counts traffic into a counter cell as the chip would: packets and bytes
  * are added to the chip's count, which reads see after a sync. tbl is a

@@ -18,6 +18,7 @@ namespace orbisk_model {
 void ResourceStore::clear() {
   counters.clear();
   meters.clear();
+  wred.clear();
   bytecount_adjust.clear();
   registers.clear();
 }
@@ -25,6 +26,7 @@ void ResourceStore::clear() {
 void ResourceStore::drop_device(uint32_t device_id) {
   erase_device(counters, device_id);
   erase_device(meters, device_id);
+  erase_device(wred, device_id);
   erase_device(bytecount_adjust, device_id);
   erase_device(registers, device_id);
 }
@@ -36,6 +38,7 @@ void ResourceStore::entry_deleted(uint32_t device_id, uint32_t tbl, pd_entry_hdl
 void ResourceStore::add_devices(std::set<uint32_t> &devices) const {
   for (const auto &kv : counters) devices.insert(kv.first.device_id);
   for (const auto &kv : meters) devices.insert(kv.first.device_id);
+  for (const auto &kv : wred) devices.insert(kv.first.device_id);
   for (const auto &kv : bytecount_adjust) devices.insert(kv.first.first);
   for (const auto &kv : registers) devices.insert(kv.first.device_id);
 }
@@ -372,7 +375,14 @@ pd_status pipe_mgr_wred_ent_set(pd_sess_hdl sess, pd_dev_target target, pd_tbl_h
   passed.add("wred", wred, sizeof *wred);
   return run(Fn::pipe_mgr_wred_ent_set,
              {arg(sess), arg(target), arg(tbl), arg(index), arg(wred), arg(flags)}, passed,
-             [&](Model &) { return ORBISK_MODEL_NO_SUCH_RESOURCE; });
+             [&](Model &m) {
+               const ResourceDesc *r;
+               if (pd_status s = find_indexed(tbl, ResourceKind::Meter, r)) return s;
+               if (wred == nullptr) return ORBISK_MODEL_BAD_RECORD;
+               if (pd_status s = check_index(r, index)) return s;
+               m.resources.wred[{target.device_id, tbl, index}] = *wred;
+               return kOk;
+             });
 }
 
 // ---------------------------------------------------------------- registers ---
@@ -524,6 +534,19 @@ pd_status pipe_stful_direct_database_sync(pd_sess_hdl sess, uint32_t device_id, 
 }
 
 // ---------------------------------------------------------------- controls ---
+
+pd_status orbisk_model_wred_get(uint32_t device_id, pd_tbl_hdl tbl, uint32_t index,
+                                pd_wred_spec *wred) {
+  return in_frame([&](Model &m) {
+    const ResourceDesc *r;
+    if (pd_status s = find_indexed(tbl, ResourceKind::Meter, r)) return s;
+    if (wred == nullptr) return ORBISK_MODEL_BAD_RECORD;
+    if (pd_status s = check_index(r, index)) return s;
+    auto it = m.resources.wred.find({device_id, tbl, index});
+    *wred = it == m.resources.wred.end() ? pd_wred_spec{} : it->second;
+    return kOk;
+  });
+}
 
 pd_status orbisk_model_count_traffic(uint32_t device_id, pd_tbl_hdl tbl, uint32_t cell,
                                      uint64_t packets, uint64_t bytes) {

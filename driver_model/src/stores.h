@@ -192,7 +192,8 @@ const orbisk::pd::ProfileDesc *profile_of_sel(pd_tbl_hdl sel);
 // indexed counter's own) and its entry handle or index; it holds what the
 // driver's memory holds (sw) and what the chip has counted (hw), which a
 // sync copies over. A direct meter's spec lives in its entry's resource slot
-// in the match store; indexed meters keep theirs here. A register cell is
+// in the match store; indexed meters keep theirs here, and the WRED record
+// set on an indexed meter's cell beside it. A register cell is
 // kept per pipe; cells never written hold the pipe's fill value.
 class ResourceStore final : public Store {
  public:
@@ -225,6 +226,7 @@ class ResourceStore final : public Store {
 
   std::map<Cell, Counter> counters;
   std::map<Cell, pd_meter_record> meters;
+  std::map<Cell, pd_wred_spec> wred;
   std::map<std::pair<uint32_t, uint32_t>, int32_t> bytecount_adjust;  // device, meter handle
   std::map<RegisterKey, RegisterPipe> registers;
 };

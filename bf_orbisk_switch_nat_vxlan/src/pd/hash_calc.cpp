@@ -1,5 +1,7 @@
 #include "hash_calc.h"
 
+#include <cstring>
+
 #include "bytes.h"
 #include "orbisk_switch/pd_driver.h"
 
@@ -60,6 +62,34 @@ struct StreamWriter {
     }
   }
 };
+
+// Fields that are all whole bytes wide (the common flow fields: protocol,
+// addresses, ports) meet no bit boundary: each one's bytes follow the last
+// one's, most significant first, and nothing needs shifting.
+void build_byte_stream(uint32_t count, const pd_hash_calc_attribute *attrs,
+                       const uint32_t *widths, uint8_t *stream) {
+  for (uint32_t i = 0; i < count; ++i) {
+    const auto v = uint32_t(attrs[i].value);
+    switch (widths[i]) {
+      case 8:
+        put_be<1>(stream, v);
+        break;
+      case 16:
+        put_be<2>(stream, v);
+        break;
+      case 24:
+        put_be<3>(stream, v);
+        break;
+      case 32:
+        put_be<4>(stream, v);
+        break;
+      default:  // a field wider than a word comes as its bytes
+        std::memcpy(stream, reinterpret_cast<const uint8_t *>(uintptr_t(attrs[i].value)),
+                    widths[i] / 8);
+    }
+    stream += widths[i] / 8;
+  }
+}
 
 // The stream of count fields, right-aligned in stream_len zeroed bytes.
 void build_hash_stream(uint32_t count, const pd_hash_calc_attribute *attrs,
@@ -176,14 +206,30 @@ pd_status hash_attribute_get(uint32_t hash, uint32_t input_hdl, pd_sess_hdl sess
   return BF_SUCCESS;
 }
 
+// The stream's length in bytes, and whether every width is a whole number
+// of bytes.
+static uint32_t stream_length(uint32_t count, const uint32_t *widths, bool &whole_bytes) {
+  uint64_t bits = 0;
+  uint32_t odd_bits = 0;
+  for (uint32_t i = 0; i < count; ++i) {
+    bits += widths[i];
+    odd_bits |= widths[i] & 7;
+  }
+  whole_bytes = odd_bits == 0;
+  return uint32_t((bits + 7) / 8);
+}
+
 pd_status hash_calculate(uint32_t hash, pd_sess_hdl sess, uint32_t dev_id, uint32_t count,
                          const pd_hash_calc_attribute *attrs, const uint32_t *widths,
                          uint8_t *out, uint32_t out_len) {
-  uint64_t bits = 0;
-  for (uint32_t i = 0; i < count; ++i) bits += widths[i];
-  const auto len = uint32_t((bits + 7) / 8);
+  bool whole_bytes;
+  const uint32_t len = stream_length(count, widths, whole_bytes);
   auto *stream = static_cast<uint8_t *>(bf_sys_calloc(len, 1));
-  build_hash_stream(count, attrs, widths, stream, len);
+  if (whole_bytes) {
+    build_byte_stream(count, attrs, widths, stream);
+  } else {
+    build_hash_stream(count, attrs, widths, stream, len);
+  }
   const pd_status s =
       pipe_mgr_hash_calc_calculate_hash_value(sess, dev_id, hash, stream, len, out, out_len);
   bf_sys_free(stream);
