@@ -116,6 +116,8 @@
  *      placement data, in room, out length): fetches an entry's placement
  *      data from the driver, with the table's own handle; *size is the room
  *      going in and the record's length coming out.
+ *  <t>_match_spec_print(file descriptor, indent, match spec): writes the key
+ *      record to fd, one line a key element after a header line.
  *  <t>_get_entry_from_plcmt_data(placement data, [out match spec], [out
  *      priority], [out action], [out member handle], [out group handle], [out
  *      has-member], [out has-group], out is-default): decodes placement data
@@ -123,6 +125,14 @@
  *      selector, the member or group it names; flags untouched for neither).
  *      A keyless table says is-default for every record; 3 for an action not
  *      the table's.
+ *  <t>_plcmt_data_print(file descriptor, indent, placement data): decodes the
+ *      placement data and writes its key (none for a default entry) and
+ *      action to fd; 0, or the decoder's status after a line saying so.
+ *  <t>_match_spec_stringify_for_counter(match spec, out text): writes the
+ *      counting table's label of the key record and a NUL; its length.
+ *  <t>_stringify_counter_match_spec(sess, device id, entry handle, out text):
+ *      reads the entry from hardware and writes its key's label; 0 if the
+ *      read fails.
  *  <r>_schema(out text): writes the profile's action tuples as schema text
  *      and a NUL; its length.
  *  <r>_add_member_with_<a>(sess, target, [action spec], out member handle):
@@ -211,6 +221,11 @@
  *      placement data, out action): the same, asking the member-selection
  *      state for the member's resources first (an action with parameters);
  *      what it answers is not used.
+ *  <r>_adt_plcmt_data_print(file descriptor, indent, placement data): decodes
+ *      a member's placement data and writes its action to fd; 0, or the
+ *      decoder's status after a line saying so.
+ *  <a>_print(file descriptor, indent, action spec): writes the action's
+ *      parameters to fd, one line each.
  *  <a>_schema(): the action tuple: a constant NUL-terminated text.
  *  unbuild_action_spec_<a>(action record, [resources], [count], out action
  *      spec): an action record's data into an action spec.
@@ -1651,6 +1666,12 @@ PD_STATIC_ASSERT(offsetof(p4_pd_orbisk_switch_action_specs_t, u) == 4,
 
 /* ---------------------------------------- lifecycle and dispatch --- */
 
+/* The label of an entry of the counting table with this handle; 0 for any other. */
+int p4_pd_orbisk_switch_stringify_counter_matchspec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    char *out);
 /* Registers with the driver; call before anything else. */
 void p4_pd_orbisk_switch_init(void);
 /* Deregisters from the driver. */
@@ -1683,9 +1704,88 @@ void p4_pd_orbisk_switch_ha_restore_state_from_adt_sel(pd_sess_hdl sess_hdl,
 const char *p4_pd_orbisk_switch_action_enum_to_string(uint32_t action);
 /* Action of a full name; P4_PD_ORBISK_SWITCH_ACTION_COUNT for none. */
 p4_pd_orbisk_switch_action_names_t p4_pd_orbisk_switch_action_string_to_enum(const char *name);
+/* The placement print of the table with this handle; for any other, a line saying so and that write's result. */
+int p4_pd_orbisk_switch_plcmt_data_print(int fd,
+    int indent,
+    pd_tbl_hdl tbl_hdl,
+    const void *plcmt_data);
+/* The placement print of the profile with this action data table handle; for any other, a line saying so and that write's result. */
+int p4_pd_orbisk_switch_adt_plcmt_data_print(int fd,
+    int indent,
+    pd_tbl_hdl tbl_hdl,
+    const void *plcmt_data);
+/* "<label> a.b.c.d "; its length. */
+int p4_pd_orbisk_switch__print_v4addr_exact(char *out,
+    const char *label,
+    uint32_t addr);
+/* "<label> a.b.c.d/<prefix> "; its length. */
+int p4_pd_orbisk_switch__print_v4addr_lpm(char *out,
+    const char *label,
+    uint32_t addr,
+    uint16_t prefix_length);
+/* "<label> a.b.c.d/<leading ones of mask> "; 0 and nothing written for mask 0. */
+int p4_pd_orbisk_switch__print_v4addr_ternary(char *out,
+    const char *label,
+    uint32_t addr,
+    uint32_t mask);
+/* "<label> <address>", no blank after it; its length. */
+int p4_pd_orbisk_switch__print_v6addr_exact(char *out,
+    const char *label,
+    const uint8_t *addr);
+/* "<label> <address>/<prefix> "; its length. */
+int p4_pd_orbisk_switch__print_v6addr_lpm(char *out,
+    const char *label,
+    const uint8_t *addr,
+    uint16_t prefix_length);
+/* "<label> <address>/<mask> "; 0 and nothing written for an all-zero mask. */
+int p4_pd_orbisk_switch__print_v6addr_ternary(char *out,
+    const char *label,
+    const uint8_t *addr,
+    const uint8_t *mask);
+/* "<label> xxxx.xxxx.xxxx " of the two 24-bit halves; its length. */
+int p4_pd_orbisk_switch__print_mac_exact(char *out,
+    const char *label,
+    uint32_t oui,
+    uint32_t station);
+/* the exact form for an all-ones mask, "<label> <mac>/<mask> " for a partial one, 0 and nothing written for none. */
+int p4_pd_orbisk_switch__print_mac_ternary(char *out,
+    const char *label,
+    uint32_t oui,
+    uint32_t oui_mask,
+    uint32_t station,
+    uint32_t station_mask);
 /* Schema text of the table or profile with this handle; "()" and 2 for any other. */
 int p4_pd_orbisk_switch_cli_schema(pd_tbl_hdl tbl_hdl,
     char *out);
+/* The table's first entry handle; for a handle of no table 0xffffffff and status 0. */
+pd_status p4_pd_orbisk_switch_entry_hdl_first(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl *entry_hdl);
+/* Up to n entry handles after this one; for a handle of no table 0xffffffff and status 0. */
+pd_status p4_pd_orbisk_switch_entry_hdl_next(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    uint32_t n,
+    pd_entry_hdl *next_entry_hdls);
+/* The table's default entry handle; for a handle of no table 0xffffffff and status 0. */
+pd_status p4_pd_orbisk_switch_entry_hdl_default(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl *entry_hdl);
+/* The profile's first member; for a handle of no profile 0xffffffff and status 0xffffffff. */
+pd_status p4_pd_orbisk_switch_member_hdl_first(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_mbr_hdl *mbr_hdl);
+/* Up to n members after this one; for a handle of no profile 0xffffffff and status 0xffffffff. */
+pd_status p4_pd_orbisk_switch_member_hdl_next(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t n,
+    pd_mbr_hdl *next_mbr_hdls);
 
 /* ================================================================== */
 /* Port, VLAN and interface tables */
@@ -1774,10 +1874,16 @@ pd_status p4_pd_orbisk_switch_ingressPortMapping_get_plcmt_data(pd_sess_hdl sess
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ingressPortMapping_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ingressPortMapping_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_ingressPortMapping_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ingressPortMapping_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ingressPortMapping_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* l2DomainLookup: table 0x01000004, pipeline A, ternary match, 6 key bytes (28 bits) */
 typedef struct p4_pd_orbisk_switch_l2DomainLookup_match_spec {
@@ -1921,11 +2027,17 @@ pd_status p4_pd_orbisk_switch_l2DomainLookup_get_plcmt_data(pd_sess_hdl sess_hdl
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_l2DomainLookup_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l2DomainLookup_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_l2DomainLookup_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_l2DomainLookup_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_l2DomainLookup_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* taggedXlatePktToL3: table 0x01000005, pipeline A, exact match, 4 key bytes (26 bits) */
 typedef struct p4_pd_orbisk_switch_taggedXlatePktToL3_match_spec {
@@ -2025,10 +2137,16 @@ pd_status p4_pd_orbisk_switch_taggedXlatePktToL3_get_plcmt_data(pd_sess_hdl sess
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_taggedXlatePktToL3_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_taggedXlatePktToL3_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_taggedXlatePktToL3_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_taggedXlatePktToL3_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_taggedXlatePktToL3_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* taggedPktToL3: table 0x01000007, pipeline A, exact match, 2 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_taggedPktToL3_match_spec {
@@ -2126,10 +2244,16 @@ pd_status p4_pd_orbisk_switch_taggedPktToL3_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_taggedPktToL3_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_taggedPktToL3_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_taggedPktToL3_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_taggedPktToL3_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_taggedPktToL3_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* untaggedPktToL3: table 0x01000006, pipeline A, exact match, 2 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_untaggedPktToL3_match_spec {
@@ -2227,10 +2351,16 @@ pd_status p4_pd_orbisk_switch_untaggedPktToL3_get_plcmt_data(pd_sess_hdl sess_hd
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_untaggedPktToL3_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_untaggedPktToL3_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_untaggedPktToL3_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_untaggedPktToL3_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_untaggedPktToL3_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ingStpCheck: table 0x0100000b, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_ingStpCheck_get_entry(pd_sess_hdl sess_hdl,
@@ -2289,6 +2419,9 @@ pd_status p4_pd_orbisk_switch_ingStpCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
 pd_status p4_pd_orbisk_switch_ingStpCheck_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ingStpCheck_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ingVlanCheck: table 0x0100000c, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_ingVlanCheck_get_entry(pd_sess_hdl sess_hdl,
@@ -2347,6 +2480,9 @@ pd_status p4_pd_orbisk_switch_ingVlanCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
 pd_status p4_pd_orbisk_switch_ingVlanCheck_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ingVlanCheck_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* vlanProperties: table 0x01000018, pipeline A, exact match, 2 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_vlanProperties_match_spec {
@@ -2435,10 +2571,16 @@ pd_status p4_pd_orbisk_switch_vlanProperties_get_plcmt_data(pd_sess_hdl sess_hdl
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_vlanProperties_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_vlanProperties_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_vlanProperties_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_vlanProperties_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_vlanProperties_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ingressPortDropCheck: table 0x01000010, pipeline A, ternary match, 7 key bytes (17 bits), entries carry ingressPortDropCount */
 typedef struct p4_pd_orbisk_switch_ingressPortDropCheck_match_spec {
@@ -2557,11 +2699,23 @@ pd_status p4_pd_orbisk_switch_ingressPortDropCheck_get_plcmt_data(pd_sess_hdl se
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_ingressPortDropCheck_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ingressPortDropCheck_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
+int p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_t *match_spec,
+    char *out);
+int p4_pd_orbisk_switch_ingressPortDropCheck_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* ingL2DomainCount: table 0x01000062, pipeline A, exact match, 3 key bytes (15 bits), entries carry ingL2DomainCounters */
 typedef struct p4_pd_orbisk_switch_ingL2DomainCount_match_spec {
@@ -2648,10 +2802,22 @@ pd_status p4_pd_orbisk_switch_ingL2DomainCount_get_plcmt_data(pd_sess_hdl sess_h
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ingL2DomainCount_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ingL2DomainCount_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_ingL2DomainCount_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ingL2DomainCount_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ingL2DomainCount_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
+int p4_pd_orbisk_switch_ingL2DomainCount_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_ingL2DomainCount_match_spec_t *match_spec,
+    char *out);
+int p4_pd_orbisk_switch_ingL2DomainCount_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* egrL2DomainCount: table 0x01000065, pipeline A, exact match, 3 key bytes (15 bits), entries carry egrL2DomainCounters */
 typedef struct p4_pd_orbisk_switch_egrL2DomainCount_match_spec {
@@ -2738,10 +2904,22 @@ pd_status p4_pd_orbisk_switch_egrL2DomainCount_get_plcmt_data(pd_sess_hdl sess_h
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_egrL2DomainCount_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_egrL2DomainCount_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_egrL2DomainCount_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_egrL2DomainCount_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_egrL2DomainCount_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
+int p4_pd_orbisk_switch_egrL2DomainCount_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_egrL2DomainCount_match_spec_t *match_spec,
+    char *out);
+int p4_pd_orbisk_switch_egrL2DomainCount_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* egressVlanXlate: table 0x0100006c, pipeline A, exact match, 4 key bytes (21 bits) */
 typedef struct p4_pd_orbisk_switch_egressVlanXlate_match_spec {
@@ -2854,10 +3032,16 @@ pd_status p4_pd_orbisk_switch_egressVlanXlate_get_plcmt_data(pd_sess_hdl sess_hd
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_egressVlanXlate_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_egressVlanXlate_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_egressVlanXlate_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_egressVlanXlate_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_egressVlanXlate_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* egrStpCheck: table 0x01000071, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_egrStpCheck_get_entry(pd_sess_hdl sess_hdl,
@@ -2916,6 +3100,9 @@ pd_status p4_pd_orbisk_switch_egrStpCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
 pd_status p4_pd_orbisk_switch_egrStpCheck_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_egrStpCheck_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* egrVlanCheck: table 0x01000072, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_egrVlanCheck_get_entry(pd_sess_hdl sess_hdl,
@@ -2974,6 +3161,9 @@ pd_status p4_pd_orbisk_switch_egrVlanCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
 pd_status p4_pd_orbisk_switch_egrVlanCheck_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_egrVlanCheck_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* vlanEncap: table 0x01000073, pipeline A, exact match, 5 key bytes (22 bits) */
 typedef struct p4_pd_orbisk_switch_vlanEncap_match_spec {
@@ -3072,10 +3262,16 @@ pd_status p4_pd_orbisk_switch_vlanEncap_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_vlanEncap_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_vlanEncap_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_vlanEncap_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_vlanEncap_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_vlanEncap_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* vlanDecap: table 0x11010026, pipeline B, no key */
 pd_status p4_pd_orbisk_switch_vlanDecap_get_entry(pd_sess_hdl sess_hdl,
@@ -3134,6 +3330,9 @@ pd_status p4_pd_orbisk_switch_vlanDecap_get_plcmt_data(pd_sess_hdl sess_hdl,
 pd_status p4_pd_orbisk_switch_vlanDecap_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_vlanDecap_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* copyOverlayL2Domain: table 0x0100006b, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_copyOverlayL2Domain_get_entry(pd_sess_hdl sess_hdl,
@@ -3192,6 +3391,9 @@ pd_status p4_pd_orbisk_switch_copyOverlayL2Domain_get_plcmt_data(pd_sess_hdl ses
 pd_status p4_pd_orbisk_switch_copyOverlayL2Domain_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_copyOverlayL2Domain_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* srcIntfToOvoIntf: table 0x0100006a, pipeline A, exact match, 2 key bytes (9 bits) */
 typedef struct p4_pd_orbisk_switch_srcIntfToOvoIntf_match_spec {
@@ -3293,10 +3495,16 @@ pd_status p4_pd_orbisk_switch_srcIntfToOvoIntf_get_plcmt_data(pd_sess_hdl sess_h
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_srcIntfToOvoIntf_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_srcIntfToOvoIntf_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_srcIntfToOvoIntf_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_srcIntfToOvoIntf_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_srcIntfToOvoIntf_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* egrIntfToOvoIntf: table 0x0100006f, pipeline A, exact match, 3 key bytes (20 bits) */
 typedef struct p4_pd_orbisk_switch_egrIntfToOvoIntf_match_spec {
@@ -3435,10 +3643,16 @@ pd_status p4_pd_orbisk_switch_egrIntfToOvoIntf_get_plcmt_data(pd_sess_hdl sess_h
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_egrIntfToOvoIntf_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_egrIntfToOvoIntf_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_egrIntfToOvoIntf_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_egrIntfToOvoIntf_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_egrIntfToOvoIntf_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ovoIntfToPhysical: table 0x0100002a, pipeline A, ternary match, 6 key bytes (29 bits) */
 typedef struct p4_pd_orbisk_switch_ovoIntfToPhysical_match_spec {
@@ -3576,11 +3790,17 @@ pd_status p4_pd_orbisk_switch_ovoIntfToPhysical_get_plcmt_data(pd_sess_hdl sess_
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ovoIntfToPhysical_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ovoIntfToPhysical_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_ovoIntfToPhysical_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ovoIntfToPhysical_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ovoIntfToPhysical_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* egressPortDropCheck: table 0x01000074, pipeline A, ternary match, 9 key bytes (23 bits), entries carry egressPortDropCount */
 typedef struct p4_pd_orbisk_switch_egressPortDropCheck_match_spec {
@@ -3708,11 +3928,23 @@ pd_status p4_pd_orbisk_switch_egressPortDropCheck_get_plcmt_data(pd_sess_hdl ses
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_egressPortDropCheck_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_egressPortDropCheck_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_egressPortDropCheck_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_egressPortDropCheck_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_egressPortDropCheck_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
+int p4_pd_orbisk_switch_egressPortDropCheck_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_egressPortDropCheck_match_spec_t *match_spec,
+    char *out);
+int p4_pd_orbisk_switch_egressPortDropCheck_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* egressSamePortBridgingTest: table 0x0100006d, pipeline A, exact match, 3 key bytes (11 bits) */
 typedef struct p4_pd_orbisk_switch_egressSamePortBridgingTest_match_spec {
@@ -3809,10 +4041,16 @@ pd_status p4_pd_orbisk_switch_egressSamePortBridgingTest_get_plcmt_data(pd_sess_
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_egressSamePortBridgingTest_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_egressSamePortBridgingTest_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_egressSamePortBridgingTest_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_egressSamePortBridgingTest_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_egressSamePortBridgingTest_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* samePortBridgingTest: table 0x0100004f, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_samePortBridgingTest_get_entry(pd_sess_hdl sess_hdl,
@@ -3871,6 +4109,9 @@ pd_status p4_pd_orbisk_switch_samePortBridgingTest_get_plcmt_data(pd_sess_hdl se
 pd_status p4_pd_orbisk_switch_samePortBridgingTest_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_samePortBridgingTest_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* mlagUcastPrune: table 0x01000050, pipeline A, exact match, 3 key bytes (20 bits) */
 typedef struct p4_pd_orbisk_switch_mlagUcastPrune_match_spec {
@@ -3965,10 +4206,16 @@ pd_status p4_pd_orbisk_switch_mlagUcastPrune_get_plcmt_data(pd_sess_hdl sess_hdl
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_mlagUcastPrune_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_mlagUcastPrune_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_mlagUcastPrune_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_mlagUcastPrune_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_mlagUcastPrune_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ================================================================== */
 /* L2 forwarding and learning */
@@ -4160,11 +4407,23 @@ pd_status p4_pd_orbisk_switch_l2DmacClassify_get_plcmt_data(pd_sess_hdl sess_hdl
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_l2DmacClassify_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l2DmacClassify_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_l2DmacClassify_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_l2DmacClassify_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_l2DmacClassify_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
+int p4_pd_orbisk_switch_l2DmacClassify_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_l2DmacClassify_match_spec_t *match_spec,
+    char *out);
+int p4_pd_orbisk_switch_l2DmacClassify_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* l2SmacCheck: table 0x0100000d, pipeline A, ternary match, 6 key bytes (48 bits) */
 typedef struct p4_pd_orbisk_switch_l2SmacCheck_match_spec {
@@ -4272,11 +4531,17 @@ pd_status p4_pd_orbisk_switch_l2SmacCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_l2SmacCheck_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l2SmacCheck_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_l2SmacCheck_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_l2SmacCheck_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_l2SmacCheck_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* l2StaticMacSrcAddrDrop: table 0x01000013, pipeline A, exact match, 8 key bytes (60 bits) */
 typedef struct p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_match_spec {
@@ -4375,10 +4640,16 @@ pd_status p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_get_plcmt_data(pd_sess_hdl 
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* l2LearningLookup: table 0x01000014, pipeline A, exact match, 11 key bytes (80 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_l2LearningLookup_match_spec {
@@ -4512,10 +4783,16 @@ pd_status p4_pd_orbisk_switch_l2LearningLookup_get_plcmt_data(pd_sess_hdl sess_h
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_l2LearningLookup_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l2LearningLookup_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_l2LearningLookup_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_l2LearningLookup_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_l2LearningLookup_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* l2Lookup: table 0x0100002f, pipeline A, exact match, 8 key bytes (60 bits) */
 typedef struct p4_pd_orbisk_switch_l2Lookup_match_spec {
@@ -4653,10 +4930,16 @@ pd_status p4_pd_orbisk_switch_l2Lookup_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_l2Lookup_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l2Lookup_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_l2Lookup_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_l2Lookup_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_l2Lookup_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* l2LookupMiss: table 0x01000030, pipeline A, ternary match, 8 key bytes (57 bits), entries carry stormControlMeter */
 typedef struct p4_pd_orbisk_switch_l2LookupMiss_match_spec {
@@ -4804,11 +5087,17 @@ pd_status p4_pd_orbisk_switch_l2LookupMiss_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_l2LookupMiss_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l2LookupMiss_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_l2LookupMiss_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_l2LookupMiss_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_l2LookupMiss_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* l2ForwardParams: table 0x01000017, pipeline A, exact match, 1 key bytes (1 bits) */
 typedef struct p4_pd_orbisk_switch_l2ForwardParams_match_spec {
@@ -4897,10 +5186,16 @@ pd_status p4_pd_orbisk_switch_l2ForwardParams_get_plcmt_data(pd_sess_hdl sess_hd
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_l2ForwardParams_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l2ForwardParams_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_l2ForwardParams_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_l2ForwardParams_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_l2ForwardParams_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* l2XRemap: table 0x11010007, pipeline B, exact match, 2 key bytes (9 bits) */
 typedef struct p4_pd_orbisk_switch_l2XRemap_match_spec {
@@ -4989,10 +5284,16 @@ pd_status p4_pd_orbisk_switch_l2XRemap_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_l2XRemap_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l2XRemap_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_l2XRemap_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_l2XRemap_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_l2XRemap_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* learningDigestGeneration: table 0x0100003b, pipeline A, ternary match, 10 key bytes (35 bits) */
 typedef struct p4_pd_orbisk_switch_learningDigestGeneration_match_spec {
@@ -5150,11 +5451,17 @@ pd_status p4_pd_orbisk_switch_learningDigestGeneration_get_plcmt_data(pd_sess_hd
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_learningDigestGeneration_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_learningDigestGeneration_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_learningDigestGeneration_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_learningDigestGeneration_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_learningDigestGeneration_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* bridgeToEA: table 0x11010024, pipeline B, no key */
 pd_status p4_pd_orbisk_switch_bridgeToEA_get_entry(pd_sess_hdl sess_hdl,
@@ -5213,6 +5520,9 @@ pd_status p4_pd_orbisk_switch_bridgeToEA_get_plcmt_data(pd_sess_hdl sess_hdl,
 pd_status p4_pd_orbisk_switch_bridgeToEA_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_bridgeToEA_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ================================================================== */
 /* IP routing tables */
@@ -5345,11 +5655,17 @@ pd_status p4_pd_orbisk_switch_l3DmacCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_l3DmacCheck_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l3DmacCheck_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_l3DmacCheck_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_l3DmacCheck_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_l3DmacCheck_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* vrrpMacCheck: table 0x01000012, pipeline A, exact match, 8 key bytes (60 bits) */
 typedef struct p4_pd_orbisk_switch_vrrpMacCheck_match_spec {
@@ -5448,10 +5764,16 @@ pd_status p4_pd_orbisk_switch_vrrpMacCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_vrrpMacCheck_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_vrrpMacCheck_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_vrrpMacCheck_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_vrrpMacCheck_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_vrrpMacCheck_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ipv4Host: table 0x11010008, pipeline B, exact match, 5 key bytes (40 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv4Host_match_spec {
@@ -5621,10 +5943,16 @@ pd_status p4_pd_orbisk_switch_ipv4Host_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ipv4Host_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ipv4Host_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_ipv4Host_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ipv4Host_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ipv4Host_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ipv4ShortMaskLpm: table 0x1101000c, pipeline B, longest prefix match, 5 key bytes (40 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec {
@@ -5797,10 +6125,16 @@ pd_status p4_pd_orbisk_switch_ipv4ShortMaskLpm_get_plcmt_data(pd_sess_hdl sess_h
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_ipv4ShortMaskLpm_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ipv4ShortMaskLpm_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ipv4Partition0: table 0x1101000a, pipeline B, longest prefix match, 5 key bytes (40 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv4Partition0_match_spec {
@@ -5934,10 +6268,16 @@ pd_status p4_pd_orbisk_switch_ipv4Partition0_get_plcmt_data(pd_sess_hdl sess_hdl
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ipv4Partition0_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ipv4Partition0_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_ipv4Partition0_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ipv4Partition0_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ipv4Partition0_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ipv4FinalResolve0: table 0x1101000b, pipeline B, partitioned longest prefix match, 6 key bytes (48 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv4FinalResolve0_match_spec {
@@ -6110,10 +6450,16 @@ pd_status p4_pd_orbisk_switch_ipv4FinalResolve0_get_plcmt_data(pd_sess_hdl sess_
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ipv4FinalResolve0_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ipv4FinalResolve0_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_ipv4FinalResolve0_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ipv4FinalResolve0_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ipv4FinalResolve0_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ipv6Host: table 0x01000022, pipeline A, exact match, 17 key bytes (136 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv6Host_match_spec {
@@ -6283,10 +6629,16 @@ pd_status p4_pd_orbisk_switch_ipv6Host_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ipv6Host_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ipv6Host_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_ipv6Host_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ipv6Host_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ipv6Host_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ipv6ShortMaskLpm: table 0x0100002e, pipeline A, longest prefix match, 17 key bytes (136 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv6ShortMaskLpm_match_spec {
@@ -6459,10 +6811,16 @@ pd_status p4_pd_orbisk_switch_ipv6ShortMaskLpm_get_plcmt_data(pd_sess_hdl sess_h
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ipv6ShortMaskLpm_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ipv6ShortMaskLpm_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_ipv6ShortMaskLpm_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ipv6ShortMaskLpm_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ipv6ShortMaskLpm_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ipv6Partition: table 0x0100002d, pipeline A, longest prefix match, 17 key bytes (136 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv6Partition_match_spec {
@@ -6635,10 +6993,16 @@ pd_status p4_pd_orbisk_switch_ipv6Partition_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ipv6Partition_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ipv6Partition_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_ipv6Partition_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ipv6Partition_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ipv6Partition_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ipv6FinalResolve: table 0x01000031, pipeline A, partitioned longest prefix match, 18 key bytes (144 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv6FinalResolve_match_spec {
@@ -6811,10 +7175,16 @@ pd_status p4_pd_orbisk_switch_ipv6FinalResolve_get_plcmt_data(pd_sess_hdl sess_h
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ipv6FinalResolve_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ipv6FinalResolve_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_ipv6FinalResolve_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ipv6FinalResolve_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ipv6FinalResolve_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ipv6LgMaskPartition0: table 0x01000023, pipeline A, longest prefix match, 17 key bytes (136 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv6LgMaskPartition0_match_spec {
@@ -6948,10 +7318,16 @@ pd_status p4_pd_orbisk_switch_ipv6LgMaskPartition0_get_plcmt_data(pd_sess_hdl se
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ipv6LgMaskPartition0_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ipv6LgMaskPartition0_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_ipv6LgMaskPartition0_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ipv6LgMaskPartition0_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ipv6LgMaskPartition0_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ipv6LgMaskFinalResolve0: table 0x0100002c, pipeline A, partitioned longest prefix match, 18 key bytes (144 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_match_spec {
@@ -7124,10 +7500,16 @@ pd_status p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_get_plcmt_data(pd_sess_hdl
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ================================================================== */
 /* Next hops and load balancing */
@@ -7238,6 +7620,9 @@ pd_status p4_pd_orbisk_switch_ecmpGroup_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ecmpGroup_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ecmpGroup_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_ecmpGroup_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ecmpGroup_match_spec_t *match_spec,
     pd_mbr_hdl *mbr_hdl,
@@ -7245,6 +7630,9 @@ pd_status p4_pd_orbisk_switch_ecmpGroup_get_entry_from_plcmt_data(const void *pl
     bool *has_mbr,
     bool *has_grp,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ecmpGroup_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* reservedNextHop: table 0x1101000e, pipeline B, exact match, 2 key bytes (15 bits) */
 typedef struct p4_pd_orbisk_switch_reservedNextHop_match_spec {
@@ -7342,10 +7730,16 @@ pd_status p4_pd_orbisk_switch_reservedNextHop_get_plcmt_data(pd_sess_hdl sess_hd
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_reservedNextHop_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_reservedNextHop_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_reservedNextHop_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_reservedNextHop_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_reservedNextHop_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* nextHop0: table 0x1101000f, pipeline B, exact match, 2 key bytes (15 bits) */
 typedef struct p4_pd_orbisk_switch_nextHop0_match_spec {
@@ -7434,10 +7828,16 @@ pd_status p4_pd_orbisk_switch_nextHop0_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_nextHop0_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_nextHop0_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_nextHop0_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_nextHop0_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_nextHop0_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* routerNextHop0: table 0x11010010, pipeline B, exact match, 2 key bytes (15 bits) */
 typedef struct p4_pd_orbisk_switch_routerNextHop0_match_spec {
@@ -7526,10 +7926,16 @@ pd_status p4_pd_orbisk_switch_routerNextHop0_get_plcmt_data(pd_sess_hdl sess_hdl
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_routerNextHop0_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_routerNextHop0_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_routerNextHop0_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_routerNextHop0_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_routerNextHop0_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* lagGroup: table 0x11010023, pipeline B, ternary match, 3 key bytes (20 bits), entries name a member or group of lagPortActionProfile */
 typedef struct p4_pd_orbisk_switch_lagGroup_match_spec {
@@ -7646,6 +8052,9 @@ pd_status p4_pd_orbisk_switch_lagGroup_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_lagGroup_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_lagGroup_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_lagGroup_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_lagGroup_match_spec_t *match_spec,
     uint32_t *priority,
@@ -7654,6 +8063,9 @@ pd_status p4_pd_orbisk_switch_lagGroup_get_entry_from_plcmt_data(const void *plc
     bool *has_mbr,
     bool *has_grp,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_lagGroup_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ecmpHashSelection: table 0x01000043, pipeline A, ternary match, 9 key bytes (9 bits) */
 typedef struct p4_pd_orbisk_switch_ecmpHashSelection_match_spec {
@@ -7830,11 +8242,17 @@ pd_status p4_pd_orbisk_switch_ecmpHashSelection_get_plcmt_data(pd_sess_hdl sess_
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ecmpHashSelection_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ecmpHashSelection_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_ecmpHashSelection_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ecmpHashSelection_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ecmpHashSelection_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* lagHashSelection: table 0x01000042, pipeline A, ternary match, 10 key bytes (10 bits) */
 typedef struct p4_pd_orbisk_switch_lagHashSelection_match_spec {
@@ -8026,11 +8444,17 @@ pd_status p4_pd_orbisk_switch_lagHashSelection_get_plcmt_data(pd_sess_hdl sess_h
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_lagHashSelection_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_lagHashSelection_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_lagHashSelection_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_lagHashSelection_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_lagHashSelection_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* hashComputeInnerIpHdr: table 0x01000002, pipeline A, exact match, 2 key bytes (2 bits) */
 typedef struct p4_pd_orbisk_switch_hashComputeInnerIpHdr_match_spec {
@@ -8137,10 +8561,16 @@ pd_status p4_pd_orbisk_switch_hashComputeInnerIpHdr_get_plcmt_data(pd_sess_hdl s
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_hashComputeInnerIpHdr_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_hashComputeInnerIpHdr_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_hashComputeInnerIpHdr_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_hashComputeInnerIpHdr_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_hashComputeInnerIpHdr_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* hashComputeOuterIpv4Hdr: table 0x01000037, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_get_entry(pd_sess_hdl sess_hdl,
@@ -8199,6 +8629,9 @@ pd_status p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_get_plcmt_data(pd_sess_hdl
 pd_status p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* hashComputeOuterIpv6Hdr: table 0x01000038, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_get_entry(pd_sess_hdl sess_hdl,
@@ -8257,6 +8690,9 @@ pd_status p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_get_plcmt_data(pd_sess_hdl
 pd_status p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* hashComputeInnerEthHdr: table 0x01000039, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_hashComputeInnerEthHdr_get_entry(pd_sess_hdl sess_hdl,
@@ -8315,6 +8751,9 @@ pd_status p4_pd_orbisk_switch_hashComputeInnerEthHdr_get_plcmt_data(pd_sess_hdl 
 pd_status p4_pd_orbisk_switch_hashComputeInnerEthHdr_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_hashComputeInnerEthHdr_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* hashComputeIpAndL4Hdr: table 0x0100003e, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_get_entry(pd_sess_hdl sess_hdl,
@@ -8373,6 +8812,9 @@ pd_status p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_get_plcmt_data(pd_sess_hdl s
 pd_status p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* hashFromCpuHdr: table 0x01000041, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_hashFromCpuHdr_get_entry(pd_sess_hdl sess_hdl,
@@ -8431,6 +8873,9 @@ pd_status p4_pd_orbisk_switch_hashFromCpuHdr_get_plcmt_data(pd_sess_hdl sess_hdl
 pd_status p4_pd_orbisk_switch_hashFromCpuHdr_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_hashFromCpuHdr_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ================================================================== */
 /* Multicast */
@@ -8565,10 +9010,16 @@ pd_status p4_pd_orbisk_switch_ipv4McGroupVlan_get_plcmt_data(pd_sess_hdl sess_hd
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ipv4McGroupVlan_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ipv4McGroupVlan_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_ipv4McGroupVlan_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ipv4McGroupVlan_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ipv4McGroupVlan_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ipv4McSourceGroupVlan: table 0x0100004e, pipeline A, exact match, 6 key bytes (48 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv4McSourceGroupVlan_match_spec {
@@ -8699,10 +9150,16 @@ pd_status p4_pd_orbisk_switch_ipv4McSourceGroupVlan_get_plcmt_data(pd_sess_hdl s
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ipv4McSourceGroupVlan_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ipv4McSourceGroupVlan_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_ipv4McSourceGroupVlan_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ipv4McSourceGroupVlan_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ipv4McSourceGroupVlan_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* l2Multicast: table 0x01000040, pipeline A, exact match, 8 key bytes (60 bits) */
 typedef struct p4_pd_orbisk_switch_l2Multicast_match_spec {
@@ -8804,10 +9261,16 @@ pd_status p4_pd_orbisk_switch_l2Multicast_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_l2Multicast_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l2Multicast_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_l2Multicast_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_l2Multicast_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_l2Multicast_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* finalizeMcResult: table 0x01000053, pipeline A, ternary match, 9 key bytes (26 bits) */
 typedef struct p4_pd_orbisk_switch_finalizeMcResult_match_spec {
@@ -9011,11 +9474,17 @@ pd_status p4_pd_orbisk_switch_finalizeMcResult_get_plcmt_data(pd_sess_hdl sess_h
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_finalizeMcResult_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_finalizeMcResult_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_finalizeMcResult_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_finalizeMcResult_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_finalizeMcResult_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* egressMcRemap: table 0x01000060, pipeline A, exact match, 2 key bytes (16 bits) */
 typedef struct p4_pd_orbisk_switch_egressMcRemap_match_spec {
@@ -9113,10 +9582,16 @@ pd_status p4_pd_orbisk_switch_egressMcRemap_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_egressMcRemap_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_egressMcRemap_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_egressMcRemap_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_egressMcRemap_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_egressMcRemap_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* mcastPrune: table 0x11010028, pipeline B, ternary match, 8 key bytes (42 bits) */
 typedef struct p4_pd_orbisk_switch_mcastPrune_match_spec {
@@ -9279,11 +9754,17 @@ pd_status p4_pd_orbisk_switch_mcastPrune_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_mcastPrune_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_mcastPrune_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_mcastPrune_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_mcastPrune_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_mcastPrune_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ================================================================== */
 /* VXLAN and tunnels */
@@ -9418,11 +9899,17 @@ pd_status p4_pd_orbisk_switch_tunnelTermination_get_plcmt_data(pd_sess_hdl sess_
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_tunnelTermination_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_tunnelTermination_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_tunnelTermination_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_tunnelTermination_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_tunnelTermination_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* vxlanL2AintfLookup: table 0x01000008, pipeline A, exact match, 4 key bytes (32 bits) */
 typedef struct p4_pd_orbisk_switch_vxlanL2AintfLookup_match_spec {
@@ -9550,10 +10037,16 @@ pd_status p4_pd_orbisk_switch_vxlanL2AintfLookup_get_plcmt_data(pd_sess_hdl sess
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_vxlanL2AintfLookup_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_vxlanL2AintfLookup_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_vxlanL2AintfLookup_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_vxlanL2AintfLookup_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_vxlanL2AintfLookup_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* vxlanVniResolution: table 0x01000009, pipeline A, exact match, 4 key bytes (27 bits) */
 typedef struct p4_pd_orbisk_switch_vxlanVniResolution_match_spec {
@@ -9672,10 +10165,16 @@ pd_status p4_pd_orbisk_switch_vxlanVniResolution_get_plcmt_data(pd_sess_hdl sess
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_vxlanVniResolution_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_vxlanVniResolution_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_vxlanVniResolution_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_vxlanVniResolution_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_vxlanVniResolution_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* vxlanVarp: table 0x01000034, pipeline A, ternary match, 8 key bytes (50 bits) */
 typedef struct p4_pd_orbisk_switch_vxlanVarp_match_spec {
@@ -9787,11 +10286,17 @@ pd_status p4_pd_orbisk_switch_vxlanVarp_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_vxlanVarp_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_vxlanVarp_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_vxlanVarp_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_vxlanVarp_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_vxlanVarp_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* vxlanArp: table 0x01000035, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_vxlanArp_get_entry(pd_sess_hdl sess_hdl,
@@ -9850,6 +10355,9 @@ pd_status p4_pd_orbisk_switch_vxlanArp_get_plcmt_data(pd_sess_hdl sess_hdl,
 pd_status p4_pd_orbisk_switch_vxlanArp_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_vxlanArp_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* tunnelDip0: table 0x0100005c, pipeline A, exact match, 4 key bytes (32 bits) */
 typedef struct p4_pd_orbisk_switch_tunnelDip0_match_spec {
@@ -9938,10 +10446,16 @@ pd_status p4_pd_orbisk_switch_tunnelDip0_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_tunnelDip0_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_tunnelDip0_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_tunnelDip0_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_tunnelDip0_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_tunnelDip0_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* tunnelVniAndVti: table 0x0100005f, pipeline A, exact match, 2 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_tunnelVniAndVti_match_spec {
@@ -10039,10 +10553,16 @@ pd_status p4_pd_orbisk_switch_tunnelVniAndVti_get_plcmt_data(pd_sess_hdl sess_hd
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_tunnelVniAndVti_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_tunnelVniAndVti_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_tunnelVniAndVti_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_tunnelVniAndVti_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_tunnelVniAndVti_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* tunnelL2Info: table 0x01000066, pipeline A, exact match, 4 key bytes (32 bits) */
 typedef struct p4_pd_orbisk_switch_tunnelL2Info_match_spec {
@@ -10140,10 +10660,16 @@ pd_status p4_pd_orbisk_switch_tunnelL2Info_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_tunnelL2Info_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_tunnelL2Info_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_tunnelL2Info_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_tunnelL2Info_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_tunnelL2Info_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* tunnelResolve: table 0x1101001f, pipeline B, exact match, 2 key bytes (10 bits), entries name a member or group of tunnelMemberActionProfile */
 typedef struct p4_pd_orbisk_switch_tunnelResolve_match_spec {
@@ -10250,6 +10776,9 @@ pd_status p4_pd_orbisk_switch_tunnelResolve_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_tunnelResolve_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_tunnelResolve_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_tunnelResolve_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_tunnelResolve_match_spec_t *match_spec,
     pd_mbr_hdl *mbr_hdl,
@@ -10257,6 +10786,9 @@ pd_status p4_pd_orbisk_switch_tunnelResolve_get_entry_from_plcmt_data(const void
     bool *has_mbr,
     bool *has_grp,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_tunnelResolve_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* encapDecap: table 0x01000067, pipeline A, ternary match, 9 key bytes (41 bits) */
 typedef struct p4_pd_orbisk_switch_encapDecap_match_spec {
@@ -10461,11 +10993,17 @@ pd_status p4_pd_orbisk_switch_encapDecap_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_encapDecap_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_encapDecap_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_encapDecap_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_encapDecap_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_encapDecap_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* decapIngress: table 0x01000049, pipeline A, exact match, 3 key bytes (5 bits) */
 typedef struct p4_pd_orbisk_switch_decapIngress_match_spec {
@@ -10604,10 +11142,16 @@ pd_status p4_pd_orbisk_switch_decapIngress_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_decapIngress_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_decapIngress_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_decapIngress_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_decapIngress_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_decapIngress_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* globalFields: table 0x01000064, pipeline A, ternary match, 8 key bytes (40 bits) */
 typedef struct p4_pd_orbisk_switch_globalFields_match_spec {
@@ -10756,11 +11300,17 @@ pd_status p4_pd_orbisk_switch_globalFields_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_globalFields_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_globalFields_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_globalFields_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_globalFields_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_globalFields_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ================================================================== */
 /* NAT */
@@ -10853,10 +11403,16 @@ pd_status p4_pd_orbisk_switch_ingressNatProfile_get_plcmt_data(pd_sess_hdl sess_
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ingressNatProfile_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ingressNatProfile_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_ingressNatProfile_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ingressNatProfile_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ingressNatProfile_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* staticDnatAcl: table 0x01000025, pipeline A, ternary match, 6 key bytes (41 bits) */
 typedef struct p4_pd_orbisk_switch_staticDnatAcl_match_spec {
@@ -10970,11 +11526,17 @@ pd_status p4_pd_orbisk_switch_staticDnatAcl_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_staticDnatAcl_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_staticDnatAcl_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_staticDnatAcl_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_staticDnatAcl_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_staticDnatAcl_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* addrPortDnat: table 0x01000026, pipeline A, exact match, 9 key bytes (68 bits), entries carry staticDnatCounters */
 typedef struct p4_pd_orbisk_switch_addrPortDnat_match_spec {
@@ -11117,10 +11679,22 @@ pd_status p4_pd_orbisk_switch_addrPortDnat_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_addrPortDnat_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_addrPortDnat_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_addrPortDnat_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_addrPortDnat_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_addrPortDnat_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
+int p4_pd_orbisk_switch_addrPortDnat_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_addrPortDnat_match_spec_t *match_spec,
+    char *out);
+int p4_pd_orbisk_switch_addrPortDnat_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* addrOnlyDnat: table 0x01000027, pipeline A, exact match, 7 key bytes (52 bits) */
 typedef struct p4_pd_orbisk_switch_addrOnlyDnat_match_spec {
@@ -11235,10 +11809,16 @@ pd_status p4_pd_orbisk_switch_addrOnlyDnat_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_addrOnlyDnat_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_addrOnlyDnat_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_addrOnlyDnat_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_addrOnlyDnat_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_addrOnlyDnat_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* dynamicDnat1: table 0x01000021, pipeline A, exact match, 14 key bytes (112 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_dynamicDnat1_match_spec {
@@ -11390,10 +11970,16 @@ pd_status p4_pd_orbisk_switch_dynamicDnat1_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_dynamicDnat1_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_dynamicDnat1_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_dynamicDnat1_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_dynamicDnat1_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_dynamicDnat1_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* dynamicFullConeCompressDip: table 0x0100001f, pipeline A, exact match, 4 key bytes (32 bits) */
 typedef struct p4_pd_orbisk_switch_dynamicFullConeCompressDip_match_spec {
@@ -11482,10 +12068,16 @@ pd_status p4_pd_orbisk_switch_dynamicFullConeCompressDip_get_plcmt_data(pd_sess_
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_dynamicFullConeCompressDip_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_dynamicFullConeCompressDip_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_dynamicFullConeCompressDip_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_dynamicFullConeCompressDip_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_dynamicFullConeCompressDip_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* dynamicFullConeDnat: table 0x01000024, pipeline A, exact match, 6 key bytes (41 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_dynamicFullConeDnat_match_spec {
@@ -11620,10 +12212,16 @@ pd_status p4_pd_orbisk_switch_dynamicFullConeDnat_get_plcmt_data(pd_sess_hdl ses
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_dynamicFullConeDnat_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_dynamicFullConeDnat_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_dynamicFullConeDnat_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_dynamicFullConeDnat_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_dynamicFullConeDnat_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* egressNatProfile: table 0x11010012, pipeline B, exact match, 2 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_egressNatProfile_match_spec {
@@ -11712,10 +12310,16 @@ pd_status p4_pd_orbisk_switch_egressNatProfile_get_plcmt_data(pd_sess_hdl sess_h
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_egressNatProfile_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_egressNatProfile_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_egressNatProfile_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_egressNatProfile_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_egressNatProfile_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* staticSnatAcl: table 0x11010004, pipeline B, ternary match, 6 key bytes (41 bits) */
 typedef struct p4_pd_orbisk_switch_staticSnatAcl_match_spec {
@@ -11829,11 +12433,17 @@ pd_status p4_pd_orbisk_switch_staticSnatAcl_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_staticSnatAcl_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_staticSnatAcl_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_staticSnatAcl_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_staticSnatAcl_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_staticSnatAcl_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* addrPortSnat: table 0x11010016, pipeline B, exact match, 9 key bytes (68 bits), entries carry staticSnatCounters */
 typedef struct p4_pd_orbisk_switch_addrPortSnat_match_spec {
@@ -11950,10 +12560,22 @@ pd_status p4_pd_orbisk_switch_addrPortSnat_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_addrPortSnat_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_addrPortSnat_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_addrPortSnat_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_addrPortSnat_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_addrPortSnat_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
+int p4_pd_orbisk_switch_addrPortSnat_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_addrPortSnat_match_spec_t *match_spec,
+    char *out);
+int p4_pd_orbisk_switch_addrPortSnat_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* addrOnlySnat: table 0x11010017, pipeline B, exact match, 7 key bytes (52 bits) */
 typedef struct p4_pd_orbisk_switch_addrOnlySnat_match_spec {
@@ -12055,10 +12677,16 @@ pd_status p4_pd_orbisk_switch_addrOnlySnat_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_addrOnlySnat_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_addrOnlySnat_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_addrOnlySnat_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_addrOnlySnat_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_addrOnlySnat_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* dynamicSnatAcl: table 0x11010013, pipeline B, ternary match, 14 key bytes (112 bits) */
 typedef struct p4_pd_orbisk_switch_dynamicSnatAcl_match_spec {
@@ -12178,11 +12806,17 @@ pd_status p4_pd_orbisk_switch_dynamicSnatAcl_get_plcmt_data(pd_sess_hdl sess_hdl
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_dynamicSnatAcl_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_dynamicSnatAcl_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_dynamicSnatAcl_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_dynamicSnatAcl_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_dynamicSnatAcl_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* dynamicSnat1: table 0x11010015, pipeline B, exact match, 14 key bytes (112 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_dynamicSnat1_match_spec {
@@ -12334,10 +12968,16 @@ pd_status p4_pd_orbisk_switch_dynamicSnat1_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_dynamicSnat1_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_dynamicSnat1_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_dynamicSnat1_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_dynamicSnat1_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_dynamicSnat1_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* dynamicNatCount: table 0x1101001e, pipeline B, ternary match, 5 key bytes (26 bits), entries carry dynNatCounters */
 typedef struct p4_pd_orbisk_switch_dynamicNatCount_match_spec {
@@ -12452,11 +13092,23 @@ pd_status p4_pd_orbisk_switch_dynamicNatCount_get_plcmt_data(pd_sess_hdl sess_hd
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_dynamicNatCount_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_dynamicNatCount_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_dynamicNatCount_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_dynamicNatCount_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_dynamicNatCount_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
+int p4_pd_orbisk_switch_dynamicNatCount_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_dynamicNatCount_match_spec_t *match_spec,
+    char *out);
+int p4_pd_orbisk_switch_dynamicNatCount_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* natTcpFlags: table 0x11010006, pipeline B, exact match, 1 key bytes (8 bits) */
 typedef struct p4_pd_orbisk_switch_natTcpFlags_match_spec {
@@ -12551,10 +13203,16 @@ pd_status p4_pd_orbisk_switch_natTcpFlags_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_natTcpFlags_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_natTcpFlags_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_natTcpFlags_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_natTcpFlags_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_natTcpFlags_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* natCpuTrapAcl: table 0x11010018, pipeline B, ternary match, 16 key bytes (121 bits) */
 typedef struct p4_pd_orbisk_switch_natCpuTrapAcl_match_spec {
@@ -12713,11 +13371,17 @@ pd_status p4_pd_orbisk_switch_natCpuTrapAcl_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_natCpuTrapAcl_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_natCpuTrapAcl_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_natCpuTrapAcl_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_natCpuTrapAcl_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_natCpuTrapAcl_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* natCpuReasonCode: table 0x11010005, pipeline B, ternary match, 2 key bytes (9 bits) */
 typedef struct p4_pd_orbisk_switch_natCpuReasonCode_match_spec {
@@ -12825,11 +13489,17 @@ pd_status p4_pd_orbisk_switch_natCpuReasonCode_get_plcmt_data(pd_sess_hdl sess_h
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_natCpuReasonCode_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_natCpuReasonCode_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_natCpuReasonCode_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_natCpuReasonCode_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_natCpuReasonCode_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* natChecksumUpdate: table 0x11010021, pipeline B, ternary match, 9 key bytes (32 bits) */
 typedef struct p4_pd_orbisk_switch_natChecksumUpdate_match_spec {
@@ -13003,11 +13673,17 @@ pd_status p4_pd_orbisk_switch_natChecksumUpdate_get_plcmt_data(pd_sess_hdl sess_
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_natChecksumUpdate_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_natChecksumUpdate_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_natChecksumUpdate_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_natChecksumUpdate_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_natChecksumUpdate_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* egressNatCpuTrapHeader: table 0x01000070, pipeline A, exact match, 2 key bytes (2 bits) */
 typedef struct p4_pd_orbisk_switch_egressNatCpuTrapHeader_match_spec {
@@ -13124,10 +13800,16 @@ pd_status p4_pd_orbisk_switch_egressNatCpuTrapHeader_get_plcmt_data(pd_sess_hdl 
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_egressNatCpuTrapHeader_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_egressNatCpuTrapHeader_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_egressNatCpuTrapHeader_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_egressNatCpuTrapHeader_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_egressNatCpuTrapHeader_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ================================================================== */
 /* Halo classification */
@@ -13231,10 +13913,16 @@ pd_status p4_pd_orbisk_switch_haloPaclCrlId_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_haloPaclCrlId_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloPaclCrlId_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_haloPaclCrlId_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloPaclCrlId_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloPaclCrlId_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* haloRaclCrlId: table 0x01000016, pipeline A, exact match, 3 key bytes (15 bits) */
 typedef struct p4_pd_orbisk_switch_haloRaclCrlId_match_spec {
@@ -13334,10 +14022,16 @@ pd_status p4_pd_orbisk_switch_haloRaclCrlId_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_haloRaclCrlId_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloRaclCrlId_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_haloRaclCrlId_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloRaclCrlId_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloRaclCrlId_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* haloXformIpv4Sip: table 0x0100001c, pipeline A, ternary match, 4 key bytes (32 bits) */
 typedef struct p4_pd_orbisk_switch_haloXformIpv4Sip_match_spec {
@@ -13457,11 +14151,17 @@ pd_status p4_pd_orbisk_switch_haloXformIpv4Sip_get_plcmt_data(pd_sess_hdl sess_h
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_haloXformIpv4Sip_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloXformIpv4Sip_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_haloXformIpv4Sip_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloXformIpv4Sip_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloXformIpv4Sip_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* haloXformIpv4Dip: table 0x01000019, pipeline A, ternary match, 4 key bytes (32 bits) */
 typedef struct p4_pd_orbisk_switch_haloXformIpv4Dip_match_spec {
@@ -13581,11 +14281,17 @@ pd_status p4_pd_orbisk_switch_haloXformIpv4Dip_get_plcmt_data(pd_sess_hdl sess_h
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_haloXformIpv4Dip_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloXformIpv4Dip_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_haloXformIpv4Dip_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloXformIpv4Dip_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloXformIpv4Dip_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* haloXformIpv6Sip: table 0x0100001b, pipeline A, ternary match, 16 key bytes (128 bits) */
 typedef struct p4_pd_orbisk_switch_haloXformIpv6Sip_match_spec {
@@ -13705,11 +14411,17 @@ pd_status p4_pd_orbisk_switch_haloXformIpv6Sip_get_plcmt_data(pd_sess_hdl sess_h
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_haloXformIpv6Sip_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloXformIpv6Sip_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_haloXformIpv6Sip_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloXformIpv6Sip_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloXformIpv6Sip_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* haloXformIpv6Dip: table 0x0100001a, pipeline A, ternary match, 16 key bytes (128 bits) */
 typedef struct p4_pd_orbisk_switch_haloXformIpv6Dip_match_spec {
@@ -13829,11 +14541,17 @@ pd_status p4_pd_orbisk_switch_haloXformIpv6Dip_get_plcmt_data(pd_sess_hdl sess_h
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_haloXformIpv6Dip_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloXformIpv6Dip_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_haloXformIpv6Dip_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloXformIpv6Dip_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloXformIpv6Dip_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* haloXformSrcPort: table 0x0100001e, pipeline A, ternary match, 2 key bytes (16 bits) */
 typedef struct p4_pd_orbisk_switch_haloXformSrcPort_match_spec {
@@ -13941,11 +14659,17 @@ pd_status p4_pd_orbisk_switch_haloXformSrcPort_get_plcmt_data(pd_sess_hdl sess_h
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_haloXformSrcPort_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloXformSrcPort_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_haloXformSrcPort_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloXformSrcPort_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloXformSrcPort_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* haloXformDstPort: table 0x0100001d, pipeline A, ternary match, 2 key bytes (16 bits) */
 typedef struct p4_pd_orbisk_switch_haloXformDstPort_match_spec {
@@ -14053,11 +14777,17 @@ pd_status p4_pd_orbisk_switch_haloXformDstPort_get_plcmt_data(pd_sess_hdl sess_h
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_haloXformDstPort_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloXformDstPort_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_haloXformDstPort_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloXformDstPort_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloXformDstPort_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* haloKeyMaskForRow1Stage2: table 0x01000028, pipeline A, exact match, 1 key bytes (8 bits) */
 typedef struct p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_match_spec {
@@ -14146,10 +14876,16 @@ pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_get_plcmt_data(pd_sess_hd
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* haloRow1Stage2: table 0x01000032, pipeline A, exact match, 14 key bytes (103 bits) */
 typedef struct p4_pd_orbisk_switch_haloRow1Stage2_match_spec {
@@ -14265,10 +15001,16 @@ pd_status p4_pd_orbisk_switch_haloRow1Stage2_get_plcmt_data(pd_sess_hdl sess_hdl
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_haloRow1Stage2_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloRow1Stage2_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_haloRow1Stage2_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloRow1Stage2_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloRow1Stage2_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* haloKeyMaskForRow1Stage3: table 0x01000033, pipeline A, exact match, 1 key bytes (8 bits) */
 typedef struct p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_match_spec {
@@ -14357,10 +15099,16 @@ pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_get_plcmt_data(pd_sess_hd
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* haloRow1Stage3: table 0x0100003c, pipeline A, exact match, 14 key bytes (103 bits) */
 typedef struct p4_pd_orbisk_switch_haloRow1Stage3_match_spec {
@@ -14476,10 +15224,16 @@ pd_status p4_pd_orbisk_switch_haloRow1Stage3_get_plcmt_data(pd_sess_hdl sess_hdl
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_haloRow1Stage3_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloRow1Stage3_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_haloRow1Stage3_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloRow1Stage3_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloRow1Stage3_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* haloKeyMaskForRow1Stage4: table 0x0100003d, pipeline A, exact match, 1 key bytes (8 bits) */
 typedef struct p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_match_spec {
@@ -14568,10 +15322,16 @@ pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_get_plcmt_data(pd_sess_hd
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* haloRow1Stage4: table 0x01000044, pipeline A, exact match, 14 key bytes (103 bits) */
 typedef struct p4_pd_orbisk_switch_haloRow1Stage4_match_spec {
@@ -14687,10 +15447,16 @@ pd_status p4_pd_orbisk_switch_haloRow1Stage4_get_plcmt_data(pd_sess_hdl sess_hdl
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_haloRow1Stage4_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloRow1Stage4_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_haloRow1Stage4_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloRow1Stage4_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloRow1Stage4_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* haloKeyMaskForRow1Stage5: table 0x01000045, pipeline A, exact match, 1 key bytes (8 bits) */
 typedef struct p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_match_spec {
@@ -14779,10 +15545,16 @@ pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_get_plcmt_data(pd_sess_hd
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* haloRow1Stage5: table 0x0100004c, pipeline A, exact match, 14 key bytes (103 bits) */
 typedef struct p4_pd_orbisk_switch_haloRow1Stage5_match_spec {
@@ -14898,10 +15670,16 @@ pd_status p4_pd_orbisk_switch_haloRow1Stage5_get_plcmt_data(pd_sess_hdl sess_hdl
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_haloRow1Stage5_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloRow1Stage5_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_haloRow1Stage5_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloRow1Stage5_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloRow1Stage5_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* haloKeyMaskForRow1Stage6: table 0x0100004d, pipeline A, exact match, 1 key bytes (8 bits) */
 typedef struct p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_match_spec {
@@ -14990,10 +15768,16 @@ pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_get_plcmt_data(pd_sess_hd
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* haloRow1Stage6: table 0x01000052, pipeline A, exact match, 14 key bytes (103 bits) */
 typedef struct p4_pd_orbisk_switch_haloRow1Stage6_match_spec {
@@ -15109,10 +15893,16 @@ pd_status p4_pd_orbisk_switch_haloRow1Stage6_get_plcmt_data(pd_sess_hdl sess_hdl
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_haloRow1Stage6_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloRow1Stage6_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_haloRow1Stage6_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloRow1Stage6_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloRow1Stage6_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* haloBypass: table 0x01000051, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_haloBypass_get_entry(pd_sess_hdl sess_hdl,
@@ -15171,6 +15961,9 @@ pd_status p4_pd_orbisk_switch_haloBypass_get_plcmt_data(pd_sess_hdl sess_hdl,
 pd_status p4_pd_orbisk_switch_haloBypass_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloBypass_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* haloCounters: table 0x01000059, pipeline A, exact match, 4 key bytes (32 bits), entries carry haloCount */
 typedef struct p4_pd_orbisk_switch_haloCounters_match_spec {
@@ -15255,10 +16048,22 @@ pd_status p4_pd_orbisk_switch_haloCounters_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_haloCounters_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloCounters_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_haloCounters_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloCounters_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloCounters_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
+int p4_pd_orbisk_switch_haloCounters_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_haloCounters_match_spec_t *match_spec,
+    char *out);
+int p4_pd_orbisk_switch_haloCounters_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* ================================================================== */
 /* Mirroring */
@@ -15415,11 +16220,17 @@ pd_status p4_pd_orbisk_switch_ingressMirrorSession_get_plcmt_data(pd_sess_hdl se
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ingressMirrorSession_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ingressMirrorSession_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_ingressMirrorSession_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ingressMirrorSession_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ingressMirrorSession_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ingressMirrorLagGroup: table 0x0100004b, pipeline A, exact match, 2 key bytes (10 bits), entries name a member or group of mirrorLagPortActionProfile */
 typedef struct p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec {
@@ -15526,6 +16337,9 @@ pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_get_plcmt_data(pd_sess_hdl s
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_t *match_spec,
     pd_mbr_hdl *mbr_hdl,
@@ -15533,6 +16347,9 @@ pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_get_entry_from_plcmt_data(co
     bool *has_mbr,
     bool *has_grp,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ingressMirrorRate: table 0x01000056, pipeline A, exact match, 2 key bytes (10 bits), entries carry ingressMirrorMeter */
 typedef struct p4_pd_orbisk_switch_ingressMirrorRate_match_spec {
@@ -15630,10 +16447,16 @@ pd_status p4_pd_orbisk_switch_ingressMirrorRate_get_plcmt_data(pd_sess_hdl sess_
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ingressMirrorRate_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ingressMirrorRate_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_ingressMirrorRate_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ingressMirrorRate_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ingressMirrorRate_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ingressMirrorResult: table 0x01000058, pipeline A, exact match, 3 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_ingressMirrorResult_match_spec {
@@ -15724,10 +16547,16 @@ pd_status p4_pd_orbisk_switch_ingressMirrorResult_get_plcmt_data(pd_sess_hdl ses
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ingressMirrorResult_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ingressMirrorResult_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_ingressMirrorResult_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ingressMirrorResult_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ingressMirrorResult_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* egressMirrorSession: table 0x0100005e, pipeline A, ternary match, 51 key bytes (380 bits) */
 typedef struct p4_pd_orbisk_switch_egressMirrorSession_match_spec {
@@ -15867,11 +16696,17 @@ pd_status p4_pd_orbisk_switch_egressMirrorSession_get_plcmt_data(pd_sess_hdl ses
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_egressMirrorSession_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_egressMirrorSession_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_egressMirrorSession_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_egressMirrorSession_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_egressMirrorSession_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* egressMirrorLagGroup: table 0x01000063, pipeline A, exact match, 2 key bytes (10 bits), entries name a member or group of egrMirrorLagPortActionProfile */
 typedef struct p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec {
@@ -15978,6 +16813,9 @@ pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_get_plcmt_data(pd_sess_hdl se
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_t *match_spec,
     pd_mbr_hdl *mbr_hdl,
@@ -15985,6 +16823,9 @@ pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_get_entry_from_plcmt_data(con
     bool *has_mbr,
     bool *has_grp,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* egressMirrorRate: table 0x01000068, pipeline A, exact match, 2 key bytes (10 bits), entries carry egressMirrorMeter */
 typedef struct p4_pd_orbisk_switch_egressMirrorRate_match_spec {
@@ -16082,10 +16923,16 @@ pd_status p4_pd_orbisk_switch_egressMirrorRate_get_plcmt_data(pd_sess_hdl sess_h
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_egressMirrorRate_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_egressMirrorRate_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_egressMirrorRate_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_egressMirrorRate_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_egressMirrorRate_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* egressMirrorResult: table 0x01000075, pipeline A, exact match, 1 key bytes (1 bits) */
 typedef struct p4_pd_orbisk_switch_egressMirrorResult_match_spec {
@@ -16180,10 +17027,16 @@ pd_status p4_pd_orbisk_switch_egressMirrorResult_get_plcmt_data(pd_sess_hdl sess
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_egressMirrorResult_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_egressMirrorResult_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_egressMirrorResult_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_egressMirrorResult_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_egressMirrorResult_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* mirrorPacketEncap: table 0x0100005d, pipeline A, exact match, 4 key bytes (25 bits) */
 typedef struct p4_pd_orbisk_switch_mirrorPacketEncap_match_spec {
@@ -16306,10 +17159,16 @@ pd_status p4_pd_orbisk_switch_mirrorPacketEncap_get_plcmt_data(pd_sess_hdl sess_
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_mirrorPacketEncap_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_mirrorPacketEncap_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_mirrorPacketEncap_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_mirrorPacketEncap_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_mirrorPacketEncap_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ================================================================== */
 /* QoS and policing classes */
@@ -16402,10 +17261,16 @@ pd_status p4_pd_orbisk_switch_qosPortProperties_get_plcmt_data(pd_sess_hdl sess_
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_qosPortProperties_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_qosPortProperties_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_qosPortProperties_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_qosPortProperties_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_qosPortProperties_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* normalizeCos: table 0x01000036, pipeline A, exact match, 4 key bytes (8 bits) */
 typedef struct p4_pd_orbisk_switch_normalizeCos_match_spec {
@@ -16535,10 +17400,16 @@ pd_status p4_pd_orbisk_switch_normalizeCos_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_normalizeCos_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_normalizeCos_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_normalizeCos_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_normalizeCos_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_normalizeCos_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* normalizeDscp: table 0x01000029, pipeline A, exact match, 2 key bytes (6 bits) */
 typedef struct p4_pd_orbisk_switch_normalizeDscp_match_spec {
@@ -16690,10 +17561,16 @@ pd_status p4_pd_orbisk_switch_normalizeDscp_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_normalizeDscp_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_normalizeDscp_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_normalizeDscp_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_normalizeDscp_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_normalizeDscp_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ingressTrafficClass: table 0x0100003f, pipeline A, ternary match, 8 key bytes (23 bits) */
 typedef struct p4_pd_orbisk_switch_ingressTrafficClass_match_spec {
@@ -16811,11 +17688,17 @@ pd_status p4_pd_orbisk_switch_ingressTrafficClass_get_plcmt_data(pd_sess_hdl ses
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ingressTrafficClass_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ingressTrafficClass_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_ingressTrafficClass_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ingressTrafficClass_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ingressTrafficClass_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* tcDscpMap: table 0x01000061, pipeline A, exact match, 1 key bytes (3 bits) */
 typedef struct p4_pd_orbisk_switch_tcDscpMap_match_spec {
@@ -16917,10 +17800,16 @@ pd_status p4_pd_orbisk_switch_tcDscpMap_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_tcDscpMap_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_tcDscpMap_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_tcDscpMap_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_tcDscpMap_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_tcDscpMap_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* qosRewriteConfig: table 0x0100000f, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_qosRewriteConfig_get_entry(pd_sess_hdl sess_hdl,
@@ -16980,6 +17869,9 @@ pd_status p4_pd_orbisk_switch_qosRewriteConfig_get_plcmt_data(pd_sess_hdl sess_h
 pd_status p4_pd_orbisk_switch_qosRewriteConfig_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_qosRewriteConfig_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* qosRewrite: table 0x01000048, pipeline A, exact match, 5 key bytes (10 bits) */
 typedef struct p4_pd_orbisk_switch_qosRewrite_match_spec {
@@ -17111,10 +18003,16 @@ pd_status p4_pd_orbisk_switch_qosRewrite_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_qosRewrite_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_qosRewrite_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_qosRewrite_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_qosRewrite_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_qosRewrite_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* packetDscpRewrite: table 0x0100006e, pipeline A, ternary match, 6 key bytes (10 bits) */
 typedef struct p4_pd_orbisk_switch_packetDscpRewrite_match_spec {
@@ -17306,11 +18204,17 @@ pd_status p4_pd_orbisk_switch_packetDscpRewrite_get_plcmt_data(pd_sess_hdl sess_
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_packetDscpRewrite_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_packetDscpRewrite_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_packetDscpRewrite_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_packetDscpRewrite_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_packetDscpRewrite_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* queueCounters: table 0x0100005b, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_queueCounters_get_entry(pd_sess_hdl sess_hdl,
@@ -17369,6 +18273,9 @@ pd_status p4_pd_orbisk_switch_queueCounters_get_plcmt_data(pd_sess_hdl sess_hdl,
 pd_status p4_pd_orbisk_switch_queueCounters_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_queueCounters_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* pdpClassify: table 0x11010020, pipeline B, ternary match, 10 key bytes (52 bits), entries carry pdpMeter */
 typedef struct p4_pd_orbisk_switch_pdpClassify_match_spec {
@@ -17501,11 +18408,17 @@ pd_status p4_pd_orbisk_switch_pdpClassify_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_pdpClassify_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_pdpClassify_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_pdpClassify_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_pdpClassify_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_pdpClassify_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* pdpPolicy: table 0x11010025, pipeline B, exact match, 2 key bytes (6 bits), entries carry pdpClassCount */
 typedef struct p4_pd_orbisk_switch_pdpPolicy_match_spec {
@@ -17605,10 +18518,16 @@ pd_status p4_pd_orbisk_switch_pdpPolicy_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_pdpPolicy_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_pdpPolicy_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_pdpPolicy_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_pdpPolicy_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_pdpPolicy_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ================================================================== */
 /* CPU path, MTU and final drop */
@@ -17816,11 +18735,23 @@ pd_status p4_pd_orbisk_switch_trapToCpu_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_trapToCpu_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_trapToCpu_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_trapToCpu_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_trapToCpu_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_trapToCpu_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
+int p4_pd_orbisk_switch_trapToCpu_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_trapToCpu_match_spec_t *match_spec,
+    char *out);
+int p4_pd_orbisk_switch_trapToCpu_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* switchToCpu: table 0x11010009, pipeline B, exact match, 2 key bytes (7 bits) */
 typedef struct p4_pd_orbisk_switch_switchToCpu_match_spec {
@@ -17911,10 +18842,16 @@ pd_status p4_pd_orbisk_switch_switchToCpu_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_switchToCpu_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_switchToCpu_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_switchToCpu_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_switchToCpu_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_switchToCpu_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* cpuEncap: table 0x11010022, pipeline B, ternary match, 7 key bytes (14 bits) */
 typedef struct p4_pd_orbisk_switch_cpuEncap_match_spec {
@@ -18122,11 +19059,17 @@ pd_status p4_pd_orbisk_switch_cpuEncap_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_cpuEncap_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_cpuEncap_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_cpuEncap_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_cpuEncap_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_cpuEncap_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* cpuEncapFields: table 0x01000069, pipeline A, exact match, 6 key bytes (15 bits) */
 typedef struct p4_pd_orbisk_switch_cpuEncapFields_match_spec {
@@ -18262,10 +19205,16 @@ pd_status p4_pd_orbisk_switch_cpuEncapFields_get_plcmt_data(pd_sess_hdl sess_hdl
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_cpuEncapFields_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_cpuEncapFields_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_cpuEncapFields_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_cpuEncapFields_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_cpuEncapFields_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ingMtu: table 0x11010003, pipeline B, ternary match, 6 key bytes (36 bits) */
 typedef struct p4_pd_orbisk_switch_ingMtu_match_spec {
@@ -18384,11 +19333,17 @@ pd_status p4_pd_orbisk_switch_ingMtu_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ingMtu_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ingMtu_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_ingMtu_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ingMtu_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ingMtu_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* mtuCheck: table 0x1101001b, pipeline B, ternary match, 7 key bytes (26 bits) */
 typedef struct p4_pd_orbisk_switch_mtuCheck_match_spec {
@@ -18507,11 +19462,17 @@ pd_status p4_pd_orbisk_switch_mtuCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_mtuCheck_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_mtuCheck_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_mtuCheck_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_mtuCheck_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_mtuCheck_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* finalDropControl: table 0x01000057, pipeline A, ternary match, 26 key bytes (64 bits), entries carry finalDropControlCount */
 typedef struct p4_pd_orbisk_switch_finalDropControl_match_spec {
@@ -18735,11 +19696,23 @@ pd_status p4_pd_orbisk_switch_finalDropControl_get_plcmt_data(pd_sess_hdl sess_h
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_finalDropControl_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_finalDropControl_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_finalDropControl_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_finalDropControl_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_finalDropControl_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
+int p4_pd_orbisk_switch_finalDropControl_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_finalDropControl_match_spec_t *match_spec,
+    char *out);
+int p4_pd_orbisk_switch_finalDropControl_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* finalDropControlIB: table 0x11010027, pipeline B, ternary match, 12 key bytes (50 bits), entries carry finalDropControlIBCount */
 typedef struct p4_pd_orbisk_switch_finalDropControlIB_match_spec {
@@ -18865,11 +19838,23 @@ pd_status p4_pd_orbisk_switch_finalDropControlIB_get_plcmt_data(pd_sess_hdl sess
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_finalDropControlIB_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_finalDropControlIB_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_finalDropControlIB_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_finalDropControlIB_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_finalDropControlIB_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
+int p4_pd_orbisk_switch_finalDropControlIB_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_finalDropControlIB_match_spec_t *match_spec,
+    char *out);
+int p4_pd_orbisk_switch_finalDropControlIB_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* ================================================================== */
 /* Interface policy and folded pipe */
@@ -18962,10 +19947,16 @@ pd_status p4_pd_orbisk_switch_eifIngPolicy_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_eifIngPolicy_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_eifIngPolicy_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_eifIngPolicy_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_eifIngPolicy_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_eifIngPolicy_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* eifParamsForIngress: table 0x11010014, pipeline B, no key */
 pd_status p4_pd_orbisk_switch_eifParamsForIngress_get_entry(pd_sess_hdl sess_hdl,
@@ -19024,6 +20015,9 @@ pd_status p4_pd_orbisk_switch_eifParamsForIngress_get_plcmt_data(pd_sess_hdl ses
 pd_status p4_pd_orbisk_switch_eifParamsForIngress_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_eifParamsForIngress_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* eifParamsForEgress: table 0x11010011, pipeline B, exact match, 2 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_eifParamsForEgress_match_spec {
@@ -19112,10 +20106,16 @@ pd_status p4_pd_orbisk_switch_eifParamsForEgress_get_plcmt_data(pd_sess_hdl sess
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_eifParamsForEgress_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_eifParamsForEgress_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_eifParamsForEgress_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_eifParamsForEgress_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_eifParamsForEgress_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* eifPinHole: table 0x11010019, pipeline B, exact match, 20 key bytes (160 bits) */
 typedef struct p4_pd_orbisk_switch_eifPinHole_match_spec {
@@ -19219,10 +20219,16 @@ pd_status p4_pd_orbisk_switch_eifPinHole_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_eifPinHole_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_eifPinHole_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_eifPinHole_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_eifPinHole_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_eifPinHole_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* eifPinHoleHits: table 0x1101001c, pipeline B, exact match, 2 key bytes (15 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_eifPinHoleHits_match_spec {
@@ -19338,10 +20344,16 @@ pd_status p4_pd_orbisk_switch_eifPinHoleHits_get_plcmt_data(pd_sess_hdl sess_hdl
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_eifPinHoleHits_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_eifPinHoleHits_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_eifPinHoleHits_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_eifPinHoleHits_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_eifPinHoleHits_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* eifAcl: table 0x1101001a, pipeline B, ternary match, 39 key bytes (306 bits), entries carry eifAclCount */
 typedef struct p4_pd_orbisk_switch_eifAcl_match_spec {
@@ -19499,11 +20511,23 @@ pd_status p4_pd_orbisk_switch_eifAcl_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_eifAcl_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_eifAcl_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_eifAcl_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_eifAcl_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_eifAcl_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
+int p4_pd_orbisk_switch_eifAcl_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_eifAcl_match_spec_t *match_spec,
+    char *out);
+int p4_pd_orbisk_switch_eifAcl_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* eifForwardToPeerAcl: table 0x1101001d, pipeline B, ternary match, 34 key bytes (272 bits), entries carry eifForwardToPeerAclCount */
 typedef struct p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec {
@@ -19630,11 +20654,23 @@ pd_status p4_pd_orbisk_switch_eifForwardToPeerAcl_get_plcmt_data(pd_sess_hdl ses
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_eifForwardToPeerAcl_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_eifForwardToPeerAcl_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
+int p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec_t *match_spec,
+    char *out);
+int p4_pd_orbisk_switch_eifForwardToPeerAcl_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* foldedPipeDest: table 0x01000054, pipeline A, ternary match, 4 key bytes (18 bits), entries name a member or group of foldedPipeActionProfile */
 typedef struct p4_pd_orbisk_switch_foldedPipeDest_match_spec {
@@ -19757,6 +20793,9 @@ pd_status p4_pd_orbisk_switch_foldedPipeDest_get_plcmt_data(pd_sess_hdl sess_hdl
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_foldedPipeDest_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_foldedPipeDest_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_foldedPipeDest_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_foldedPipeDest_match_spec_t *match_spec,
     uint32_t *priority,
@@ -19765,6 +20804,9 @@ pd_status p4_pd_orbisk_switch_foldedPipeDest_get_entry_from_plcmt_data(const voi
     bool *has_mbr,
     bool *has_grp,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_foldedPipeDest_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* foldedPipeQos: table 0x0100004a, pipeline A, ternary match, 8 key bytes (41 bits) */
 typedef struct p4_pd_orbisk_switch_foldedPipeQos_match_spec {
@@ -19890,11 +20932,17 @@ pd_status p4_pd_orbisk_switch_foldedPipeQos_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_foldedPipeQos_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_foldedPipeQos_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_foldedPipeQos_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_foldedPipeQos_match_spec_t *match_spec,
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_foldedPipeQos_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* foldedPipeCounters: table 0x0100005a, pipeline A, exact match, 3 key bytes (14 bits), entries carry foldedPipeCount */
 typedef struct p4_pd_orbisk_switch_foldedPipeCounters_match_spec {
@@ -19981,10 +21029,22 @@ pd_status p4_pd_orbisk_switch_foldedPipeCounters_get_plcmt_data(pd_sess_hdl sess
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_foldedPipeCounters_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_foldedPipeCounters_match_spec_t *match_spec);
 pd_status p4_pd_orbisk_switch_foldedPipeCounters_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_foldedPipeCounters_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_foldedPipeCounters_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
+int p4_pd_orbisk_switch_foldedPipeCounters_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_foldedPipeCounters_match_spec_t *match_spec,
+    char *out);
+int p4_pd_orbisk_switch_foldedPipeCounters_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* ================================================================== */
 /* Action profiles: members, selector groups */
@@ -20132,6 +21192,9 @@ pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_get_full_member_info
     pd_mbr_hdl mbr_hdl,
     const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_adt_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* mirrorLagPortActionProfile: action data table 0x0200001d, selector table 0x03000001;
  * entries of ingressMirrorLagGroup name its members and groups.
@@ -20275,6 +21338,9 @@ pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_get_full_member_info_fr
     pd_mbr_hdl mbr_hdl,
     const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_adt_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* foldedPipeActionProfile: action data table 0x02000021, selector table 0x03000002;
  * entries of foldedPipeDest name its members and groups.
@@ -20418,6 +21484,9 @@ pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_get_full_member_info_from_
     pd_mbr_hdl mbr_hdl,
     const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_adt_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ecmpMemberActionProfile: action data table 0x12010003, selector table 0x13010001;
  * entries of ecmpGroup name its members and groups.
@@ -20561,6 +21630,9 @@ pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_get_full_member_info_from_
     pd_mbr_hdl mbr_hdl,
     const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_adt_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* tunnelMemberActionProfile: action data table 0x1201000c, selector table 0x13010002;
  * entries of tunnelResolve name its members and groups.
@@ -20704,6 +21776,9 @@ pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_get_full_member_info_fro
     pd_mbr_hdl mbr_hdl,
     const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_adt_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* lagPortActionProfile: action data table 0x1201000e, selector table 0x13010003;
  * entries of lagGroup name its members and groups.
@@ -20866,6 +21941,9 @@ pd_status p4_pd_orbisk_switch_lagPortActionProfile_get_full_member_info_from_plc
     pd_mbr_hdl mbr_hdl,
     const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_adt_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 
 /* ------------------------------------------------------------------ */
 /* counters, meters and registers */
@@ -21413,6 +22491,9 @@ pd_status p4_pd_orbisk_switch_register_write_all_indirect(pd_sess_hdl sess_hdl,
 
 /* ------------------------------------ action data read back --- */
 
+void p4_pd_orbisk_switch_setPhase0_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setPhase0_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setPhase0_schema(void);
 void unbuild_action_spec_setPhase0(const pd_action_record *act,
     p4_pd_orbisk_switch_setPhase0_action_spec_t *action_spec);
@@ -21420,42 +22501,72 @@ const char *p4_pd_orbisk_switch_NoAction_schema(void);
 const char *p4_pd_orbisk_switch_hashComputeInnerIpv4HdrAction_schema(void);
 const char *p4_pd_orbisk_switch_hashComputeInnerIpv6HdrAction_schema(void);
 const char *p4_pd_orbisk_switch_setTunnelTerminationTypeNoneIpv4AndL2_schema(void);
+void p4_pd_orbisk_switch_setTunnelTerminationTypeVxlan_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTunnelTerminationTypeVxlan_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTunnelTerminationTypeVxlan_schema(void);
 void unbuild_action_spec_setTunnelTerminationTypeVxlan(const pd_action_record *act,
     p4_pd_orbisk_switch_setTunnelTerminationTypeVxlan_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTunnelTerminationTypeNoneIpv6_schema(void);
+void p4_pd_orbisk_switch_setL2DomainUntagged_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setL2DomainUntagged_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setL2DomainUntagged_schema(void);
 void unbuild_action_spec_setL2DomainUntagged(const pd_action_record *act,
     p4_pd_orbisk_switch_setL2DomainUntagged_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setL2DomainVlanXlate_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setL2DomainVlanXlate_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setL2DomainVlanXlate_schema(void);
 void unbuild_action_spec_setL2DomainVlanXlate(const pd_action_record *act,
     p4_pd_orbisk_switch_setL2DomainVlanXlate_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setL2DomainTagged_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setL2DomainTagged_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setL2DomainTagged_schema(void);
 void unbuild_action_spec_setL2DomainTagged(const pd_action_record *act,
     p4_pd_orbisk_switch_setL2DomainTagged_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_onMiss_schema(void);
+void p4_pd_orbisk_switch_setVrfPropertiesTaggedXlatePkt_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setVrfPropertiesTaggedXlatePkt_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setVrfPropertiesTaggedXlatePkt_schema(void);
 void unbuild_action_spec_setVrfPropertiesTaggedXlatePkt(const pd_action_record *act,
     p4_pd_orbisk_switch_setVrfPropertiesTaggedXlatePkt_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setVrfPropertiesTaggedPktDefault_schema(void);
+void p4_pd_orbisk_switch_setVrfPropertiesTaggedPkt_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setVrfPropertiesTaggedPkt_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setVrfPropertiesTaggedPkt_schema(void);
 void unbuild_action_spec_setVrfPropertiesTaggedPkt(const pd_action_record *act,
     p4_pd_orbisk_switch_setVrfPropertiesTaggedPkt_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setVrfPropertiesUntaggedPktDefault_schema(void);
+void p4_pd_orbisk_switch_setVrfPropertiesUntaggedPkt_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setVrfPropertiesUntaggedPkt_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setVrfPropertiesUntaggedPkt_schema(void);
 void unbuild_action_spec_setVrfPropertiesUntaggedPkt(const pd_action_record *act,
     p4_pd_orbisk_switch_setVrfPropertiesUntaggedPkt_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setVxlanL2AintfLookupFields_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setVxlanL2AintfLookupFields_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setVxlanL2AintfLookupFields_schema(void);
 void unbuild_action_spec_setVxlanL2AintfLookupFields(const pd_action_record *act,
     p4_pd_orbisk_switch_setVxlanL2AintfLookupFields_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setVxlanL2AintfInvalidTunnel_schema(void);
 const char *p4_pd_orbisk_switch_setvxlanL2AintfLookupMissVtepLearn_schema(void);
 const char *p4_pd_orbisk_switch_setvxlanL2AintfLookupMissSkipVtepLearn_schema(void);
+void p4_pd_orbisk_switch_vxlanVniResolutionHit_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_vxlanVniResolutionHit_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_vxlanVniResolutionHit_schema(void);
 void unbuild_action_spec_vxlanVniResolutionHit(const pd_action_record *act,
     p4_pd_orbisk_switch_vxlanVniResolutionHit_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_vxlanVniResolutionMiss_schema(void);
 const char *p4_pd_orbisk_switch_setUcast_schema(void);
+void p4_pd_orbisk_switch_setL2ControlFrame_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setL2ControlFrame_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setL2ControlFrame_schema(void);
 void unbuild_action_spec_setL2ControlFrame(const pd_action_record *act,
     p4_pd_orbisk_switch_setL2ControlFrame_action_spec_t *action_spec);
@@ -21463,15 +22574,24 @@ const char *p4_pd_orbisk_switch_setIllegalDmac_schema(void);
 const char *p4_pd_orbisk_switch_setMcast_schema(void);
 const char *p4_pd_orbisk_switch_setBcast_schema(void);
 const char *p4_pd_orbisk_switch_setIpMcast_schema(void);
+void p4_pd_orbisk_switch_classifyL2ControlFrame_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_classifyL2ControlFrame_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_classifyL2ControlFrame_schema(void);
 void unbuild_action_spec_classifyL2ControlFrame(const pd_action_record *act,
     p4_pd_orbisk_switch_classifyL2ControlFrame_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_ingStpAction_schema(void);
 const char *p4_pd_orbisk_switch_ingVlanAction_schema(void);
 const char *p4_pd_orbisk_switch_setIllegalSmac_schema(void);
+void p4_pd_orbisk_switch_setQosPortProperties_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setQosPortProperties_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setQosPortProperties_schema(void);
 void unbuild_action_spec_setQosPortProperties(const pd_action_record *act,
     p4_pd_orbisk_switch_setQosPortProperties_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setQosRewriteConfiguration_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setQosRewriteConfiguration_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setQosRewriteConfiguration_schema(void);
 void unbuild_action_spec_setQosRewriteConfiguration(const pd_action_record *act,
     p4_pd_orbisk_switch_setQosRewriteConfiguration_action_spec_t *action_spec);
@@ -21481,111 +22601,210 @@ const char *p4_pd_orbisk_switch_setL2LearningLookupMiss_schema(void);
 const char *p4_pd_orbisk_switch_noOp_schema(void);
 const char *p4_pd_orbisk_switch_ignoreIngL3DmacValid_schema(void);
 const char *p4_pd_orbisk_switch_setIngL3DmacValid_schema(void);
+void p4_pd_orbisk_switch_setHaloCrlId2_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setHaloCrlId2_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setHaloCrlId2_schema(void);
 void unbuild_action_spec_setHaloCrlId2(const pd_action_record *act,
     p4_pd_orbisk_switch_setHaloCrlId2_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setHaloCrlId_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setHaloCrlId_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setHaloCrlId_schema(void);
 void unbuild_action_spec_setHaloCrlId(const pd_action_record *act,
     p4_pd_orbisk_switch_setHaloCrlId_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_l2ForwardParamsSet_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l2ForwardParamsSet_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_l2ForwardParamsSet_schema(void);
 void unbuild_action_spec_l2ForwardParamsSet(const pd_action_record *act,
     p4_pd_orbisk_switch_l2ForwardParamsSet_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setVlanProperties_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setVlanProperties_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setVlanProperties_schema(void);
 void unbuild_action_spec_setVlanProperties(const pd_action_record *act,
     p4_pd_orbisk_switch_setVlanProperties_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setHaloXformDip_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setHaloXformDip_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setHaloXformDip_schema(void);
 void unbuild_action_spec_setHaloXformDip(const pd_action_record *act,
     p4_pd_orbisk_switch_setHaloXformDip_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setHaloInvalidDip_schema(void);
+void p4_pd_orbisk_switch_setHaloXformIpv4Sip_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setHaloXformIpv4Sip_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setHaloXformIpv4Sip_schema(void);
 void unbuild_action_spec_setHaloXformIpv4Sip(const pd_action_record *act,
     p4_pd_orbisk_switch_setHaloXformIpv4Sip_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setHaloInvalidSip_schema(void);
 const char *p4_pd_orbisk_switch_setHaloIpv4Common_schema(void);
+void p4_pd_orbisk_switch_setHaloXformIpv6Sip_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setHaloXformIpv6Sip_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setHaloXformIpv6Sip_schema(void);
 void unbuild_action_spec_setHaloXformIpv6Sip(const pd_action_record *act,
     p4_pd_orbisk_switch_setHaloXformIpv6Sip_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setHaloIpv6Common_schema(void);
+void p4_pd_orbisk_switch_setHaloXformDstPort_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setHaloXformDstPort_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setHaloXformDstPort_schema(void);
 void unbuild_action_spec_setHaloXformDstPort(const pd_action_record *act,
     p4_pd_orbisk_switch_setHaloXformDstPort_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setHaloXformSrcPort_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setHaloXformSrcPort_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setHaloXformSrcPort_schema(void);
 void unbuild_action_spec_setHaloXformSrcPort(const pd_action_record *act,
     p4_pd_orbisk_switch_setHaloXformSrcPort_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setFullConeDipRangeId_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setFullConeDipRangeId_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setFullConeDipRangeId_schema(void);
 void unbuild_action_spec_setFullConeDipRangeId(const pd_action_record *act,
     p4_pd_orbisk_switch_setFullConeDipRangeId_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setIngNatProfile_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setIngNatProfile_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIngNatProfile_schema(void);
 void unbuild_action_spec_setIngNatProfile(const pd_action_record *act,
     p4_pd_orbisk_switch_setIngNatProfile_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setEcmp_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEcmp_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEcmp_schema(void);
 void unbuild_action_spec_setEcmp(const pd_action_record *act,
     p4_pd_orbisk_switch_setEcmp_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setNextHop_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setNextHop_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNextHop_schema(void);
 void unbuild_action_spec_setNextHop(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHop_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setNextHop2_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setNextHop2_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNextHop2_schema(void);
 void unbuild_action_spec_setNextHop2(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHop2_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setNextHop3_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setNextHop3_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNextHop3_schema(void);
 void unbuild_action_spec_setNextHop3(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHop3_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setIpv6PrtResultXFirst_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setIpv6PrtResultXFirst_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIpv6PrtResultXFirst_schema(void);
 void unbuild_action_spec_setIpv6PrtResultXFirst(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpv6PrtResultXFirst_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setTranslatedDipNextHop_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTranslatedDipNextHop_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedDipNextHop_schema(void);
 void unbuild_action_spec_setTranslatedDipNextHop(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipNextHop_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setTranslatedDipPortNextHopDynamic_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTranslatedDipPortNextHopDynamic_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedDipPortNextHopDynamic_schema(void);
 void unbuild_action_spec_setTranslatedDipPortNextHopDynamic(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipPortNextHopDynamic_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setTranslatedDipPort_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTranslatedDipPort_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedDipPort_schema(void);
 void unbuild_action_spec_setTranslatedDipPort(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipPort_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setDnatAclId_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setDnatAclId_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setDnatAclId_schema(void);
 void unbuild_action_spec_setDnatAclId(const pd_action_record *act,
     p4_pd_orbisk_switch_setDnatAclId_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_resetDnatAclId_schema(void);
 const char *p4_pd_orbisk_switch_countEgressQueue_schema(void);
+void p4_pd_orbisk_switch_setTunnelDip_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTunnelDip_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTunnelDip_schema(void);
 void unbuild_action_spec_setTunnelDip(const pd_action_record *act,
     p4_pd_orbisk_switch_setTunnelDip_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setEgressMirrorSession_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEgressMirrorSession_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEgressMirrorSession_schema(void);
 void unbuild_action_spec_setEgressMirrorSession(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgressMirrorSession_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setVxlanVniAndVti_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setVxlanVniAndVti_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setVxlanVniAndVti_schema(void);
 void unbuild_action_spec_setVxlanVniAndVti(const pd_action_record *act,
     p4_pd_orbisk_switch_setVxlanVniAndVti_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setInvalidVni_schema(void);
+void p4_pd_orbisk_switch_setL2DomainReplicated_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setL2DomainReplicated_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setL2DomainReplicated_schema(void);
 void unbuild_action_spec_setL2DomainReplicated(const pd_action_record *act,
     p4_pd_orbisk_switch_setL2DomainReplicated_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_egressMirrorDrop_schema(void);
 const char *p4_pd_orbisk_switch_setMirrorPacketEncapNone_schema(void);
+void p4_pd_orbisk_switch_setMirrorPacketEncapCpu_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setMirrorPacketEncapCpu_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setMirrorPacketEncapCpu_schema(void);
 void unbuild_action_spec_setMirrorPacketEncapCpu(const pd_action_record *act,
     p4_pd_orbisk_switch_setMirrorPacketEncapCpu_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setMirrorPacketEncapGreIpv4_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setMirrorPacketEncapGreIpv4_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setMirrorPacketEncapGreIpv4_schema(void);
 void unbuild_action_spec_setMirrorPacketEncapGreIpv4(const pd_action_record *act,
     p4_pd_orbisk_switch_setMirrorPacketEncapGreIpv4_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setTcDscp_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTcDscp_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTcDscp_schema(void);
 void unbuild_action_spec_setTcDscp(const pd_action_record *act,
     p4_pd_orbisk_switch_setTcDscp_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setTranslatedDipNextHopAndCount_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTranslatedDipNextHopAndCount_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedDipNextHopAndCount_schema(void);
 void unbuild_action_spec_setTranslatedDipNextHopAndCount(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipNextHopAndCount_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setTranslatedDipPortNextHopAndCount_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTranslatedDipPortNextHopAndCount_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedDipPortNextHopAndCount_schema(void);
 void unbuild_action_spec_setTranslatedDipPortNextHopAndCount(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipPortNextHopAndCount_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setTranslatedDipNextHopEcmpAndCount_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTranslatedDipNextHopEcmpAndCount_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedDipNextHopEcmpAndCount_schema(void);
 void unbuild_action_spec_setTranslatedDipNextHopEcmpAndCount(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipNextHopEcmpAndCount_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setTranslatedDipPortNextHopEcmpAndCount_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTranslatedDipPortNextHopEcmpAndCount_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedDipPortNextHopEcmpAndCount_schema(void);
 void unbuild_action_spec_setTranslatedDipPortNextHopEcmpAndCount(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipPortNextHopEcmpAndCount_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setTranslatedDipNextHopEcmp_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTranslatedDipNextHopEcmp_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedDipNextHopEcmp_schema(void);
 void unbuild_action_spec_setTranslatedDipNextHopEcmp(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipNextHopEcmp_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_haloKeyMaskedRow1Stage2_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage2_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_haloKeyMaskedRow1Stage2_schema(void);
 void unbuild_action_spec_haloKeyMaskedRow1Stage2(const pd_action_record *act,
     p4_pd_orbisk_switch_haloKeyMaskedRow1Stage2_action_spec_t *action_spec);
@@ -21595,62 +22814,116 @@ const char *p4_pd_orbisk_switch_setDscpForIpv4Pkt_schema(void);
 const char *p4_pd_orbisk_switch_setDscpForIpv4OptionsPkt_schema(void);
 const char *p4_pd_orbisk_switch_setDscpForIpv6Pkt_schema(void);
 const char *p4_pd_orbisk_switch_setInvalidEgressPort_schema(void);
+void p4_pd_orbisk_switch_setEgressPort_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEgressPort_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEgressPort_schema(void);
 void unbuild_action_spec_setEgressPort(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgressPort_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setDecapTypeVlan_schema(void);
 const char *p4_pd_orbisk_switch_removeOrbiskHdrs_schema(void);
+void p4_pd_orbisk_switch_setEifIngPolicy_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEifIngPolicy_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEifIngPolicy_schema(void);
 void unbuild_action_spec_setEifIngPolicy(const pd_action_record *act,
     p4_pd_orbisk_switch_setEifIngPolicy_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_ipv6LgMaskFinalResolveDefaultFirst_schema(void);
+void p4_pd_orbisk_switch_setV6NextHop0First_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setV6NextHop0First_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setV6NextHop0First_schema(void);
 void unbuild_action_spec_setV6NextHop0First(const pd_action_record *act,
     p4_pd_orbisk_switch_setV6NextHop0First_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setV6NextHop2First_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setV6NextHop2First_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setV6NextHop2First_schema(void);
 void unbuild_action_spec_setV6NextHop2First(const pd_action_record *act,
     p4_pd_orbisk_switch_setV6NextHop2First_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setV6NextHop3First_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setV6NextHop3First_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setV6NextHop3First_schema(void);
 void unbuild_action_spec_setV6NextHop3First(const pd_action_record *act,
     p4_pd_orbisk_switch_setV6NextHop3First_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setV6NextHop1First_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setV6NextHop1First_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setV6NextHop1First_schema(void);
 void unbuild_action_spec_setV6NextHop1First(const pd_action_record *act,
     p4_pd_orbisk_switch_setV6NextHop1First_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setIpv6PrtIdxNextHop_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setIpv6PrtIdxNextHop_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIpv6PrtIdxNextHop_schema(void);
 void unbuild_action_spec_setIpv6PrtIdxNextHop(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpv6PrtIdxNextHop_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setIpv6PrtIdxNextHop2_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setIpv6PrtIdxNextHop2_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIpv6PrtIdxNextHop2_schema(void);
 void unbuild_action_spec_setIpv6PrtIdxNextHop2(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpv6PrtIdxNextHop2_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setIpv6PrtIdxNextHop3_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setIpv6PrtIdxNextHop3_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIpv6PrtIdxNextHop3_schema(void);
 void unbuild_action_spec_setIpv6PrtIdxNextHop3(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpv6PrtIdxNextHop3_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setIpv6PrtIdxEcmp_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setIpv6PrtIdxEcmp_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIpv6PrtIdxEcmp_schema(void);
 void unbuild_action_spec_setIpv6PrtIdxEcmp(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpv6PrtIdxEcmp_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setFibMiss_schema(void);
+void p4_pd_orbisk_switch_setEgrLagMemberSelector_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEgrLagMemberSelector_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEgrLagMemberSelector_schema(void);
 void unbuild_action_spec_setEgrLagMemberSelector(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrLagMemberSelector_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelCommon_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelCommon_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelCommon_schema(void);
 void unbuild_action_spec_setGlobalFieldsForVxlanTunnelCommon(const pd_action_record *act,
     p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelCommon_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4_schema(void);
 void unbuild_action_spec_setGlobalFieldsForVxlanTunnelIpv4(const pd_action_record *act,
     p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_schema(void);
 void unbuild_action_spec_setGlobalFieldsForVxlanTunnelIpv4UseDipB(const pd_action_record *act,
     p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTunnelL2InfoDefault_schema(void);
+void p4_pd_orbisk_switch_setTunnelL2Info_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTunnelL2Info_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTunnelL2Info_schema(void);
 void unbuild_action_spec_setTunnelL2Info(const pd_action_record *act,
     p4_pd_orbisk_switch_setTunnelL2Info_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_l2LookupKnownUcast_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l2LookupKnownUcast_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_l2LookupKnownUcast_schema(void);
 void unbuild_action_spec_l2LookupKnownUcast(const pd_action_record *act,
     p4_pd_orbisk_switch_l2LookupKnownUcast_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_l2LookupKnownMcast_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l2LookupKnownMcast_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_l2LookupKnownMcast_schema(void);
 void unbuild_action_spec_l2LookupKnownMcast(const pd_action_record *act,
     p4_pd_orbisk_switch_l2LookupKnownMcast_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_l2LookupKnownUcastTunnel_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l2LookupKnownUcastTunnel_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_l2LookupKnownUcastTunnel_schema(void);
 void unbuild_action_spec_l2LookupKnownUcastTunnel(const pd_action_record *act,
     p4_pd_orbisk_switch_l2LookupKnownUcastTunnel_action_spec_t *action_spec);
@@ -21659,20 +22932,35 @@ const char *p4_pd_orbisk_switch_l2LookupBcastHit_schema(void);
 const char *p4_pd_orbisk_switch_l2LookupUnknownMcastAction_schema(void);
 const char *p4_pd_orbisk_switch_l2LookupUnknownUcastAction_schema(void);
 const char *p4_pd_orbisk_switch_nop_schema(void);
+void p4_pd_orbisk_switch_haloSetBestResultRow1_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloSetBestResultRow1_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_haloSetBestResultRow1_schema(void);
 void unbuild_action_spec_haloSetBestResultRow1(const pd_action_record *act,
     p4_pd_orbisk_switch_haloSetBestResultRow1_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_haloKeyMaskedRow1Stage3_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage3_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_haloKeyMaskedRow1Stage3_schema(void);
 void unbuild_action_spec_haloKeyMaskedRow1Stage3(const pd_action_record *act,
     p4_pd_orbisk_switch_haloKeyMaskedRow1Stage3_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setDropVarpVxlan_schema(void);
 const char *p4_pd_orbisk_switch_cancelVxlanDecap_schema(void);
+void p4_pd_orbisk_switch_setCosFromDefault_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setCosFromDefault_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setCosFromDefault_schema(void);
 void unbuild_action_spec_setCosFromDefault(const pd_action_record *act,
     p4_pd_orbisk_switch_setCosFromDefault_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setCosFromPacket_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setCosFromPacket_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setCosFromPacket_schema(void);
 void unbuild_action_spec_setCosFromPacket(const pd_action_record *act,
     p4_pd_orbisk_switch_setCosFromPacket_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setCosFromPacketWithInner_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setCosFromPacketWithInner_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setCosFromPacketWithInner_schema(void);
 void unbuild_action_spec_setCosFromPacketWithInner(const pd_action_record *act,
     p4_pd_orbisk_switch_setCosFromPacketWithInner_action_spec_t *action_spec);
@@ -21680,27 +22968,48 @@ const char *p4_pd_orbisk_switch_hashComputeOuterIpv4HdrAction_schema(void);
 const char *p4_pd_orbisk_switch_hashComputeOuterIpv6HdrAction_schema(void);
 const char *p4_pd_orbisk_switch_hashComputeInnerEthHdrAction_schema(void);
 const char *p4_pd_orbisk_switch_dropDatalink_schema(void);
+void p4_pd_orbisk_switch_setIngressMirrorSession_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setIngressMirrorSession_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIngressMirrorSession_schema(void);
 void unbuild_action_spec_setIngressMirrorSession(const pd_action_record *act,
     p4_pd_orbisk_switch_setIngressMirrorSession_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_noDecapNoEncapRouteIpv4_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_noDecapNoEncapRouteIpv4_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_noDecapNoEncapRouteIpv4_schema(void);
 void unbuild_action_spec_noDecapNoEncapRouteIpv4(const pd_action_record *act,
     p4_pd_orbisk_switch_noDecapNoEncapRouteIpv4_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_noDecapNoEncapRouteIpv6_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_noDecapNoEncapRouteIpv6_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_noDecapNoEncapRouteIpv6_schema(void);
 void unbuild_action_spec_noDecapNoEncapRouteIpv6(const pd_action_record *act,
     p4_pd_orbisk_switch_noDecapNoEncapRouteIpv6_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_noDecapNoEncapBridge_schema(void);
 const char *p4_pd_orbisk_switch_decapPPIPktFromCpu_schema(void);
+void p4_pd_orbisk_switch_encapVxlanRouteIpv4_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_encapVxlanRouteIpv4_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_encapVxlanRouteIpv4_schema(void);
 void unbuild_action_spec_encapVxlanRouteIpv4(const pd_action_record *act,
     p4_pd_orbisk_switch_encapVxlanRouteIpv4_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_encapVxlanRouteIpv6_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_encapVxlanRouteIpv6_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_encapVxlanRouteIpv6_schema(void);
 void unbuild_action_spec_encapVxlanRouteIpv6(const pd_action_record *act,
     p4_pd_orbisk_switch_encapVxlanRouteIpv6_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_noDecapEncapVxlanL2_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_noDecapEncapVxlanL2_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_noDecapEncapVxlanL2_schema(void);
 void unbuild_action_spec_noDecapEncapVxlanL2(const pd_action_record *act,
     p4_pd_orbisk_switch_noDecapEncapVxlanL2_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_normalizeEthHdr_schema(void);
+void p4_pd_orbisk_switch_setEgressMirrorColor_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEgressMirrorColor_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEgressMirrorColor_schema(void);
 void unbuild_action_spec_setEgressMirrorColor(const pd_action_record *act,
     const pd_resource_index *resources,
@@ -21712,34 +23021,61 @@ const char *p4_pd_orbisk_switch_generateVtepLearningDigest_schema(void);
 const char *p4_pd_orbisk_switch_dot1xTrap_schema(void);
 const char *p4_pd_orbisk_switch_dot1xDrop_schema(void);
 const char *p4_pd_orbisk_switch_resetApplicationId_schema(void);
+void p4_pd_orbisk_switch_haloKeyMaskedRow1Stage4_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage4_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_haloKeyMaskedRow1Stage4_schema(void);
 void unbuild_action_spec_haloKeyMaskedRow1Stage4(const pd_action_record *act,
     p4_pd_orbisk_switch_haloKeyMaskedRow1Stage4_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_hashComputeIpAndL4HdrAction_schema(void);
+void p4_pd_orbisk_switch_setTrafficClassAndEgressQid_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTrafficClassAndEgressQid_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTrafficClassAndEgressQid_schema(void);
 void unbuild_action_spec_setTrafficClassAndEgressQid(const pd_action_record *act,
     p4_pd_orbisk_switch_setTrafficClassAndEgressQid_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setL2McResult_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setL2McResult_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setL2McResult_schema(void);
 void unbuild_action_spec_setL2McResult(const pd_action_record *act,
     p4_pd_orbisk_switch_setL2McResult_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_copyHashFromCpuHdr_schema(void);
+void p4_pd_orbisk_switch_setEgrVlan_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEgrVlan_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEgrVlan_schema(void);
 void unbuild_action_spec_setEgrVlan(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrVlan_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setEgrVlanSubIntf_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEgrVlanSubIntf_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEgrVlanSubIntf_schema(void);
 void unbuild_action_spec_setEgrVlanSubIntf(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrVlanSubIntf_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_noXlate_schema(void);
+void p4_pd_orbisk_switch_setEncapSmac_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEncapSmac_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEncapSmac_schema(void);
 void unbuild_action_spec_setEncapSmac(const pd_action_record *act,
     p4_pd_orbisk_switch_setEncapSmac_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_encapPktToCpu_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_encapPktToCpu_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_encapPktToCpu_schema(void);
 void unbuild_action_spec_encapPktToCpu(const pd_action_record *act,
     p4_pd_orbisk_switch_encapPktToCpu_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_encapPktToDpdk_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_encapPktToDpdk_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_encapPktToDpdk_schema(void);
 void unbuild_action_spec_encapPktToDpdk(const pd_action_record *act,
     p4_pd_orbisk_switch_encapPktToDpdk_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_egressSamePortBridgingTestDrop_schema(void);
+void p4_pd_orbisk_switch_setOvoIntfDetails_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setOvoIntfDetails_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setOvoIntfDetails_schema(void);
 void unbuild_action_spec_setOvoIntfDetails(const pd_action_record *act,
     p4_pd_orbisk_switch_setOvoIntfDetails_action_spec_t *action_spec);
@@ -21762,25 +23098,46 @@ const char *p4_pd_orbisk_switch_setHashValuesEcmpOuterL4Hdr_schema(void);
 const char *p4_pd_orbisk_switch_setHashValuesEcmpInnerIpHdr_schema(void);
 const char *p4_pd_orbisk_switch_setHashValuesEcmpInnerL4Hdr_schema(void);
 const char *p4_pd_orbisk_switch_setHashValuesEcmpInnerEthHdr_schema(void);
+void p4_pd_orbisk_switch_haloKeyMaskedRow1Stage5_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage5_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_haloKeyMaskedRow1Stage5_schema(void);
 void unbuild_action_spec_haloKeyMaskedRow1Stage5(const pd_action_record *act,
     p4_pd_orbisk_switch_haloKeyMaskedRow1Stage5_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setIpv4GroupVlanIndex_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setIpv4GroupVlanIndex_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIpv4GroupVlanIndex_schema(void);
 void unbuild_action_spec_setIpv4GroupVlanIndex(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpv4GroupVlanIndex_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_trapPacket_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_trapPacket_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_trapPacket_schema(void);
 void unbuild_action_spec_trapPacket(const pd_action_record *act,
     p4_pd_orbisk_switch_trapPacket_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_copyPacket_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_copyPacket_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_copyPacket_schema(void);
 void unbuild_action_spec_copyPacket(const pd_action_record *act,
     p4_pd_orbisk_switch_copyPacket_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setLlm_schema(void);
+void p4_pd_orbisk_switch_copyCosRewriteDscp_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_copyCosRewriteDscp_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_copyCosRewriteDscp_schema(void);
 void unbuild_action_spec_copyCosRewriteDscp(const pd_action_record *act,
     p4_pd_orbisk_switch_copyCosRewriteDscp_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_rewriteCosCopyDscp_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_rewriteCosCopyDscp_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_rewriteCosCopyDscp_schema(void);
 void unbuild_action_spec_rewriteCosCopyDscp(const pd_action_record *act,
     p4_pd_orbisk_switch_rewriteCosCopyDscp_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_rewriteCosRewriteDscp_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_rewriteCosRewriteDscp_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_rewriteCosRewriteDscp_schema(void);
 void unbuild_action_spec_rewriteCosRewriteDscp(const pd_action_record *act,
     p4_pd_orbisk_switch_rewriteCosRewriteDscp_action_spec_t *action_spec);
@@ -21792,15 +23149,27 @@ const char *p4_pd_orbisk_switch_removeOuterIpv6Hdr_schema(void);
 const char *p4_pd_orbisk_switch_saveOuterIpv4Ecn_schema(void);
 const char *p4_pd_orbisk_switch_saveOuterIpv6Ecn_schema(void);
 const char *p4_pd_orbisk_switch_decapIngressVxlan_schema(void);
+void p4_pd_orbisk_switch_setEgrPortVlan_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEgrPortVlan_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEgrPortVlan_schema(void);
 void unbuild_action_spec_setEgrPortVlan(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrPortVlan_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setEgrPortVlanKernel_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEgrPortVlanKernel_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEgrPortVlanKernel_schema(void);
 void unbuild_action_spec_setEgrPortVlanKernel(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrPortVlanKernel_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setEgrPortL2Domain_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEgrPortL2Domain_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEgrPortL2Domain_schema(void);
 void unbuild_action_spec_setEgrPortL2Domain(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrPortL2Domain_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setEgrPortL2DomainKernel_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEgrPortL2DomainKernel_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEgrPortL2DomainKernel_schema(void);
 void unbuild_action_spec_setEgrPortL2DomainKernel(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrPortL2DomainKernel_action_spec_t *action_spec);
@@ -21808,15 +23177,27 @@ const char *p4_pd_orbisk_switch_setDefaultEgrPortVlan_schema(void);
 const char *p4_pd_orbisk_switch_setNatCpuHeaderSnat_schema(void);
 const char *p4_pd_orbisk_switch_setNatCpuHeaderDnat_schema(void);
 const char *p4_pd_orbisk_switch_setNatCpuHeaderTwice_schema(void);
+void p4_pd_orbisk_switch_setFoldedPipeQid_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setFoldedPipeQid_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setFoldedPipeQid_schema(void);
 void unbuild_action_spec_setFoldedPipeQid(const pd_action_record *act,
     p4_pd_orbisk_switch_setFoldedPipeQid_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setLagMemberSelector_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setLagMemberSelector_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setLagMemberSelector_schema(void);
 void unbuild_action_spec_setLagMemberSelector(const pd_action_record *act,
     p4_pd_orbisk_switch_setLagMemberSelector_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_haloKeyMaskedRow1Stage6_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage6_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_haloKeyMaskedRow1Stage6_schema(void);
 void unbuild_action_spec_haloKeyMaskedRow1Stage6(const pd_action_record *act,
     p4_pd_orbisk_switch_haloKeyMaskedRow1Stage6_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setIpmcResult_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setIpmcResult_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIpmcResult_schema(void);
 void unbuild_action_spec_setIpmcResult(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpmcResult_action_spec_t *action_spec);
@@ -21827,25 +23208,46 @@ const char *p4_pd_orbisk_switch_egressMirrorAction_schema(void);
 const char *p4_pd_orbisk_switch_noVlanEncap_schema(void);
 const char *p4_pd_orbisk_switch_needVlanEncap_schema(void);
 const char *p4_pd_orbisk_switch_discardHaloResult_schema(void);
+void p4_pd_orbisk_switch_finalizeMcResultIpmc_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_finalizeMcResultIpmc_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_finalizeMcResultIpmc_schema(void);
 void unbuild_action_spec_finalizeMcResultIpmc(const pd_action_record *act,
     p4_pd_orbisk_switch_finalizeMcResultIpmc_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_finalizeMcResultL2mc_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_finalizeMcResultL2mc_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_finalizeMcResultL2mc_schema(void);
 void unbuild_action_spec_finalizeMcResultL2mc(const pd_action_record *act,
     p4_pd_orbisk_switch_finalizeMcResultL2mc_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_finalizeMcResultL2mcFlood_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_finalizeMcResultL2mcFlood_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_finalizeMcResultL2mcFlood_schema(void);
 void unbuild_action_spec_finalizeMcResultL2mcFlood(const pd_action_record *act,
     p4_pd_orbisk_switch_finalizeMcResultL2mcFlood_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_finalizeMcResultCancel_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_finalizeMcResultCancel_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_finalizeMcResultCancel_schema(void);
 void unbuild_action_spec_finalizeMcResultCancel(const pd_action_record *act,
     p4_pd_orbisk_switch_finalizeMcResultCancel_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_finalizeMcResultFlood_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_finalizeMcResultFlood_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_finalizeMcResultFlood_schema(void);
 void unbuild_action_spec_finalizeMcResultFlood(const pd_action_record *act,
     p4_pd_orbisk_switch_finalizeMcResultFlood_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_finalizeMcResultL3Rpf_schema(void);
+void p4_pd_orbisk_switch_setFoldedPipePort_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setFoldedPipePort_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setFoldedPipePort_schema(void);
 void unbuild_action_spec_setFoldedPipePort(const pd_action_record *act,
     p4_pd_orbisk_switch_setFoldedPipePort_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setIngressMirrorColor_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setIngressMirrorColor_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIngressMirrorColor_schema(void);
 void unbuild_action_spec_setIngressMirrorColor(const pd_action_record *act,
     const pd_resource_index *resources,
@@ -21853,22 +23255,37 @@ void unbuild_action_spec_setIngressMirrorColor(const pd_action_record *act,
     p4_pd_orbisk_switch_setIngressMirrorColor_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIngressMirrorColorRed_schema(void);
 const char *p4_pd_orbisk_switch_accept_schema(void);
+void p4_pd_orbisk_switch_acceptLog_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_acceptLog_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_acceptLog_schema(void);
 void unbuild_action_spec_acceptLog(const pd_action_record *act,
     p4_pd_orbisk_switch_acceptLog_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_dropCount_schema(void);
+void p4_pd_orbisk_switch_dropCountAndLog_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_dropCountAndLog_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_dropCountAndLog_schema(void);
 void unbuild_action_spec_dropCountAndLog(const pd_action_record *act,
     p4_pd_orbisk_switch_dropCountAndLog_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_finalDrop_schema(void);
+void p4_pd_orbisk_switch_ingressMirrorAction_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ingressMirrorAction_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_ingressMirrorAction_schema(void);
 void unbuild_action_spec_ingressMirrorAction(const pd_action_record *act,
     p4_pd_orbisk_switch_ingressMirrorAction_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_updateFoldedPipeCount_schema(void);
+void p4_pd_orbisk_switch_setMinMtuId_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setMinMtuId_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setMinMtuId_schema(void);
 void unbuild_action_spec_setMinMtuId(const pd_action_record *act,
     p4_pd_orbisk_switch_setMinMtuId_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIngMtuFailed_schema(void);
+void p4_pd_orbisk_switch_setSnatAclId_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setSnatAclId_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setSnatAclId_schema(void);
 void unbuild_action_spec_setSnatAclId(const pd_action_record *act,
     p4_pd_orbisk_switch_setSnatAclId_action_spec_t *action_spec);
@@ -21876,62 +23293,116 @@ const char *p4_pd_orbisk_switch_resetSnatAclId_schema(void);
 const char *p4_pd_orbisk_switch_setTcpFlagsCpuReasonCode_schema(void);
 const char *p4_pd_orbisk_switch_setCpuReasonCodeDefault_schema(void);
 const char *p4_pd_orbisk_switch_setNatTcpFlags_schema(void);
+void p4_pd_orbisk_switch_setL2XId_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setL2XId_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setL2XId_schema(void);
 void unbuild_action_spec_setL2XId(const pd_action_record *act,
     p4_pd_orbisk_switch_setL2XId_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setIpv4PrtResultXFirst_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setIpv4PrtResultXFirst_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIpv4PrtResultXFirst_schema(void);
 void unbuild_action_spec_setIpv4PrtResultXFirst(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpv4PrtResultXFirst_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setSwitchToCpu_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setSwitchToCpu_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setSwitchToCpu_schema(void);
 void unbuild_action_spec_setSwitchToCpu(const pd_action_record *act,
     p4_pd_orbisk_switch_setSwitchToCpu_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setDefaultVrf_schema(void);
+void p4_pd_orbisk_switch_setNextHop0First_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setNextHop0First_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNextHop0First_schema(void);
 void unbuild_action_spec_setNextHop0First(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHop0First_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setNextHop2First_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setNextHop2First_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNextHop2First_schema(void);
 void unbuild_action_spec_setNextHop2First(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHop2First_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setNextHop3First_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setNextHop3First_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNextHop3First_schema(void);
 void unbuild_action_spec_setNextHop3First(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHop3First_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setNextHop1First_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setNextHop1First_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNextHop1First_schema(void);
 void unbuild_action_spec_setNextHop1First(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHop1First_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_ipv4ShortMaskLpmMiss_schema(void);
+void p4_pd_orbisk_switch_setEcmpNextHop_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEcmpNextHop_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEcmpNextHop_schema(void);
 void unbuild_action_spec_setEcmpNextHop(const pd_action_record *act,
     p4_pd_orbisk_switch_setEcmpNextHop_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setNextHopToCpu_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setNextHopToCpu_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNextHopToCpu_schema(void);
 void unbuild_action_spec_setNextHopToCpu(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHopToCpu_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setNextHopDetails_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setNextHopDetails_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNextHopDetails_schema(void);
 void unbuild_action_spec_setNextHopDetails(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHopDetails_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setRouterNextHopDetails_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setRouterNextHopDetails_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setRouterNextHopDetails_schema(void);
 void unbuild_action_spec_setRouterNextHopDetails(const pd_action_record *act,
     p4_pd_orbisk_switch_setRouterNextHopDetails_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_eifParamEgressing_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_eifParamEgressing_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_eifParamEgressing_schema(void);
 void unbuild_action_spec_eifParamEgressing(const pd_action_record *act,
     p4_pd_orbisk_switch_eifParamEgressing_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setEgrNatProfile_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEgrNatProfile_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEgrNatProfile_schema(void);
 void unbuild_action_spec_setEgrNatProfile(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrNatProfile_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setDip_schema(void);
 const char *p4_pd_orbisk_switch_clearDip_schema(void);
 const char *p4_pd_orbisk_switch_eifParamIngressing_schema(void);
+void p4_pd_orbisk_switch_setTranslatedSip_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTranslatedSip_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedSip_schema(void);
 void unbuild_action_spec_setTranslatedSip(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedSip_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setTranslatedSipPortDynamic_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTranslatedSipPortDynamic_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedSipPortDynamic_schema(void);
 void unbuild_action_spec_setTranslatedSipPortDynamic(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedSipPortDynamic_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setTranslatedSipAndCount_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTranslatedSipAndCount_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedSipAndCount_schema(void);
 void unbuild_action_spec_setTranslatedSipAndCount(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedSipAndCount_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setTranslatedSipPortAndCount_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTranslatedSipPortAndCount_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedSipPortAndCount_schema(void);
 void unbuild_action_spec_setTranslatedSipPortAndCount(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedSipPortAndCount_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setEifMatched_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEifMatched_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEifMatched_schema(void);
 void unbuild_action_spec_setEifMatched(const pd_action_record *act,
     p4_pd_orbisk_switch_setEifMatched_action_spec_t *action_spec);
@@ -21939,30 +23410,54 @@ const char *p4_pd_orbisk_switch_setEifTrap_schema(void);
 const char *p4_pd_orbisk_switch_setEifTrapReverse_schema(void);
 const char *p4_pd_orbisk_switch_setEifDrop_schema(void);
 const char *p4_pd_orbisk_switch_updateEifAclCount_schema(void);
+void p4_pd_orbisk_switch_setNatCpuTrap_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setNatCpuTrap_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNatCpuTrap_schema(void);
 void unbuild_action_spec_setNatCpuTrap(const pd_action_record *act,
     p4_pd_orbisk_switch_setNatCpuTrap_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setNatCpuTrapReverse_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setNatCpuTrapReverse_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNatCpuTrapReverse_schema(void);
 void unbuild_action_spec_setNatCpuTrapReverse(const pd_action_record *act,
     p4_pd_orbisk_switch_setNatCpuTrapReverse_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_forwardToPeer_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_forwardToPeer_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_forwardToPeer_schema(void);
 void unbuild_action_spec_forwardToPeer(const pd_action_record *act,
     p4_pd_orbisk_switch_forwardToPeer_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setEifForwardToPeer_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEifForwardToPeer_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEifForwardToPeer_schema(void);
 void unbuild_action_spec_setEifForwardToPeer(const pd_action_record *act,
     p4_pd_orbisk_switch_setEifForwardToPeer_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_updateEifForwardToPeerAclCount_schema(void);
+void p4_pd_orbisk_switch_mtuCheckFailed_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_mtuCheckFailed_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_mtuCheckFailed_schema(void);
 void unbuild_action_spec_mtuCheckFailed(const pd_action_record *act,
     p4_pd_orbisk_switch_mtuCheckFailed_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_mtuCheckPassed_schema(void);
 const char *p4_pd_orbisk_switch_countDynamicNat_schema(void);
+void p4_pd_orbisk_switch_setTunnelEgressInfo_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTunnelEgressInfo_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTunnelEgressInfo_schema(void);
 void unbuild_action_spec_setTunnelEgressInfo(const pd_action_record *act,
     p4_pd_orbisk_switch_setTunnelEgressInfo_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setPdpClass_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setPdpClass_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setPdpClass_schema(void);
 void unbuild_action_spec_setPdpClass(const pd_action_record *act,
     p4_pd_orbisk_switch_setPdpClass_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_meterPdpClass_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_meterPdpClass_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_meterPdpClass_schema(void);
 void unbuild_action_spec_meterPdpClass(const pd_action_record *act,
     p4_pd_orbisk_switch_meterPdpClass_action_spec_t *action_spec);
@@ -21970,24 +23465,45 @@ const char *p4_pd_orbisk_switch_updateV4_schema(void);
 const char *p4_pd_orbisk_switch_updateV4AndPort_schema(void);
 const char *p4_pd_orbisk_switch_updateV4AndUdp_schema(void);
 const char *p4_pd_orbisk_switch_updateV4AndTcp_schema(void);
+void p4_pd_orbisk_switch_trapPktToCpuUntagged_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_trapPktToCpuUntagged_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_trapPktToCpuUntagged_schema(void);
 void unbuild_action_spec_trapPktToCpuUntagged(const pd_action_record *act,
     p4_pd_orbisk_switch_trapPktToCpuUntagged_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_copyPktToCpuUntagged_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_copyPktToCpuUntagged_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_copyPktToCpuUntagged_schema(void);
 void unbuild_action_spec_copyPktToCpuUntagged(const pd_action_record *act,
     p4_pd_orbisk_switch_copyPktToCpuUntagged_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_trapPktToCpuTagged_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_trapPktToCpuTagged_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_trapPktToCpuTagged_schema(void);
 void unbuild_action_spec_trapPktToCpuTagged(const pd_action_record *act,
     p4_pd_orbisk_switch_trapPktToCpuTagged_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_copyPktToCpuTagged_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_copyPktToCpuTagged_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_copyPktToCpuTagged_schema(void);
 void unbuild_action_spec_copyPktToCpuTagged(const pd_action_record *act,
     p4_pd_orbisk_switch_copyPktToCpuTagged_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_trapPktToCpuSubintf_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_trapPktToCpuSubintf_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_trapPktToCpuSubintf_schema(void);
 void unbuild_action_spec_trapPktToCpuSubintf(const pd_action_record *act,
     p4_pd_orbisk_switch_trapPktToCpuSubintf_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_copyPktToCpuSubintf_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_copyPktToCpuSubintf_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_copyPktToCpuSubintf_schema(void);
 void unbuild_action_spec_copyPktToCpuSubintf(const pd_action_record *act,
     p4_pd_orbisk_switch_copyPktToCpuSubintf_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setLagPort_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setLagPort_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setLagPort_schema(void);
 void unbuild_action_spec_setLagPort(const pd_action_record *act,
     p4_pd_orbisk_switch_setLagPort_action_spec_t *action_spec);
@@ -21996,6 +23512,9 @@ const char *p4_pd_orbisk_switch_setTunnelInfo_schema(void);
 const char *p4_pd_orbisk_switch_invalidateUcastEgressPort_schema(void);
 const char *p4_pd_orbisk_switch_fixL2SubintfAlignment_schema(void);
 const char *p4_pd_orbisk_switch_add_header_for_EA_schema(void);
+void p4_pd_orbisk_switch_setPdpClassCount_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setPdpClassCount_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setPdpClassCount_schema(void);
 void unbuild_action_spec_setPdpClassCount(const pd_action_record *act,
     const pd_resource_index *resources,
@@ -22004,12 +23523,21 @@ void unbuild_action_spec_setPdpClassCount(const pd_action_record *act,
 const char *p4_pd_orbisk_switch_removeVlanHdr_schema(void);
 const char *p4_pd_orbisk_switch_acceptIB_schema(void);
 const char *p4_pd_orbisk_switch_finalDropIB_schema(void);
+void p4_pd_orbisk_switch_setPruneParams_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setPruneParams_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setPruneParams_schema(void);
 void unbuild_action_spec_setPruneParams(const pd_action_record *act,
     p4_pd_orbisk_switch_setPruneParams_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setPruneParamsForL2Flood_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setPruneParamsForL2Flood_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setPruneParamsForL2Flood_schema(void);
 void unbuild_action_spec_setPruneParamsForL2Flood(const pd_action_record *act,
     p4_pd_orbisk_switch_setPruneParamsForL2Flood_action_spec_t *action_spec);
+void p4_pd_orbisk_switch_setPruneParamsForL3Only_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setPruneParamsForL3Only_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setPruneParamsForL3Only_schema(void);
 void unbuild_action_spec_setPruneParamsForL3Only(const pd_action_record *act,
     p4_pd_orbisk_switch_setPruneParamsForL3Only_action_spec_t *action_spec);
