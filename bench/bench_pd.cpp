@@ -407,6 +407,24 @@ pd_status case_setNextHop_schema(uint32_t) {
   return text[0] == '(' ? BF_SUCCESS : 1;
 }
 
+// The walk by handle against the per-table call it stands for: a range test,
+// one load and the same driver call.
+pd_status case_entry_hdl_first_by_handle(uint32_t i) {
+  pd_tbl_hdl hdl = 0x01000057u;  // finalDropControl
+  benchmark::DoNotOptimize(hdl);
+  pd_entry_hdl e = i;
+  pd_status st = p4_pd_orbisk_switch_entry_hdl_first(3, {0, PD_DEV_PIPE_ALL}, hdl, &e);
+  benchmark::DoNotOptimize(e);
+  return st;
+}
+
+pd_status case_entry_hdl_first_per_table(uint32_t i) {
+  pd_entry_hdl e = i;
+  pd_status st = p4_pd_orbisk_switch_finalDropControl_get_first_entry_handle(3, {0, PD_DEV_PIPE_ALL}, &e);
+  benchmark::DoNotOptimize(e);
+  return st;
+}
+
 // The floor under every add: the same input handling and one driver call
 // with records built once, outside the loop.
 pd_status case_driver_call_only(uint32_t i) {
@@ -621,6 +639,8 @@ constexpr Case kCases[] = {
     make_case<case_setNextHop_schema>("setNextHop_schema", "text"),
     make_case<case_finalDropControl_value>("finalDropControl_value", "text"),
     make_case<case_l2Lookup_plcmt_data_eq_to_hw>("l2Lookup_plcmt_data_eq_to_hw", "text"),
+    make_case<case_entry_hdl_first_by_handle>("entry_hdl_first_by_handle", "text"),
+    make_case<case_entry_hdl_first_per_table>("entry_hdl_first_per_table", "text"),
     make_case<case_counter_read>("counter_read_l2DmacClassifyCount", "resource"),
     make_case<case_counter_read_reference>("counter_read_l2DmacClassifyCount_reference", "resource"),
     make_case<case_meter_set>("meter_set_stormControlMeter", "resource"),

@@ -26,7 +26,8 @@ PAIRS = [("l2Lookup_add", "l2Lookup_add_reference"),
          ("ecmpGroup_add_sel", "ecmpGroup_add_sel_reference"),
          ("ecmp_add_to_group", "ecmp_add_to_group_reference"),
          ("counter_read_l2DmacClassifyCount", "counter_read_l2DmacClassifyCount_reference"),
-         ("meter_set_stormControlMeter", "meter_set_stormControlMeter_reference")]
+         ("meter_set_stormControlMeter", "meter_set_stormControlMeter_reference"),
+         ("entry_hdl_first_by_handle", "entry_hdl_first_per_table")]
 FLOOR = "driver_call_only"
 # Kinds of case that must not allocate: write paths, schema and value text,
 # comparison with hardware, counter and meter calls.

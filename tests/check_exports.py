@@ -73,6 +73,13 @@ def main(lib, root):
             add(s, "%s%s_%s" % (P, n, s))
         add("plcmt_data", "%s%s_get_plcmt_data" % (P, n))
         add("plcmt_decode", "%s%s_get_entry_from_plcmt_data" % (P, n))
+        # Printers and counter labels.
+        if keyed:
+            add("match_spec_print", "%s%s_match_spec_print" % (P, n))
+        add("plcmt_data_print", "%s%s_plcmt_data_print" % (P, n))
+        if "counter_labels" in t.get("flags", []):
+            add("counter_label", "%s%s_match_spec_stringify_for_counter" % (P, n))
+            add("counter_label_entry", "%s%s_stringify_counter_match_spec" % (P, n))
     params = {}
     for t in tables:
         for a in t.get("actions", []):
@@ -84,8 +91,11 @@ def main(lib, root):
         if ps:
             add("unbuild_action_spec", "unbuild_action_spec_" + a)
         add("action_schema", "%s%s_schema" % (P, a))
+        if ps:
+            add("action_print", "%s%s_print" % (P, a))
     for p in program["profiles"]:
         add("profile_schema", "%s%s_schema" % (P, p["name"]))
+        add("adt_plcmt_data_print", "%s%s_adt_plcmt_data_print" % (P, p["name"]))
     add("cli_schema", P + "cli_schema")
     # Value text and comparison.
     for t in tables:
@@ -103,6 +113,14 @@ def main(lib, root):
         add("profile_plcmt_data_value", "%s%s_plcmt_data_value" % (P, p["name"]))
     for s in ("entry_value", "plcmt_data_value", "adt_plcmt_data_value", "plcmt_data_eq_to_hw"):
         add("value_dispatch", P + s)
+    for form in ("v4addr_exact", "v4addr_lpm", "v4addr_ternary", "v6addr_exact", "v6addr_lpm",
+                 "v6addr_ternary", "mac_exact", "mac_ternary"):
+        add("address_print", P + "_print_" + form)
+    # Dispatchers by handle.
+    for s in ("entry_hdl_first", "entry_hdl_next", "entry_hdl_default", "member_hdl_first",
+              "member_hdl_next", "stringify_counter_matchspec", "plcmt_data_print",
+              "adt_plcmt_data_print"):
+        add("dispatch", P + s)
     for p in program["profiles"]:
         for a in p["actions"]:
             add("add_member", "%s%s_add_member_with_%s" % (P, p["name"], a["name"]))
@@ -187,6 +205,9 @@ def main(lib, root):
              "match_specs_are_equal": 136, "action_specs_are_equal": 150, "value_dispatch": 4,
              "plcmt_data_value": 154, "profile_plcmt_data_value": 6, "plcmt_data_eq_to_hw": 154,
              "hash_calc": 120, "pvs": 70, "digest": 9, "snapshot": 4,
+             "match_spec_print": 136, "action_print": 150, "address_print": 8,
+             "counter_label": 15, "counter_label_entry": 15, "dispatch": 8,
+             "plcmt_data_print": 154, "adt_plcmt_data_print": 6,
              "plcmt_data": 154, "plcmt_decode": 154, "profile_plcmt": 24}
     failed = False
     for k, v in known.items():

@@ -3,6 +3,9 @@
 // line, or the end of the process in debug mode), and a driver that refuses
 // to decode. The round trip of every table and profile is in the sweep of
 // roundtrip_test.cpp.
+#include <dlfcn.h>
+
+#include <utility>
 #include <vector>
 
 #include "test_support.h"
@@ -10,6 +13,27 @@
 namespace {
 
 using Room = std::vector<uint8_t>;
+
+// Set by a test: the model's next successful member decode is answered with
+// this status instead, its outputs filled, as a driver that fills and then
+// fails would.
+pd_status g_status_after_fill = 0;
+
+}  // namespace
+
+// Stands before the model's member decode (the library's reference binds to
+// the program's own definition first) and hands every call on to it.
+extern "C" __attribute__((visibility("default"))) pd_status pipe_mgr_plcmt_adt_data_get_entry(
+    const void *plcmt_data, pd_action_record *act, pd_act_fn_hdl *fn) {
+  using Decode = pd_status (*)(const void *, pd_action_record *, pd_act_fn_hdl *);
+  static const auto model =
+      reinterpret_cast<Decode>(dlsym(RTLD_NEXT, "pipe_mgr_plcmt_adt_data_get_entry"));
+  const pd_status s = model(plcmt_data, act, fn);
+  if (s != BF_SUCCESS || g_status_after_fill == 0) return s;
+  return std::exchange(g_status_after_fill, 0);
+}
+
+namespace {
 
 class Placement : public OnModel {
  protected:
@@ -65,6 +89,8 @@ TEST_F(Placement, AnActionNotTheProfilesIsAnswered15) {
   orbisk_model_clear_log();
   EXPECT_EQ(15u, p4_pd_orbisk_switch_ecmpMemberActionProfile_get_full_member_info_from_plcmt_data(
                      0, 1, r.data(), &out));
+  EXPECT_TRUE(logged_once("ASSERTION FAILED: \"((void *)0)\" (NULL) from "
+                          "p4_pd_orbisk_switch_ecmpMemberActionProfile_get_full_member_info_from_plcmt_data:"));
   EXPECT_EQ(0u, calls_of("p4_pd_ms_mbr_get_res")) << "no action, no resources asked for";
 }
 
@@ -87,6 +113,33 @@ TEST_F(Placement, ADriverRefusalReachesTheCallerWithNothingWritten) {
   const Room junk(ORBISK_MODEL_PLACEMENT_MAX_BYTES, 0x5A);
   EXPECT_EQ(ORBISK_MODEL_PLACEMENT_FOREIGN,
             p4_pd_orbisk_switch_l2Lookup_get_entry_from_plcmt_data(junk.data(), &ms, &out, &is_default));
+}
+
+TEST_F(Placement, AMemberDecodeAnswersTheDriversStatusAfterFillingTheAction) {
+  const Room m = foreign_member();  // a member of lagPortActionProfile
+  out.name = P4_PD_ORBISK_SWITCH_ACTION_COUNT;
+  g_status_after_fill = 0x66;
+  EXPECT_EQ(0x66u, p4_pd_orbisk_switch_lagPortActionProfile_get_member_from_plcmt_data(m.data(), &out));
+  EXPECT_EQ(table("lagGroup").profile->actions[0].action->enum_value, uint32_t(out.name));
+  EXPECT_EQ(0u, orbisk_model_log_count());
+}
+
+TEST_F(Placement, AFullMemberDecodeWithoutAStateDecodesTheSame) {
+  const Room m = foreign_member();
+  p4_pd_orbisk_switch_action_specs_t with{}, without{};
+  ASSERT_EQ(BF_SUCCESS, p4_pd_orbisk_switch_lagPortActionProfile_get_full_member_info_from_plcmt_data(
+                            0, 1, m.data(), &with));
+  EXPECT_EQ(1u, calls_of("p4_pd_ms_mbr_get_res"));
+  // Started again with no member-selection state for any profile.
+  p4_pd_orbisk_switch_cleanup();
+  orbisk_model_reset();
+  for (uint32_t nth = 1; nth <= orbisk::pd::kNumProfiles; ++nth)
+    ASSERT_EQ(BF_SUCCESS, orbisk_model_fail("p4_pd_ms_init_state", nth, 1));
+  p4_pd_orbisk_switch_init();
+  ASSERT_EQ(BF_SUCCESS, p4_pd_orbisk_switch_lagPortActionProfile_get_full_member_info_from_plcmt_data(
+                            0, 1, m.data(), &without));
+  EXPECT_EQ(0u, calls_of("p4_pd_ms_mbr_get_res"));
+  EXPECT_EQ(0, std::memcmp(&with, &without, sizeof with));
 }
 
 using PlacementDeathTest = Placement;

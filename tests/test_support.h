@@ -3,6 +3,7 @@
 #pragma once
 
 #include <dlfcn.h>
+#include <unistd.h>
 #include <gtest/gtest.h>
 
 #include <cstdint>
@@ -91,4 +92,18 @@ F exported(const std::string &name) {
   void *p = dlsym(RTLD_DEFAULT, ("p4_pd_orbisk_switch_" + name).c_str());
   EXPECT_NE(nullptr, p) << name;
   return reinterpret_cast<F>(p);
+}
+
+// What `print` (a call given a file descriptor) writes, read back from a pipe.
+template <typename Call>
+std::string captured(Call print) {
+  int fds[2];
+  if (pipe(fds) != 0) return "pipe failed";
+  print(fds[1]);
+  close(fds[1]);
+  std::string text;
+  char buf[4096];
+  for (ssize_t n; (n = read(fds[0], buf, sizeof buf)) > 0;) text.append(buf, std::size_t(n));
+  close(fds[0]);
+  return text;
 }

@@ -106,6 +106,44 @@ class Field:
         self.array = self.ctype is None
 
 
+class LabelItem:
+    """One item of a counting table's label: how one key field (a MAC
+    address: two) turns into words. Every text ends in a blank."""
+
+    KINDS = ("exact", "flag", "number", "named", "address")
+
+    def __init__(self, d, fields):
+        self.kind = next(k for k in self.KINDS if k in d)
+        index = [f.name for f in fields].index(d[self.kind])
+        self.index = index
+        self.field = fields[index]
+        f = self.field
+        self.text = d["word"] if self.kind == "flag" else d["label"]
+        assert self.kind != "flag" or (self.text.endswith(" ") and f.match == "ternary"), self.text
+        self.names = [(int(v, 16), n) for v, n in d.get("names", [])]
+        assert all(n.endswith(" ") for _, n in self.names)
+        mask = int(f.static_mask, 16) if f.static_mask else (1 << f.bits) - 1
+        # Number and named: the bits a name is looked up by, the mask that
+        # gives the short form, and whether the value written is the one
+        # looked up (else the field's value as it stands).
+        self.select = int(d.get("select", "0xffffffff"), 16)
+        self.full = int(d["full"], 16) if "full" in d else mask & 0xFFFFFFFF
+        self.value_selected = d.get("value") == "selected"
+        # A mask with no bit of `select`: the number forms, or nothing.
+        self.unselected_number = d.get("unselected", "number") == "number"
+        if self.kind in ("number", "named"):
+            assert f.match == "ternary" and not f.array, f.name
+        if self.kind == "address":
+            assert f.format in ("v4addr", "v6addr", "mac") and f.match == "ternary", f.name
+            if f.format == "mac":
+                # The OUI half names the item; the station half is the next field.
+                self.station = fields[index + 1]
+                assert self.station.format == "mac" and self.station.match == "ternary"
+        # Digits of a number: as many as the schema's mask of the field needs.
+        self.decimal = f.format == "dec"
+        self.digits = 0 if f.array else len(str(mask)) if self.decimal else len("%x" % mask)
+
+
 class Table:
     def __init__(self, d, area, area_file, program):
         self.name = d["name"]
@@ -129,6 +167,8 @@ class Table:
             self.fields.append(fld)
         self.key_bytes = off
         self.key_bits = sum(f.bits for f in self.fields)
+        self.labels = [LabelItem(x, self.fields) for x in d.get("labels", [])]
+        assert bool(self.labels) == self.counter_labels, "%s: counter_labels and labels go together" % self.name
         byname = {f.name: f for f in self.fields}
         order = d.get("host_order")
         self.host_fields = [byname[n] for n in order] if order else list(self.fields)

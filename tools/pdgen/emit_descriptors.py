@@ -46,37 +46,71 @@ def emit_limits(prog):
         "}  // namespace orbisk::pd", ""])
 
 
-def dense_index(desc, fn, array, rows):
-    """`fn`: the descriptor of `array` with a handle, or null, by a range test
-    and one load. Each pipeline's handles of one kind are a short run of low
-    numbers above a fixed base, so each base gets a dense table of indexes."""
+def dense_rows(rows):
+    """(base, slots) of each handle base: each pipeline's handles of one kind
+    are a short run of low numbers above a fixed base, so each base gets a
+    dense table of indexes, 0xFF where no handle is."""
     assert len(rows) < 0xFF
-    tag = array[1:]
-    bases = sorted({h & 0xFFFF0000 for h, _ in rows})
-    o = ["namespace {", "constexpr uint8_t kNo%s = 0xFF;" % tag]
-    for b in bases:
+    out = []
+    for b in sorted({h & 0xFFFF0000 for h, _ in rows}):
         hs = [(h & 0xFFFF, i) for h, i in rows if h & 0xFFFF0000 == b]
-        slots = ["kNo%s" % tag] * (max(h for h, _ in hs) + 1)
+        slots = [0xFF] * (max(h for h, _ in hs) + 1)
         for h, i in hs:
-            slots[h] = str(i)
-        o.append("const uint8_t k%sByHandle_%08x[%d] = {%s};" % (tag, b, len(slots), ", ".join(slots)))
-    o += ["}  // namespace", "",
-          "const %s *%s(uint32_t handle) {" % (desc, fn),
-          "  uint8_t i = kNo%s;" % tag,
-          "  switch (handle & 0xFFFF0000u) {"]
-    for b in bases:
-        arr = "k%sByHandle_%08x" % (tag, b)
-        o += ["    case %s:" % hx(b),
-              "      if ((handle & 0xFFFFu) < sizeof %s) i = %s[handle & 0xFFFFu];" % (arr, arr),
-              "      break;"]
-    o += ["    default:", "      break;", "  }",
-          "  return i == kNo%s ? nullptr : &%s[i];" % (tag, array), "}", ""]
+            slots[h] = i
+        out.append((b, slots))
+    return out
+
+
+def handle_sets(prog):
+    """(tag, what it indexes, rows) of the two kinds of handle a function may
+    take as data: a match table's and an action profile's action data table's."""
+    return [("Table", "kTables", [(t.handle, i) for i, t in enumerate(prog.tables)]),
+            ("Profile", "kProfiles", [(p.adt, i) for i, p in enumerate(prog.profiles)])]
+
+
+def emit_handles(prog):
+    """pd_handles.h: the index of a handle's table or profile by a range test
+    and one load, inline, so that a function taking a handle as data forwards
+    to its target with no frame of its own."""
+    o = ["// Generated from the catalogue. Do not edit.", "#pragma once", "", "#include <cstdint>", "",
+         "#pragma GCC visibility push(hidden)", "", "namespace orbisk::pd {", "",
+         "// The slot of a handle that names nothing.",
+         "inline constexpr unsigned kNoSlot = 0xFF;", ""]
+    for tag, array, rows in handle_sets(prog):
+        dense = dense_rows(rows)
+        o += ["extern const uint8_t k%sByHandle_%08x[%d];" % (tag, b, len(s)) for b, s in dense]
+        o += ["", "// The index in %s of the one with this handle, or kNoSlot." % array,
+              "inline unsigned %s_slot(uint32_t handle) {" % tag.lower(),
+              "  const uint32_t low = handle & 0xFFFFu;",
+              "  switch (handle & 0xFFFF0000u) {"]
+        for b, s in dense:
+            o += ["    case 0x%08xu:" % b,
+                  "      return low < %d ? k%sByHandle_%08x[low] : kNoSlot;" % (len(s), tag, b)]
+        o += ["    default:", "      return kNoSlot;", "  }", "}", ""]
+    o += ["}  // namespace orbisk::pd", "", "#pragma GCC visibility pop", ""]
+    return "\n".join(o)
+
+
+def dense_index(prog):
+    """The dense tables of pd_handles.h, and find_table and find_profile over them."""
+    o = []
+    for tag, array, rows in handle_sets(prog):
+        for b, s in dense_rows(rows):
+            o.append("const uint8_t k%sByHandle_%08x[%d] = {%s};" % (
+                tag, b, len(s), ", ".join("kNoSlot" if i == 0xFF else str(i) for i in s)))
+    o += ["",
+          "const TableDesc *find_table(pd_tbl_hdl handle) {",
+          "  const unsigned i = table_slot(handle);",
+          "  return i == kNoSlot ? nullptr : &kTables[i];", "}", "",
+          "const ProfileDesc *find_profile(uint32_t adt_hdl) {",
+          "  const unsigned i = profile_slot(adt_hdl);",
+          "  return i == kNoSlot ? nullptr : &kProfiles[i];", "}", ""]
     return o
 
 
 def emit(prog):
     o = ["// Generated from the catalogue. Do not edit.",
-         '#include "descriptors.h"', "", '#include "orbisk_switch/pd.h"', "",
+         '#include "descriptors.h"', "", '#include "orbisk_switch/pd.h"', '#include "pd_handles.h"', "",
          "namespace orbisk::pd {", "namespace {", ""]
     # Parameters of every action with any.
     for a in prog.actions:
@@ -189,10 +223,7 @@ def emit(prog):
     o.append("const std::size_t kNumTables = %d;" % len(prog.tables))
     o.append("")
 
-    o += dense_index("TableDesc", "find_table", "kTables", [(t.handle, i) for i, t in enumerate(prog.tables)])
-    o += dense_index("ProfileDesc", "find_profile", "kProfiles",
-                     [(p.adt, i) for i, p in enumerate(prog.profiles)])
-    assert len(prog.tables) < 0xFF
+    o += dense_index(prog)
     o += services(prog.services)
     o.append("}  // namespace orbisk::pd")
     o.append("")

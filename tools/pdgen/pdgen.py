@@ -44,6 +44,7 @@ def generate(prog, header_only=False):
         return out
     out.append(("descriptors", "pd_descriptors.cpp", emit_descriptors.emit(prog)))
     out.append(("other", "pd_limits.h", emit_descriptors.emit_limits(prog)))
+    out.append(("other", "pd_handles.h", emit_descriptors.emit_handles(prog)))
     out.append(("map", "libob_bf_pd_nat_vxlan.map", emit_lib.emit_version_script(prog)))
     for name, text in sorted(emit_lib.emit(prog).items()):
         out.append(("lib" if name.endswith(".cpp") else "other", name, text))

@@ -116,6 +116,8 @@
  *      placement data, in room, out length): fetches an entry's placement
  *      data from the driver, with the table's own handle; *size is the room
  *      going in and the record's length coming out.
+ *  <t>_match_spec_print(file descriptor, indent, match spec): writes the key
+ *      record to fd, one line a key element after a header line.
  *  <t>_match_spec_value(match spec, out text): writes the key as value text,
  *      "( " each number "),", and a NUL; its length.
  *  <t>_get_entry_from_plcmt_data(placement data, [out match spec], [out
@@ -125,6 +127,9 @@
  *      selector, the member or group it names; flags untouched for neither).
  *      A keyless table says is-default for every record; 3 for an action not
  *      the table's.
+ *  <t>_plcmt_data_print(file descriptor, indent, placement data): decodes the
+ *      placement data and writes its key (none for a default entry) and
+ *      action to fd; 0, or the decoder's status after a line saying so.
  *  <t>_value(sess, device id, entry handle, read from hardware, out text):
  *      reads an entry and writes it as value text: ((key, action), (priority,
  *      True)); its length, or 0 and out untouched when the read fails.
@@ -134,10 +139,15 @@
  *  <t>_match_specs_are_equal(pd match spec, hw match spec, out message): 1
  *      when every key element agrees under the schema's mask; else 0 and
  *      "mspec <field> differs ..." for the first that does not.
+ *  <t>_match_spec_stringify_for_counter(match spec, out text): writes the
+ *      counting table's label of the key record and a NUL; its length.
  *  <t>_plcmt_data_eq_to_hw(sess, device id, table handle (ignored), entry
  *      handle, placement data, out message): 1 when the chip holds what the
  *      placement record says (priority aside); else 0 and the first
  *      difference. A record that cannot be decoded ends the process.
+ *  <t>_stringify_counter_match_spec(sess, device id, entry handle, out text):
+ *      reads the entry from hardware and writes its key's label; 0 if the
+ *      read fails.
  *  <r>_schema(out text): writes the profile's action tuples as schema text
  *      and a NUL; its length.
  *  <r>_add_member_with_<a>(sess, target, [action spec], out member handle):
@@ -226,12 +236,17 @@
  *      placement data, out action): the same, asking the member-selection
  *      state for the member's resources first (an action with parameters);
  *      what it answers is not used.
+ *  <r>_adt_plcmt_data_print(file descriptor, indent, placement data): decodes
+ *      a member's placement data and writes its action to fd; 0, or the
+ *      decoder's status after a line saying so.
  *  <r>_plcmt_data_value(placement data, out text): decodes a member's
  *      placement record and writes its action as value text; its length, or 0
  *      and out untouched when decoding fails.
  *  <a>_action_specs_are_equal(pd action spec, hw action spec, out message): 1
  *      when every parameter agrees in its width; else 0 and "aspec
  *      action_<parameter> differs ..." for the first that does not.
+ *  <a>_print(file descriptor, indent, action spec): writes the action's
+ *      parameters to fd, one line each.
  *  <a>_schema(): the action tuple: a constant NUL-terminated text.
  *  unbuild_action_spec_<a>(action record, [resources], [count], out action
  *      spec): an action record's data into an action spec.
@@ -1686,6 +1701,12 @@ int p4_pd_orbisk_switch_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
     const void *plcmt_data,
     uint32_t plcmt_data_size,
     char *error);
+/* The label of an entry of the counting table with this handle; 0 for any other. */
+int p4_pd_orbisk_switch_stringify_counter_matchspec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    char *out);
 /* Registers with the driver; call before anything else. */
 void p4_pd_orbisk_switch_init(void);
 /* Deregisters from the driver. */
@@ -1718,6 +1739,56 @@ void p4_pd_orbisk_switch_ha_restore_state_from_adt_sel(pd_sess_hdl sess_hdl,
 const char *p4_pd_orbisk_switch_action_enum_to_string(uint32_t action);
 /* Action of a full name; P4_PD_ORBISK_SWITCH_ACTION_COUNT for none. */
 p4_pd_orbisk_switch_action_names_t p4_pd_orbisk_switch_action_string_to_enum(const char *name);
+/* The placement print of the table with this handle; for any other, a line saying so and that write's result. */
+int p4_pd_orbisk_switch_plcmt_data_print(int fd,
+    int indent,
+    pd_tbl_hdl tbl_hdl,
+    const void *plcmt_data);
+/* The placement print of the profile with this action data table handle; for any other, a line saying so and that write's result. */
+int p4_pd_orbisk_switch_adt_plcmt_data_print(int fd,
+    int indent,
+    pd_tbl_hdl tbl_hdl,
+    const void *plcmt_data);
+/* "<label> a.b.c.d "; its length. */
+int p4_pd_orbisk_switch__print_v4addr_exact(char *out,
+    const char *label,
+    uint32_t addr);
+/* "<label> a.b.c.d/<prefix> "; its length. */
+int p4_pd_orbisk_switch__print_v4addr_lpm(char *out,
+    const char *label,
+    uint32_t addr,
+    uint16_t prefix_length);
+/* "<label> a.b.c.d/<leading ones of mask> "; 0 and nothing written for mask 0. */
+int p4_pd_orbisk_switch__print_v4addr_ternary(char *out,
+    const char *label,
+    uint32_t addr,
+    uint32_t mask);
+/* "<label> <address>", no blank after it; its length. */
+int p4_pd_orbisk_switch__print_v6addr_exact(char *out,
+    const char *label,
+    const uint8_t *addr);
+/* "<label> <address>/<prefix> "; its length. */
+int p4_pd_orbisk_switch__print_v6addr_lpm(char *out,
+    const char *label,
+    const uint8_t *addr,
+    uint16_t prefix_length);
+/* "<label> <address>/<mask> "; 0 and nothing written for an all-zero mask. */
+int p4_pd_orbisk_switch__print_v6addr_ternary(char *out,
+    const char *label,
+    const uint8_t *addr,
+    const uint8_t *mask);
+/* "<label> xxxx.xxxx.xxxx " of the two 24-bit halves; its length. */
+int p4_pd_orbisk_switch__print_mac_exact(char *out,
+    const char *label,
+    uint32_t oui,
+    uint32_t station);
+/* the exact form for an all-ones mask, "<label> <mac>/<mask> " for a partial one, 0 and nothing written for none. */
+int p4_pd_orbisk_switch__print_mac_ternary(char *out,
+    const char *label,
+    uint32_t oui,
+    uint32_t oui_mask,
+    uint32_t station,
+    uint32_t station_mask);
 /* Schema text of the table or profile with this handle; "()" and 2 for any other. */
 int p4_pd_orbisk_switch_cli_schema(pd_tbl_hdl tbl_hdl,
     char *out);
@@ -1736,6 +1807,35 @@ int p4_pd_orbisk_switch_plcmt_data_value(pd_tbl_hdl tbl_hdl,
 int p4_pd_orbisk_switch_adt_plcmt_data_value(pd_tbl_hdl tbl_hdl,
     const void *plcmt_data,
     char *out);
+/* The table's first entry handle; for a handle of no table 0xffffffff and status 0. */
+pd_status p4_pd_orbisk_switch_entry_hdl_first(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl *entry_hdl);
+/* Up to n entry handles after this one; for a handle of no table 0xffffffff and status 0. */
+pd_status p4_pd_orbisk_switch_entry_hdl_next(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    uint32_t n,
+    pd_entry_hdl *next_entry_hdls);
+/* The table's default entry handle; for a handle of no table 0xffffffff and status 0. */
+pd_status p4_pd_orbisk_switch_entry_hdl_default(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl *entry_hdl);
+/* The profile's first member; for a handle of no profile 0xffffffff and status 0xffffffff. */
+pd_status p4_pd_orbisk_switch_member_hdl_first(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_mbr_hdl *mbr_hdl);
+/* Up to n members after this one; for a handle of no profile 0xffffffff and status 0xffffffff. */
+pd_status p4_pd_orbisk_switch_member_hdl_next(pd_sess_hdl sess_hdl,
+    pd_dev_target dev_tgt,
+    pd_tbl_hdl tbl_hdl,
+    pd_mbr_hdl mbr_hdl,
+    uint32_t n,
+    pd_mbr_hdl *next_mbr_hdls);
 
 /* ================================================================== */
 /* Port, VLAN and interface tables */
@@ -1824,12 +1924,18 @@ pd_status p4_pd_orbisk_switch_ingressPortMapping_get_plcmt_data(pd_sess_hdl sess
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ingressPortMapping_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ingressPortMapping_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_ingressPortMapping_match_spec_value(const p4_pd_orbisk_switch_ingressPortMapping_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_ingressPortMapping_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ingressPortMapping_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ingressPortMapping_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_ingressPortMapping_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -1989,6 +2095,9 @@ pd_status p4_pd_orbisk_switch_l2DomainLookup_get_plcmt_data(pd_sess_hdl sess_hdl
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_l2DomainLookup_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l2DomainLookup_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_l2DomainLookup_match_spec_value(const p4_pd_orbisk_switch_l2DomainLookup_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_l2DomainLookup_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -1996,6 +2105,9 @@ pd_status p4_pd_orbisk_switch_l2DomainLookup_get_entry_from_plcmt_data(const voi
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_l2DomainLookup_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_l2DomainLookup_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -2111,12 +2223,18 @@ pd_status p4_pd_orbisk_switch_taggedXlatePktToL3_get_plcmt_data(pd_sess_hdl sess
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_taggedXlatePktToL3_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_taggedXlatePktToL3_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_taggedXlatePktToL3_match_spec_value(const p4_pd_orbisk_switch_taggedXlatePktToL3_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_taggedXlatePktToL3_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_taggedXlatePktToL3_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_taggedXlatePktToL3_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_taggedXlatePktToL3_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -2230,12 +2348,18 @@ pd_status p4_pd_orbisk_switch_taggedPktToL3_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_taggedPktToL3_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_taggedPktToL3_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_taggedPktToL3_match_spec_value(const p4_pd_orbisk_switch_taggedPktToL3_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_taggedPktToL3_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_taggedPktToL3_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_taggedPktToL3_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_taggedPktToL3_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -2349,12 +2473,18 @@ pd_status p4_pd_orbisk_switch_untaggedPktToL3_get_plcmt_data(pd_sess_hdl sess_hd
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_untaggedPktToL3_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_untaggedPktToL3_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_untaggedPktToL3_match_spec_value(const p4_pd_orbisk_switch_untaggedPktToL3_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_untaggedPktToL3_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_untaggedPktToL3_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_untaggedPktToL3_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_untaggedPktToL3_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -2429,6 +2559,9 @@ pd_status p4_pd_orbisk_switch_ingStpCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
 pd_status p4_pd_orbisk_switch_ingStpCheck_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ingStpCheck_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_ingStpCheck_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -2500,6 +2633,9 @@ pd_status p4_pd_orbisk_switch_ingVlanCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
 pd_status p4_pd_orbisk_switch_ingVlanCheck_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ingVlanCheck_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_ingVlanCheck_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -2601,12 +2737,18 @@ pd_status p4_pd_orbisk_switch_vlanProperties_get_plcmt_data(pd_sess_hdl sess_hdl
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_vlanProperties_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_vlanProperties_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_vlanProperties_match_spec_value(const p4_pd_orbisk_switch_vlanProperties_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_vlanProperties_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_vlanProperties_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_vlanProperties_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_vlanProperties_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -2741,6 +2883,9 @@ pd_status p4_pd_orbisk_switch_ingressPortDropCheck_get_plcmt_data(pd_sess_hdl se
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_value(const p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_ingressPortDropCheck_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -2748,6 +2893,9 @@ pd_status p4_pd_orbisk_switch_ingressPortDropCheck_get_entry_from_plcmt_data(con
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ingressPortDropCheck_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_ingressPortDropCheck_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -2758,12 +2906,18 @@ int p4_pd_orbisk_switch_ingressPortDropCheck_plcmt_data_value(const void *plcmt_
 int p4_pd_orbisk_switch_ingressPortDropCheck_match_specs_are_equal(const p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_t *hw_match_spec,
     char *error);
+int p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_t *match_spec,
+    char *out);
 int p4_pd_orbisk_switch_ingressPortDropCheck_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_tbl_hdl tbl_hdl,
     pd_entry_hdl entry_hdl,
     const void *plcmt_data,
     char *error);
+int p4_pd_orbisk_switch_ingressPortDropCheck_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* ingL2DomainCount: table 0x01000062, pipeline A, exact match, 3 key bytes (15 bits), entries carry ingL2DomainCounters */
 typedef struct p4_pd_orbisk_switch_ingL2DomainCount_match_spec {
@@ -2850,12 +3004,18 @@ pd_status p4_pd_orbisk_switch_ingL2DomainCount_get_plcmt_data(pd_sess_hdl sess_h
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ingL2DomainCount_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ingL2DomainCount_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_ingL2DomainCount_match_spec_value(const p4_pd_orbisk_switch_ingL2DomainCount_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_ingL2DomainCount_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ingL2DomainCount_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ingL2DomainCount_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_ingL2DomainCount_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -2866,12 +3026,18 @@ int p4_pd_orbisk_switch_ingL2DomainCount_plcmt_data_value(const void *plcmt_data
 int p4_pd_orbisk_switch_ingL2DomainCount_match_specs_are_equal(const p4_pd_orbisk_switch_ingL2DomainCount_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_ingL2DomainCount_match_spec_t *hw_match_spec,
     char *error);
+int p4_pd_orbisk_switch_ingL2DomainCount_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_ingL2DomainCount_match_spec_t *match_spec,
+    char *out);
 int p4_pd_orbisk_switch_ingL2DomainCount_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_tbl_hdl tbl_hdl,
     pd_entry_hdl entry_hdl,
     const void *plcmt_data,
     char *error);
+int p4_pd_orbisk_switch_ingL2DomainCount_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* egrL2DomainCount: table 0x01000065, pipeline A, exact match, 3 key bytes (15 bits), entries carry egrL2DomainCounters */
 typedef struct p4_pd_orbisk_switch_egrL2DomainCount_match_spec {
@@ -2958,12 +3124,18 @@ pd_status p4_pd_orbisk_switch_egrL2DomainCount_get_plcmt_data(pd_sess_hdl sess_h
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_egrL2DomainCount_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_egrL2DomainCount_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_egrL2DomainCount_match_spec_value(const p4_pd_orbisk_switch_egrL2DomainCount_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_egrL2DomainCount_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_egrL2DomainCount_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_egrL2DomainCount_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_egrL2DomainCount_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -2974,12 +3146,18 @@ int p4_pd_orbisk_switch_egrL2DomainCount_plcmt_data_value(const void *plcmt_data
 int p4_pd_orbisk_switch_egrL2DomainCount_match_specs_are_equal(const p4_pd_orbisk_switch_egrL2DomainCount_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_egrL2DomainCount_match_spec_t *hw_match_spec,
     char *error);
+int p4_pd_orbisk_switch_egrL2DomainCount_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_egrL2DomainCount_match_spec_t *match_spec,
+    char *out);
 int p4_pd_orbisk_switch_egrL2DomainCount_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_tbl_hdl tbl_hdl,
     pd_entry_hdl entry_hdl,
     const void *plcmt_data,
     char *error);
+int p4_pd_orbisk_switch_egrL2DomainCount_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* egressVlanXlate: table 0x0100006c, pipeline A, exact match, 4 key bytes (21 bits) */
 typedef struct p4_pd_orbisk_switch_egressVlanXlate_match_spec {
@@ -3092,12 +3270,18 @@ pd_status p4_pd_orbisk_switch_egressVlanXlate_get_plcmt_data(pd_sess_hdl sess_hd
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_egressVlanXlate_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_egressVlanXlate_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_egressVlanXlate_match_spec_value(const p4_pd_orbisk_switch_egressVlanXlate_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_egressVlanXlate_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_egressVlanXlate_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_egressVlanXlate_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_egressVlanXlate_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -3172,6 +3356,9 @@ pd_status p4_pd_orbisk_switch_egrStpCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
 pd_status p4_pd_orbisk_switch_egrStpCheck_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_egrStpCheck_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_egrStpCheck_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -3243,6 +3430,9 @@ pd_status p4_pd_orbisk_switch_egrVlanCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
 pd_status p4_pd_orbisk_switch_egrVlanCheck_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_egrVlanCheck_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_egrVlanCheck_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -3354,12 +3544,18 @@ pd_status p4_pd_orbisk_switch_vlanEncap_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_vlanEncap_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_vlanEncap_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_vlanEncap_match_spec_value(const p4_pd_orbisk_switch_vlanEncap_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_vlanEncap_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_vlanEncap_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_vlanEncap_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_vlanEncap_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -3434,6 +3630,9 @@ pd_status p4_pd_orbisk_switch_vlanDecap_get_plcmt_data(pd_sess_hdl sess_hdl,
 pd_status p4_pd_orbisk_switch_vlanDecap_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_vlanDecap_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_vlanDecap_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -3505,6 +3704,9 @@ pd_status p4_pd_orbisk_switch_copyOverlayL2Domain_get_plcmt_data(pd_sess_hdl ses
 pd_status p4_pd_orbisk_switch_copyOverlayL2Domain_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_copyOverlayL2Domain_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_copyOverlayL2Domain_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -3619,12 +3821,18 @@ pd_status p4_pd_orbisk_switch_srcIntfToOvoIntf_get_plcmt_data(pd_sess_hdl sess_h
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_srcIntfToOvoIntf_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_srcIntfToOvoIntf_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_srcIntfToOvoIntf_match_spec_value(const p4_pd_orbisk_switch_srcIntfToOvoIntf_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_srcIntfToOvoIntf_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_srcIntfToOvoIntf_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_srcIntfToOvoIntf_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_srcIntfToOvoIntf_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -3779,12 +3987,18 @@ pd_status p4_pd_orbisk_switch_egrIntfToOvoIntf_get_plcmt_data(pd_sess_hdl sess_h
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_egrIntfToOvoIntf_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_egrIntfToOvoIntf_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_egrIntfToOvoIntf_match_spec_value(const p4_pd_orbisk_switch_egrIntfToOvoIntf_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_egrIntfToOvoIntf_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_egrIntfToOvoIntf_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_egrIntfToOvoIntf_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_egrIntfToOvoIntf_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -3938,6 +4152,9 @@ pd_status p4_pd_orbisk_switch_ovoIntfToPhysical_get_plcmt_data(pd_sess_hdl sess_
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ovoIntfToPhysical_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ovoIntfToPhysical_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_ovoIntfToPhysical_match_spec_value(const p4_pd_orbisk_switch_ovoIntfToPhysical_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_ovoIntfToPhysical_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -3945,6 +4162,9 @@ pd_status p4_pd_orbisk_switch_ovoIntfToPhysical_get_entry_from_plcmt_data(const 
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ovoIntfToPhysical_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_ovoIntfToPhysical_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -4088,6 +4308,9 @@ pd_status p4_pd_orbisk_switch_egressPortDropCheck_get_plcmt_data(pd_sess_hdl ses
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_egressPortDropCheck_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_egressPortDropCheck_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_egressPortDropCheck_match_spec_value(const p4_pd_orbisk_switch_egressPortDropCheck_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_egressPortDropCheck_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -4095,6 +4318,9 @@ pd_status p4_pd_orbisk_switch_egressPortDropCheck_get_entry_from_plcmt_data(cons
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_egressPortDropCheck_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_egressPortDropCheck_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -4105,12 +4331,18 @@ int p4_pd_orbisk_switch_egressPortDropCheck_plcmt_data_value(const void *plcmt_d
 int p4_pd_orbisk_switch_egressPortDropCheck_match_specs_are_equal(const p4_pd_orbisk_switch_egressPortDropCheck_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_egressPortDropCheck_match_spec_t *hw_match_spec,
     char *error);
+int p4_pd_orbisk_switch_egressPortDropCheck_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_egressPortDropCheck_match_spec_t *match_spec,
+    char *out);
 int p4_pd_orbisk_switch_egressPortDropCheck_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_tbl_hdl tbl_hdl,
     pd_entry_hdl entry_hdl,
     const void *plcmt_data,
     char *error);
+int p4_pd_orbisk_switch_egressPortDropCheck_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* egressSamePortBridgingTest: table 0x0100006d, pipeline A, exact match, 3 key bytes (11 bits) */
 typedef struct p4_pd_orbisk_switch_egressSamePortBridgingTest_match_spec {
@@ -4207,12 +4439,18 @@ pd_status p4_pd_orbisk_switch_egressSamePortBridgingTest_get_plcmt_data(pd_sess_
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_egressSamePortBridgingTest_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_egressSamePortBridgingTest_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_egressSamePortBridgingTest_match_spec_value(const p4_pd_orbisk_switch_egressSamePortBridgingTest_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_egressSamePortBridgingTest_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_egressSamePortBridgingTest_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_egressSamePortBridgingTest_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_egressSamePortBridgingTest_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -4287,6 +4525,9 @@ pd_status p4_pd_orbisk_switch_samePortBridgingTest_get_plcmt_data(pd_sess_hdl se
 pd_status p4_pd_orbisk_switch_samePortBridgingTest_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_samePortBridgingTest_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_samePortBridgingTest_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -4394,12 +4635,18 @@ pd_status p4_pd_orbisk_switch_mlagUcastPrune_get_plcmt_data(pd_sess_hdl sess_hdl
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_mlagUcastPrune_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_mlagUcastPrune_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_mlagUcastPrune_match_spec_value(const p4_pd_orbisk_switch_mlagUcastPrune_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_mlagUcastPrune_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_mlagUcastPrune_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_mlagUcastPrune_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_mlagUcastPrune_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -4607,6 +4854,9 @@ pd_status p4_pd_orbisk_switch_l2DmacClassify_get_plcmt_data(pd_sess_hdl sess_hdl
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_l2DmacClassify_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l2DmacClassify_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_l2DmacClassify_match_spec_value(const p4_pd_orbisk_switch_l2DmacClassify_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_l2DmacClassify_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -4614,6 +4864,9 @@ pd_status p4_pd_orbisk_switch_l2DmacClassify_get_entry_from_plcmt_data(const voi
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_l2DmacClassify_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_l2DmacClassify_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -4624,12 +4877,18 @@ int p4_pd_orbisk_switch_l2DmacClassify_plcmt_data_value(const void *plcmt_data,
 int p4_pd_orbisk_switch_l2DmacClassify_match_specs_are_equal(const p4_pd_orbisk_switch_l2DmacClassify_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_l2DmacClassify_match_spec_t *hw_match_spec,
     char *error);
+int p4_pd_orbisk_switch_l2DmacClassify_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_l2DmacClassify_match_spec_t *match_spec,
+    char *out);
 int p4_pd_orbisk_switch_l2DmacClassify_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_tbl_hdl tbl_hdl,
     pd_entry_hdl entry_hdl,
     const void *plcmt_data,
     char *error);
+int p4_pd_orbisk_switch_l2DmacClassify_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* l2SmacCheck: table 0x0100000d, pipeline A, ternary match, 6 key bytes (48 bits) */
 typedef struct p4_pd_orbisk_switch_l2SmacCheck_match_spec {
@@ -4737,6 +4996,9 @@ pd_status p4_pd_orbisk_switch_l2SmacCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_l2SmacCheck_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l2SmacCheck_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_l2SmacCheck_match_spec_value(const p4_pd_orbisk_switch_l2SmacCheck_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_l2SmacCheck_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -4744,6 +5006,9 @@ pd_status p4_pd_orbisk_switch_l2SmacCheck_get_entry_from_plcmt_data(const void *
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_l2SmacCheck_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_l2SmacCheck_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -4858,12 +5123,18 @@ pd_status p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_get_plcmt_data(pd_sess_hdl 
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_match_spec_value(const p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -5013,12 +5284,18 @@ pd_status p4_pd_orbisk_switch_l2LearningLookup_get_plcmt_data(pd_sess_hdl sess_h
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_l2LearningLookup_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l2LearningLookup_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_l2LearningLookup_match_spec_value(const p4_pd_orbisk_switch_l2LearningLookup_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_l2LearningLookup_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_l2LearningLookup_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_l2LearningLookup_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_l2LearningLookup_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -5172,12 +5449,18 @@ pd_status p4_pd_orbisk_switch_l2Lookup_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_l2Lookup_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l2Lookup_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_l2Lookup_match_spec_value(const p4_pd_orbisk_switch_l2Lookup_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_l2Lookup_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_l2Lookup_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_l2Lookup_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_l2Lookup_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -5341,6 +5624,9 @@ pd_status p4_pd_orbisk_switch_l2LookupMiss_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_l2LookupMiss_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l2LookupMiss_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_l2LookupMiss_match_spec_value(const p4_pd_orbisk_switch_l2LookupMiss_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_l2LookupMiss_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -5348,6 +5634,9 @@ pd_status p4_pd_orbisk_switch_l2LookupMiss_get_entry_from_plcmt_data(const void 
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_l2LookupMiss_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_l2LookupMiss_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -5452,12 +5741,18 @@ pd_status p4_pd_orbisk_switch_l2ForwardParams_get_plcmt_data(pd_sess_hdl sess_hd
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_l2ForwardParams_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l2ForwardParams_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_l2ForwardParams_match_spec_value(const p4_pd_orbisk_switch_l2ForwardParams_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_l2ForwardParams_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_l2ForwardParams_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_l2ForwardParams_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_l2ForwardParams_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -5562,12 +5857,18 @@ pd_status p4_pd_orbisk_switch_l2XRemap_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_l2XRemap_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l2XRemap_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_l2XRemap_match_spec_value(const p4_pd_orbisk_switch_l2XRemap_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_l2XRemap_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_l2XRemap_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_l2XRemap_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_l2XRemap_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -5741,6 +6042,9 @@ pd_status p4_pd_orbisk_switch_learningDigestGeneration_get_plcmt_data(pd_sess_hd
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_learningDigestGeneration_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_learningDigestGeneration_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_learningDigestGeneration_match_spec_value(const p4_pd_orbisk_switch_learningDigestGeneration_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_learningDigestGeneration_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -5748,6 +6052,9 @@ pd_status p4_pd_orbisk_switch_learningDigestGeneration_get_entry_from_plcmt_data
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_learningDigestGeneration_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_learningDigestGeneration_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -5822,6 +6129,9 @@ pd_status p4_pd_orbisk_switch_bridgeToEA_get_plcmt_data(pd_sess_hdl sess_hdl,
 pd_status p4_pd_orbisk_switch_bridgeToEA_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_bridgeToEA_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_bridgeToEA_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -5967,6 +6277,9 @@ pd_status p4_pd_orbisk_switch_l3DmacCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_l3DmacCheck_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l3DmacCheck_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_l3DmacCheck_match_spec_value(const p4_pd_orbisk_switch_l3DmacCheck_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_l3DmacCheck_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -5974,6 +6287,9 @@ pd_status p4_pd_orbisk_switch_l3DmacCheck_get_entry_from_plcmt_data(const void *
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_l3DmacCheck_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_l3DmacCheck_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -6088,12 +6404,18 @@ pd_status p4_pd_orbisk_switch_vrrpMacCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_vrrpMacCheck_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_vrrpMacCheck_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_vrrpMacCheck_match_spec_value(const p4_pd_orbisk_switch_vrrpMacCheck_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_vrrpMacCheck_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_vrrpMacCheck_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_vrrpMacCheck_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_vrrpMacCheck_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -6279,12 +6601,18 @@ pd_status p4_pd_orbisk_switch_ipv4Host_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ipv4Host_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ipv4Host_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_ipv4Host_match_spec_value(const p4_pd_orbisk_switch_ipv4Host_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_ipv4Host_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ipv4Host_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ipv4Host_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_ipv4Host_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -6473,12 +6801,18 @@ pd_status p4_pd_orbisk_switch_ipv4ShortMaskLpm_get_plcmt_data(pd_sess_hdl sess_h
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec_value(const p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_ipv4ShortMaskLpm_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ipv4ShortMaskLpm_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_ipv4ShortMaskLpm_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -6628,12 +6962,18 @@ pd_status p4_pd_orbisk_switch_ipv4Partition0_get_plcmt_data(pd_sess_hdl sess_hdl
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ipv4Partition0_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ipv4Partition0_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_ipv4Partition0_match_spec_value(const p4_pd_orbisk_switch_ipv4Partition0_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_ipv4Partition0_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ipv4Partition0_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ipv4Partition0_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_ipv4Partition0_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -6822,12 +7162,18 @@ pd_status p4_pd_orbisk_switch_ipv4FinalResolve0_get_plcmt_data(pd_sess_hdl sess_
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ipv4FinalResolve0_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ipv4FinalResolve0_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_ipv4FinalResolve0_match_spec_value(const p4_pd_orbisk_switch_ipv4FinalResolve0_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_ipv4FinalResolve0_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ipv4FinalResolve0_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ipv4FinalResolve0_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_ipv4FinalResolve0_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -7013,12 +7359,18 @@ pd_status p4_pd_orbisk_switch_ipv6Host_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ipv6Host_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ipv6Host_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_ipv6Host_match_spec_value(const p4_pd_orbisk_switch_ipv6Host_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_ipv6Host_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ipv6Host_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ipv6Host_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_ipv6Host_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -7207,12 +7559,18 @@ pd_status p4_pd_orbisk_switch_ipv6ShortMaskLpm_get_plcmt_data(pd_sess_hdl sess_h
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ipv6ShortMaskLpm_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ipv6ShortMaskLpm_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_ipv6ShortMaskLpm_match_spec_value(const p4_pd_orbisk_switch_ipv6ShortMaskLpm_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_ipv6ShortMaskLpm_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ipv6ShortMaskLpm_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ipv6ShortMaskLpm_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_ipv6ShortMaskLpm_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -7401,12 +7759,18 @@ pd_status p4_pd_orbisk_switch_ipv6Partition_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ipv6Partition_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ipv6Partition_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_ipv6Partition_match_spec_value(const p4_pd_orbisk_switch_ipv6Partition_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_ipv6Partition_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ipv6Partition_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ipv6Partition_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_ipv6Partition_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -7595,12 +7959,18 @@ pd_status p4_pd_orbisk_switch_ipv6FinalResolve_get_plcmt_data(pd_sess_hdl sess_h
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ipv6FinalResolve_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ipv6FinalResolve_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_ipv6FinalResolve_match_spec_value(const p4_pd_orbisk_switch_ipv6FinalResolve_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_ipv6FinalResolve_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ipv6FinalResolve_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ipv6FinalResolve_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_ipv6FinalResolve_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -7750,12 +8120,18 @@ pd_status p4_pd_orbisk_switch_ipv6LgMaskPartition0_get_plcmt_data(pd_sess_hdl se
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ipv6LgMaskPartition0_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ipv6LgMaskPartition0_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_ipv6LgMaskPartition0_match_spec_value(const p4_pd_orbisk_switch_ipv6LgMaskPartition0_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_ipv6LgMaskPartition0_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ipv6LgMaskPartition0_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ipv6LgMaskPartition0_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_ipv6LgMaskPartition0_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -7944,12 +8320,18 @@ pd_status p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_get_plcmt_data(pd_sess_hdl
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_match_spec_value(const p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -8076,6 +8458,9 @@ pd_status p4_pd_orbisk_switch_ecmpGroup_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ecmpGroup_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ecmpGroup_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_ecmpGroup_match_spec_value(const p4_pd_orbisk_switch_ecmpGroup_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_ecmpGroup_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -8085,6 +8470,9 @@ pd_status p4_pd_orbisk_switch_ecmpGroup_get_entry_from_plcmt_data(const void *pl
     bool *has_mbr,
     bool *has_grp,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ecmpGroup_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_ecmpGroup_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -8198,12 +8586,18 @@ pd_status p4_pd_orbisk_switch_reservedNextHop_get_plcmt_data(pd_sess_hdl sess_hd
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_reservedNextHop_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_reservedNextHop_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_reservedNextHop_match_spec_value(const p4_pd_orbisk_switch_reservedNextHop_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_reservedNextHop_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_reservedNextHop_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_reservedNextHop_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_reservedNextHop_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -8308,12 +8702,18 @@ pd_status p4_pd_orbisk_switch_nextHop0_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_nextHop0_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_nextHop0_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_nextHop0_match_spec_value(const p4_pd_orbisk_switch_nextHop0_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_nextHop0_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_nextHop0_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_nextHop0_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_nextHop0_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -8418,12 +8818,18 @@ pd_status p4_pd_orbisk_switch_routerNextHop0_get_plcmt_data(pd_sess_hdl sess_hdl
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_routerNextHop0_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_routerNextHop0_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_routerNextHop0_match_spec_value(const p4_pd_orbisk_switch_routerNextHop0_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_routerNextHop0_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_routerNextHop0_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_routerNextHop0_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_routerNextHop0_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -8556,6 +8962,9 @@ pd_status p4_pd_orbisk_switch_lagGroup_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_lagGroup_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_lagGroup_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_lagGroup_match_spec_value(const p4_pd_orbisk_switch_lagGroup_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_lagGroup_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -8566,6 +8975,9 @@ pd_status p4_pd_orbisk_switch_lagGroup_get_entry_from_plcmt_data(const void *plc
     bool *has_mbr,
     bool *has_grp,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_lagGroup_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_lagGroup_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -8758,6 +9170,9 @@ pd_status p4_pd_orbisk_switch_ecmpHashSelection_get_plcmt_data(pd_sess_hdl sess_
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ecmpHashSelection_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ecmpHashSelection_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_ecmpHashSelection_match_spec_value(const p4_pd_orbisk_switch_ecmpHashSelection_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_ecmpHashSelection_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -8765,6 +9180,9 @@ pd_status p4_pd_orbisk_switch_ecmpHashSelection_get_entry_from_plcmt_data(const 
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ecmpHashSelection_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_ecmpHashSelection_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -8972,6 +9390,9 @@ pd_status p4_pd_orbisk_switch_lagHashSelection_get_plcmt_data(pd_sess_hdl sess_h
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_lagHashSelection_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_lagHashSelection_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_lagHashSelection_match_spec_value(const p4_pd_orbisk_switch_lagHashSelection_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_lagHashSelection_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -8979,6 +9400,9 @@ pd_status p4_pd_orbisk_switch_lagHashSelection_get_entry_from_plcmt_data(const v
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_lagHashSelection_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_lagHashSelection_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -9101,12 +9525,18 @@ pd_status p4_pd_orbisk_switch_hashComputeInnerIpHdr_get_plcmt_data(pd_sess_hdl s
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_hashComputeInnerIpHdr_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_hashComputeInnerIpHdr_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_hashComputeInnerIpHdr_match_spec_value(const p4_pd_orbisk_switch_hashComputeInnerIpHdr_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_hashComputeInnerIpHdr_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_hashComputeInnerIpHdr_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_hashComputeInnerIpHdr_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_hashComputeInnerIpHdr_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -9181,6 +9611,9 @@ pd_status p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_get_plcmt_data(pd_sess_hdl
 pd_status p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -9252,6 +9685,9 @@ pd_status p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_get_plcmt_data(pd_sess_hdl
 pd_status p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -9323,6 +9759,9 @@ pd_status p4_pd_orbisk_switch_hashComputeInnerEthHdr_get_plcmt_data(pd_sess_hdl 
 pd_status p4_pd_orbisk_switch_hashComputeInnerEthHdr_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_hashComputeInnerEthHdr_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_hashComputeInnerEthHdr_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -9394,6 +9833,9 @@ pd_status p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_get_plcmt_data(pd_sess_hdl s
 pd_status p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -9465,6 +9907,9 @@ pd_status p4_pd_orbisk_switch_hashFromCpuHdr_get_plcmt_data(pd_sess_hdl sess_hdl
 pd_status p4_pd_orbisk_switch_hashFromCpuHdr_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_hashFromCpuHdr_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_hashFromCpuHdr_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -9612,12 +10057,18 @@ pd_status p4_pd_orbisk_switch_ipv4McGroupVlan_get_plcmt_data(pd_sess_hdl sess_hd
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ipv4McGroupVlan_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ipv4McGroupVlan_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_ipv4McGroupVlan_match_spec_value(const p4_pd_orbisk_switch_ipv4McGroupVlan_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_ipv4McGroupVlan_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ipv4McGroupVlan_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ipv4McGroupVlan_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_ipv4McGroupVlan_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -9764,12 +10215,18 @@ pd_status p4_pd_orbisk_switch_ipv4McSourceGroupVlan_get_plcmt_data(pd_sess_hdl s
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ipv4McSourceGroupVlan_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ipv4McSourceGroupVlan_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_ipv4McSourceGroupVlan_match_spec_value(const p4_pd_orbisk_switch_ipv4McSourceGroupVlan_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_ipv4McSourceGroupVlan_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ipv4McSourceGroupVlan_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ipv4McSourceGroupVlan_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_ipv4McSourceGroupVlan_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -9887,12 +10344,18 @@ pd_status p4_pd_orbisk_switch_l2Multicast_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_l2Multicast_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l2Multicast_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_l2Multicast_match_spec_value(const p4_pd_orbisk_switch_l2Multicast_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_l2Multicast_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_l2Multicast_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_l2Multicast_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_l2Multicast_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -10112,6 +10575,9 @@ pd_status p4_pd_orbisk_switch_finalizeMcResult_get_plcmt_data(pd_sess_hdl sess_h
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_finalizeMcResult_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_finalizeMcResult_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_finalizeMcResult_match_spec_value(const p4_pd_orbisk_switch_finalizeMcResult_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_finalizeMcResult_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -10119,6 +10585,9 @@ pd_status p4_pd_orbisk_switch_finalizeMcResult_get_entry_from_plcmt_data(const v
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_finalizeMcResult_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_finalizeMcResult_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -10232,12 +10701,18 @@ pd_status p4_pd_orbisk_switch_egressMcRemap_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_egressMcRemap_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_egressMcRemap_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_egressMcRemap_match_spec_value(const p4_pd_orbisk_switch_egressMcRemap_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_egressMcRemap_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_egressMcRemap_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_egressMcRemap_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_egressMcRemap_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -10416,6 +10891,9 @@ pd_status p4_pd_orbisk_switch_mcastPrune_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_mcastPrune_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_mcastPrune_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_mcastPrune_match_spec_value(const p4_pd_orbisk_switch_mcastPrune_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_mcastPrune_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -10423,6 +10901,9 @@ pd_status p4_pd_orbisk_switch_mcastPrune_get_entry_from_plcmt_data(const void *p
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_mcastPrune_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_mcastPrune_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -10573,6 +11054,9 @@ pd_status p4_pd_orbisk_switch_tunnelTermination_get_plcmt_data(pd_sess_hdl sess_
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_tunnelTermination_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_tunnelTermination_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_tunnelTermination_match_spec_value(const p4_pd_orbisk_switch_tunnelTermination_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_tunnelTermination_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -10580,6 +11064,9 @@ pd_status p4_pd_orbisk_switch_tunnelTermination_get_entry_from_plcmt_data(const 
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_tunnelTermination_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_tunnelTermination_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -10723,12 +11210,18 @@ pd_status p4_pd_orbisk_switch_vxlanL2AintfLookup_get_plcmt_data(pd_sess_hdl sess
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_vxlanL2AintfLookup_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_vxlanL2AintfLookup_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_vxlanL2AintfLookup_match_spec_value(const p4_pd_orbisk_switch_vxlanL2AintfLookup_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_vxlanL2AintfLookup_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_vxlanL2AintfLookup_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_vxlanL2AintfLookup_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_vxlanL2AintfLookup_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -10863,12 +11356,18 @@ pd_status p4_pd_orbisk_switch_vxlanVniResolution_get_plcmt_data(pd_sess_hdl sess
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_vxlanVniResolution_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_vxlanVniResolution_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_vxlanVniResolution_match_spec_value(const p4_pd_orbisk_switch_vxlanVniResolution_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_vxlanVniResolution_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_vxlanVniResolution_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_vxlanVniResolution_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_vxlanVniResolution_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -10996,6 +11495,9 @@ pd_status p4_pd_orbisk_switch_vxlanVarp_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_vxlanVarp_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_vxlanVarp_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_vxlanVarp_match_spec_value(const p4_pd_orbisk_switch_vxlanVarp_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_vxlanVarp_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -11003,6 +11505,9 @@ pd_status p4_pd_orbisk_switch_vxlanVarp_get_entry_from_plcmt_data(const void *pl
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_vxlanVarp_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_vxlanVarp_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -11077,6 +11582,9 @@ pd_status p4_pd_orbisk_switch_vxlanArp_get_plcmt_data(pd_sess_hdl sess_hdl,
 pd_status p4_pd_orbisk_switch_vxlanArp_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_vxlanArp_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_vxlanArp_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -11178,12 +11686,18 @@ pd_status p4_pd_orbisk_switch_tunnelDip0_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_tunnelDip0_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_tunnelDip0_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_tunnelDip0_match_spec_value(const p4_pd_orbisk_switch_tunnelDip0_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_tunnelDip0_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_tunnelDip0_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_tunnelDip0_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_tunnelDip0_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -11297,12 +11811,18 @@ pd_status p4_pd_orbisk_switch_tunnelVniAndVti_get_plcmt_data(pd_sess_hdl sess_hd
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_tunnelVniAndVti_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_tunnelVniAndVti_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_tunnelVniAndVti_match_spec_value(const p4_pd_orbisk_switch_tunnelVniAndVti_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_tunnelVniAndVti_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_tunnelVniAndVti_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_tunnelVniAndVti_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_tunnelVniAndVti_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -11416,12 +11936,18 @@ pd_status p4_pd_orbisk_switch_tunnelL2Info_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_tunnelL2Info_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_tunnelL2Info_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_tunnelL2Info_match_spec_value(const p4_pd_orbisk_switch_tunnelL2Info_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_tunnelL2Info_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_tunnelL2Info_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_tunnelL2Info_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_tunnelL2Info_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -11544,6 +12070,9 @@ pd_status p4_pd_orbisk_switch_tunnelResolve_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_tunnelResolve_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_tunnelResolve_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_tunnelResolve_match_spec_value(const p4_pd_orbisk_switch_tunnelResolve_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_tunnelResolve_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -11553,6 +12082,9 @@ pd_status p4_pd_orbisk_switch_tunnelResolve_get_entry_from_plcmt_data(const void
     bool *has_mbr,
     bool *has_grp,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_tunnelResolve_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_tunnelResolve_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -11773,6 +12305,9 @@ pd_status p4_pd_orbisk_switch_encapDecap_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_encapDecap_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_encapDecap_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_encapDecap_match_spec_value(const p4_pd_orbisk_switch_encapDecap_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_encapDecap_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -11780,6 +12315,9 @@ pd_status p4_pd_orbisk_switch_encapDecap_get_entry_from_plcmt_data(const void *p
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_encapDecap_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_encapDecap_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -11934,12 +12472,18 @@ pd_status p4_pd_orbisk_switch_decapIngress_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_decapIngress_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_decapIngress_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_decapIngress_match_spec_value(const p4_pd_orbisk_switch_decapIngress_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_decapIngress_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_decapIngress_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_decapIngress_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_decapIngress_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -12104,6 +12648,9 @@ pd_status p4_pd_orbisk_switch_globalFields_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_globalFields_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_globalFields_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_globalFields_match_spec_value(const p4_pd_orbisk_switch_globalFields_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_globalFields_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -12111,6 +12658,9 @@ pd_status p4_pd_orbisk_switch_globalFields_get_entry_from_plcmt_data(const void 
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_globalFields_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_globalFields_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -12219,12 +12769,18 @@ pd_status p4_pd_orbisk_switch_ingressNatProfile_get_plcmt_data(pd_sess_hdl sess_
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ingressNatProfile_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ingressNatProfile_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_ingressNatProfile_match_spec_value(const p4_pd_orbisk_switch_ingressNatProfile_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_ingressNatProfile_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ingressNatProfile_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ingressNatProfile_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_ingressNatProfile_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -12354,6 +12910,9 @@ pd_status p4_pd_orbisk_switch_staticDnatAcl_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_staticDnatAcl_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_staticDnatAcl_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_staticDnatAcl_match_spec_value(const p4_pd_orbisk_switch_staticDnatAcl_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_staticDnatAcl_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -12361,6 +12920,9 @@ pd_status p4_pd_orbisk_switch_staticDnatAcl_get_entry_from_plcmt_data(const void
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_staticDnatAcl_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_staticDnatAcl_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -12519,12 +13081,18 @@ pd_status p4_pd_orbisk_switch_addrPortDnat_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_addrPortDnat_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_addrPortDnat_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_addrPortDnat_match_spec_value(const p4_pd_orbisk_switch_addrPortDnat_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_addrPortDnat_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_addrPortDnat_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_addrPortDnat_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_addrPortDnat_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -12535,12 +13103,18 @@ int p4_pd_orbisk_switch_addrPortDnat_plcmt_data_value(const void *plcmt_data,
 int p4_pd_orbisk_switch_addrPortDnat_match_specs_are_equal(const p4_pd_orbisk_switch_addrPortDnat_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_addrPortDnat_match_spec_t *hw_match_spec,
     char *error);
+int p4_pd_orbisk_switch_addrPortDnat_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_addrPortDnat_match_spec_t *match_spec,
+    char *out);
 int p4_pd_orbisk_switch_addrPortDnat_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_tbl_hdl tbl_hdl,
     pd_entry_hdl entry_hdl,
     const void *plcmt_data,
     char *error);
+int p4_pd_orbisk_switch_addrPortDnat_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* addrOnlyDnat: table 0x01000027, pipeline A, exact match, 7 key bytes (52 bits) */
 typedef struct p4_pd_orbisk_switch_addrOnlyDnat_match_spec {
@@ -12655,12 +13229,18 @@ pd_status p4_pd_orbisk_switch_addrOnlyDnat_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_addrOnlyDnat_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_addrOnlyDnat_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_addrOnlyDnat_match_spec_value(const p4_pd_orbisk_switch_addrOnlyDnat_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_addrOnlyDnat_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_addrOnlyDnat_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_addrOnlyDnat_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_addrOnlyDnat_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -12828,12 +13408,18 @@ pd_status p4_pd_orbisk_switch_dynamicDnat1_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_dynamicDnat1_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_dynamicDnat1_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_dynamicDnat1_match_spec_value(const p4_pd_orbisk_switch_dynamicDnat1_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_dynamicDnat1_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_dynamicDnat1_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_dynamicDnat1_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_dynamicDnat1_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -12938,12 +13524,18 @@ pd_status p4_pd_orbisk_switch_dynamicFullConeCompressDip_get_plcmt_data(pd_sess_
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_dynamicFullConeCompressDip_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_dynamicFullConeCompressDip_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_dynamicFullConeCompressDip_match_spec_value(const p4_pd_orbisk_switch_dynamicFullConeCompressDip_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_dynamicFullConeCompressDip_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_dynamicFullConeCompressDip_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_dynamicFullConeCompressDip_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_dynamicFullConeCompressDip_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -13094,12 +13686,18 @@ pd_status p4_pd_orbisk_switch_dynamicFullConeDnat_get_plcmt_data(pd_sess_hdl ses
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_dynamicFullConeDnat_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_dynamicFullConeDnat_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_dynamicFullConeDnat_match_spec_value(const p4_pd_orbisk_switch_dynamicFullConeDnat_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_dynamicFullConeDnat_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_dynamicFullConeDnat_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_dynamicFullConeDnat_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_dynamicFullConeDnat_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -13204,12 +13802,18 @@ pd_status p4_pd_orbisk_switch_egressNatProfile_get_plcmt_data(pd_sess_hdl sess_h
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_egressNatProfile_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_egressNatProfile_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_egressNatProfile_match_spec_value(const p4_pd_orbisk_switch_egressNatProfile_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_egressNatProfile_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_egressNatProfile_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_egressNatProfile_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_egressNatProfile_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -13339,6 +13943,9 @@ pd_status p4_pd_orbisk_switch_staticSnatAcl_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_staticSnatAcl_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_staticSnatAcl_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_staticSnatAcl_match_spec_value(const p4_pd_orbisk_switch_staticSnatAcl_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_staticSnatAcl_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -13346,6 +13953,9 @@ pd_status p4_pd_orbisk_switch_staticSnatAcl_get_entry_from_plcmt_data(const void
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_staticSnatAcl_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_staticSnatAcl_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -13478,12 +14088,18 @@ pd_status p4_pd_orbisk_switch_addrPortSnat_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_addrPortSnat_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_addrPortSnat_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_addrPortSnat_match_spec_value(const p4_pd_orbisk_switch_addrPortSnat_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_addrPortSnat_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_addrPortSnat_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_addrPortSnat_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_addrPortSnat_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -13494,12 +14110,18 @@ int p4_pd_orbisk_switch_addrPortSnat_plcmt_data_value(const void *plcmt_data,
 int p4_pd_orbisk_switch_addrPortSnat_match_specs_are_equal(const p4_pd_orbisk_switch_addrPortSnat_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_addrPortSnat_match_spec_t *hw_match_spec,
     char *error);
+int p4_pd_orbisk_switch_addrPortSnat_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_addrPortSnat_match_spec_t *match_spec,
+    char *out);
 int p4_pd_orbisk_switch_addrPortSnat_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_tbl_hdl tbl_hdl,
     pd_entry_hdl entry_hdl,
     const void *plcmt_data,
     char *error);
+int p4_pd_orbisk_switch_addrPortSnat_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* addrOnlySnat: table 0x11010017, pipeline B, exact match, 7 key bytes (52 bits) */
 typedef struct p4_pd_orbisk_switch_addrOnlySnat_match_spec {
@@ -13601,12 +14223,18 @@ pd_status p4_pd_orbisk_switch_addrOnlySnat_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_addrOnlySnat_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_addrOnlySnat_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_addrOnlySnat_match_spec_value(const p4_pd_orbisk_switch_addrOnlySnat_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_addrOnlySnat_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_addrOnlySnat_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_addrOnlySnat_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_addrOnlySnat_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -13742,6 +14370,9 @@ pd_status p4_pd_orbisk_switch_dynamicSnatAcl_get_plcmt_data(pd_sess_hdl sess_hdl
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_dynamicSnatAcl_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_dynamicSnatAcl_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_dynamicSnatAcl_match_spec_value(const p4_pd_orbisk_switch_dynamicSnatAcl_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_dynamicSnatAcl_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -13749,6 +14380,9 @@ pd_status p4_pd_orbisk_switch_dynamicSnatAcl_get_entry_from_plcmt_data(const voi
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_dynamicSnatAcl_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_dynamicSnatAcl_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -13916,12 +14550,18 @@ pd_status p4_pd_orbisk_switch_dynamicSnat1_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_dynamicSnat1_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_dynamicSnat1_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_dynamicSnat1_match_spec_value(const p4_pd_orbisk_switch_dynamicSnat1_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_dynamicSnat1_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_dynamicSnat1_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_dynamicSnat1_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_dynamicSnat1_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -14052,6 +14692,9 @@ pd_status p4_pd_orbisk_switch_dynamicNatCount_get_plcmt_data(pd_sess_hdl sess_hd
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_dynamicNatCount_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_dynamicNatCount_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_dynamicNatCount_match_spec_value(const p4_pd_orbisk_switch_dynamicNatCount_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_dynamicNatCount_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -14059,6 +14702,9 @@ pd_status p4_pd_orbisk_switch_dynamicNatCount_get_entry_from_plcmt_data(const vo
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_dynamicNatCount_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_dynamicNatCount_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -14069,12 +14715,18 @@ int p4_pd_orbisk_switch_dynamicNatCount_plcmt_data_value(const void *plcmt_data,
 int p4_pd_orbisk_switch_dynamicNatCount_match_specs_are_equal(const p4_pd_orbisk_switch_dynamicNatCount_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_dynamicNatCount_match_spec_t *hw_match_spec,
     char *error);
+int p4_pd_orbisk_switch_dynamicNatCount_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_dynamicNatCount_match_spec_t *match_spec,
+    char *out);
 int p4_pd_orbisk_switch_dynamicNatCount_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_tbl_hdl tbl_hdl,
     pd_entry_hdl entry_hdl,
     const void *plcmt_data,
     char *error);
+int p4_pd_orbisk_switch_dynamicNatCount_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* natTcpFlags: table 0x11010006, pipeline B, exact match, 1 key bytes (8 bits) */
 typedef struct p4_pd_orbisk_switch_natTcpFlags_match_spec {
@@ -14169,12 +14821,18 @@ pd_status p4_pd_orbisk_switch_natTcpFlags_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_natTcpFlags_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_natTcpFlags_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_natTcpFlags_match_spec_value(const p4_pd_orbisk_switch_natTcpFlags_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_natTcpFlags_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_natTcpFlags_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_natTcpFlags_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_natTcpFlags_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -14349,6 +15007,9 @@ pd_status p4_pd_orbisk_switch_natCpuTrapAcl_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_natCpuTrapAcl_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_natCpuTrapAcl_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_natCpuTrapAcl_match_spec_value(const p4_pd_orbisk_switch_natCpuTrapAcl_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_natCpuTrapAcl_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -14356,6 +15017,9 @@ pd_status p4_pd_orbisk_switch_natCpuTrapAcl_get_entry_from_plcmt_data(const void
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_natCpuTrapAcl_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_natCpuTrapAcl_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -14479,6 +15143,9 @@ pd_status p4_pd_orbisk_switch_natCpuReasonCode_get_plcmt_data(pd_sess_hdl sess_h
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_natCpuReasonCode_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_natCpuReasonCode_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_natCpuReasonCode_match_spec_value(const p4_pd_orbisk_switch_natCpuReasonCode_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_natCpuReasonCode_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -14486,6 +15153,9 @@ pd_status p4_pd_orbisk_switch_natCpuReasonCode_get_entry_from_plcmt_data(const v
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_natCpuReasonCode_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_natCpuReasonCode_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -14675,6 +15345,9 @@ pd_status p4_pd_orbisk_switch_natChecksumUpdate_get_plcmt_data(pd_sess_hdl sess_
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_natChecksumUpdate_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_natChecksumUpdate_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_natChecksumUpdate_match_spec_value(const p4_pd_orbisk_switch_natChecksumUpdate_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_natChecksumUpdate_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -14682,6 +15355,9 @@ pd_status p4_pd_orbisk_switch_natChecksumUpdate_get_entry_from_plcmt_data(const 
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_natChecksumUpdate_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_natChecksumUpdate_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -14814,12 +15490,18 @@ pd_status p4_pd_orbisk_switch_egressNatCpuTrapHeader_get_plcmt_data(pd_sess_hdl 
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_egressNatCpuTrapHeader_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_egressNatCpuTrapHeader_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_egressNatCpuTrapHeader_match_spec_value(const p4_pd_orbisk_switch_egressNatCpuTrapHeader_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_egressNatCpuTrapHeader_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_egressNatCpuTrapHeader_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_egressNatCpuTrapHeader_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_egressNatCpuTrapHeader_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -14939,12 +15621,18 @@ pd_status p4_pd_orbisk_switch_haloPaclCrlId_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_haloPaclCrlId_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloPaclCrlId_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_haloPaclCrlId_match_spec_value(const p4_pd_orbisk_switch_haloPaclCrlId_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_haloPaclCrlId_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloPaclCrlId_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloPaclCrlId_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_haloPaclCrlId_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -15060,12 +15748,18 @@ pd_status p4_pd_orbisk_switch_haloRaclCrlId_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_haloRaclCrlId_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloRaclCrlId_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_haloRaclCrlId_match_spec_value(const p4_pd_orbisk_switch_haloRaclCrlId_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_haloRaclCrlId_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloRaclCrlId_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloRaclCrlId_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_haloRaclCrlId_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -15201,6 +15895,9 @@ pd_status p4_pd_orbisk_switch_haloXformIpv4Sip_get_plcmt_data(pd_sess_hdl sess_h
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_haloXformIpv4Sip_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloXformIpv4Sip_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_haloXformIpv4Sip_match_spec_value(const p4_pd_orbisk_switch_haloXformIpv4Sip_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_haloXformIpv4Sip_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -15208,6 +15905,9 @@ pd_status p4_pd_orbisk_switch_haloXformIpv4Sip_get_entry_from_plcmt_data(const v
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloXformIpv4Sip_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_haloXformIpv4Sip_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -15343,6 +16043,9 @@ pd_status p4_pd_orbisk_switch_haloXformIpv4Dip_get_plcmt_data(pd_sess_hdl sess_h
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_haloXformIpv4Dip_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloXformIpv4Dip_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_haloXformIpv4Dip_match_spec_value(const p4_pd_orbisk_switch_haloXformIpv4Dip_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_haloXformIpv4Dip_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -15350,6 +16053,9 @@ pd_status p4_pd_orbisk_switch_haloXformIpv4Dip_get_entry_from_plcmt_data(const v
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloXformIpv4Dip_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_haloXformIpv4Dip_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -15485,6 +16191,9 @@ pd_status p4_pd_orbisk_switch_haloXformIpv6Sip_get_plcmt_data(pd_sess_hdl sess_h
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_haloXformIpv6Sip_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloXformIpv6Sip_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_haloXformIpv6Sip_match_spec_value(const p4_pd_orbisk_switch_haloXformIpv6Sip_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_haloXformIpv6Sip_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -15492,6 +16201,9 @@ pd_status p4_pd_orbisk_switch_haloXformIpv6Sip_get_entry_from_plcmt_data(const v
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloXformIpv6Sip_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_haloXformIpv6Sip_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -15627,6 +16339,9 @@ pd_status p4_pd_orbisk_switch_haloXformIpv6Dip_get_plcmt_data(pd_sess_hdl sess_h
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_haloXformIpv6Dip_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloXformIpv6Dip_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_haloXformIpv6Dip_match_spec_value(const p4_pd_orbisk_switch_haloXformIpv6Dip_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_haloXformIpv6Dip_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -15634,6 +16349,9 @@ pd_status p4_pd_orbisk_switch_haloXformIpv6Dip_get_entry_from_plcmt_data(const v
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloXformIpv6Dip_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_haloXformIpv6Dip_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -15757,6 +16475,9 @@ pd_status p4_pd_orbisk_switch_haloXformSrcPort_get_plcmt_data(pd_sess_hdl sess_h
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_haloXformSrcPort_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloXformSrcPort_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_haloXformSrcPort_match_spec_value(const p4_pd_orbisk_switch_haloXformSrcPort_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_haloXformSrcPort_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -15764,6 +16485,9 @@ pd_status p4_pd_orbisk_switch_haloXformSrcPort_get_entry_from_plcmt_data(const v
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloXformSrcPort_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_haloXformSrcPort_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -15887,6 +16611,9 @@ pd_status p4_pd_orbisk_switch_haloXformDstPort_get_plcmt_data(pd_sess_hdl sess_h
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_haloXformDstPort_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloXformDstPort_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_haloXformDstPort_match_spec_value(const p4_pd_orbisk_switch_haloXformDstPort_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_haloXformDstPort_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -15894,6 +16621,9 @@ pd_status p4_pd_orbisk_switch_haloXformDstPort_get_entry_from_plcmt_data(const v
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloXformDstPort_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_haloXformDstPort_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -15998,12 +16728,18 @@ pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_get_plcmt_data(pd_sess_hd
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_match_spec_value(const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -16135,12 +16871,18 @@ pd_status p4_pd_orbisk_switch_haloRow1Stage2_get_plcmt_data(pd_sess_hdl sess_hdl
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_haloRow1Stage2_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloRow1Stage2_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_haloRow1Stage2_match_spec_value(const p4_pd_orbisk_switch_haloRow1Stage2_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_haloRow1Stage2_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloRow1Stage2_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloRow1Stage2_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_haloRow1Stage2_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -16245,12 +16987,18 @@ pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_get_plcmt_data(pd_sess_hd
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_match_spec_value(const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -16382,12 +17130,18 @@ pd_status p4_pd_orbisk_switch_haloRow1Stage3_get_plcmt_data(pd_sess_hdl sess_hdl
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_haloRow1Stage3_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloRow1Stage3_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_haloRow1Stage3_match_spec_value(const p4_pd_orbisk_switch_haloRow1Stage3_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_haloRow1Stage3_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloRow1Stage3_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloRow1Stage3_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_haloRow1Stage3_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -16492,12 +17246,18 @@ pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_get_plcmt_data(pd_sess_hd
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_match_spec_value(const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -16629,12 +17389,18 @@ pd_status p4_pd_orbisk_switch_haloRow1Stage4_get_plcmt_data(pd_sess_hdl sess_hdl
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_haloRow1Stage4_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloRow1Stage4_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_haloRow1Stage4_match_spec_value(const p4_pd_orbisk_switch_haloRow1Stage4_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_haloRow1Stage4_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloRow1Stage4_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloRow1Stage4_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_haloRow1Stage4_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -16739,12 +17505,18 @@ pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_get_plcmt_data(pd_sess_hd
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_match_spec_value(const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -16876,12 +17648,18 @@ pd_status p4_pd_orbisk_switch_haloRow1Stage5_get_plcmt_data(pd_sess_hdl sess_hdl
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_haloRow1Stage5_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloRow1Stage5_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_haloRow1Stage5_match_spec_value(const p4_pd_orbisk_switch_haloRow1Stage5_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_haloRow1Stage5_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloRow1Stage5_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloRow1Stage5_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_haloRow1Stage5_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -16986,12 +17764,18 @@ pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_get_plcmt_data(pd_sess_hd
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_match_spec_value(const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -17123,12 +17907,18 @@ pd_status p4_pd_orbisk_switch_haloRow1Stage6_get_plcmt_data(pd_sess_hdl sess_hdl
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_haloRow1Stage6_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloRow1Stage6_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_haloRow1Stage6_match_spec_value(const p4_pd_orbisk_switch_haloRow1Stage6_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_haloRow1Stage6_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloRow1Stage6_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloRow1Stage6_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_haloRow1Stage6_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -17203,6 +17993,9 @@ pd_status p4_pd_orbisk_switch_haloBypass_get_plcmt_data(pd_sess_hdl sess_hdl,
 pd_status p4_pd_orbisk_switch_haloBypass_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloBypass_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_haloBypass_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -17300,12 +18093,18 @@ pd_status p4_pd_orbisk_switch_haloCounters_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_haloCounters_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloCounters_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_haloCounters_match_spec_value(const p4_pd_orbisk_switch_haloCounters_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_haloCounters_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloCounters_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_haloCounters_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_haloCounters_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -17316,12 +18115,18 @@ int p4_pd_orbisk_switch_haloCounters_plcmt_data_value(const void *plcmt_data,
 int p4_pd_orbisk_switch_haloCounters_match_specs_are_equal(const p4_pd_orbisk_switch_haloCounters_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_haloCounters_match_spec_t *hw_match_spec,
     char *error);
+int p4_pd_orbisk_switch_haloCounters_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_haloCounters_match_spec_t *match_spec,
+    char *out);
 int p4_pd_orbisk_switch_haloCounters_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_tbl_hdl tbl_hdl,
     pd_entry_hdl entry_hdl,
     const void *plcmt_data,
     char *error);
+int p4_pd_orbisk_switch_haloCounters_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* ================================================================== */
 /* Mirroring */
@@ -17478,6 +18283,9 @@ pd_status p4_pd_orbisk_switch_ingressMirrorSession_get_plcmt_data(pd_sess_hdl se
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ingressMirrorSession_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ingressMirrorSession_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_ingressMirrorSession_match_spec_value(const p4_pd_orbisk_switch_ingressMirrorSession_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_ingressMirrorSession_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -17485,6 +18293,9 @@ pd_status p4_pd_orbisk_switch_ingressMirrorSession_get_entry_from_plcmt_data(con
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ingressMirrorSession_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_ingressMirrorSession_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -17607,6 +18418,9 @@ pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_get_plcmt_data(pd_sess_hdl s
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_value(const p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -17616,6 +18430,9 @@ pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_get_entry_from_plcmt_data(co
     bool *has_mbr,
     bool *has_grp,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_ingressMirrorLagGroup_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -17729,12 +18546,18 @@ pd_status p4_pd_orbisk_switch_ingressMirrorRate_get_plcmt_data(pd_sess_hdl sess_
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ingressMirrorRate_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ingressMirrorRate_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_ingressMirrorRate_match_spec_value(const p4_pd_orbisk_switch_ingressMirrorRate_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_ingressMirrorRate_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ingressMirrorRate_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ingressMirrorRate_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_ingressMirrorRate_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -17841,12 +18664,18 @@ pd_status p4_pd_orbisk_switch_ingressMirrorResult_get_plcmt_data(pd_sess_hdl ses
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ingressMirrorResult_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ingressMirrorResult_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_ingressMirrorResult_match_spec_value(const p4_pd_orbisk_switch_ingressMirrorResult_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_ingressMirrorResult_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ingressMirrorResult_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ingressMirrorResult_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_ingressMirrorResult_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -18002,6 +18831,9 @@ pd_status p4_pd_orbisk_switch_egressMirrorSession_get_plcmt_data(pd_sess_hdl ses
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_egressMirrorSession_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_egressMirrorSession_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_egressMirrorSession_match_spec_value(const p4_pd_orbisk_switch_egressMirrorSession_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_egressMirrorSession_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -18009,6 +18841,9 @@ pd_status p4_pd_orbisk_switch_egressMirrorSession_get_entry_from_plcmt_data(cons
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_egressMirrorSession_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_egressMirrorSession_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -18131,6 +18966,9 @@ pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_get_plcmt_data(pd_sess_hdl se
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_value(const p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -18140,6 +18978,9 @@ pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_get_entry_from_plcmt_data(con
     bool *has_mbr,
     bool *has_grp,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_egressMirrorLagGroup_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -18253,12 +19094,18 @@ pd_status p4_pd_orbisk_switch_egressMirrorRate_get_plcmt_data(pd_sess_hdl sess_h
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_egressMirrorRate_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_egressMirrorRate_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_egressMirrorRate_match_spec_value(const p4_pd_orbisk_switch_egressMirrorRate_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_egressMirrorRate_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_egressMirrorRate_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_egressMirrorRate_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_egressMirrorRate_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -18369,12 +19216,18 @@ pd_status p4_pd_orbisk_switch_egressMirrorResult_get_plcmt_data(pd_sess_hdl sess
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_egressMirrorResult_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_egressMirrorResult_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_egressMirrorResult_match_spec_value(const p4_pd_orbisk_switch_egressMirrorResult_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_egressMirrorResult_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_egressMirrorResult_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_egressMirrorResult_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_egressMirrorResult_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -18513,12 +19366,18 @@ pd_status p4_pd_orbisk_switch_mirrorPacketEncap_get_plcmt_data(pd_sess_hdl sess_
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_mirrorPacketEncap_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_mirrorPacketEncap_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_mirrorPacketEncap_match_spec_value(const p4_pd_orbisk_switch_mirrorPacketEncap_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_mirrorPacketEncap_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_mirrorPacketEncap_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_mirrorPacketEncap_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_mirrorPacketEncap_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -18627,12 +19486,18 @@ pd_status p4_pd_orbisk_switch_qosPortProperties_get_plcmt_data(pd_sess_hdl sess_
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_qosPortProperties_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_qosPortProperties_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_qosPortProperties_match_spec_value(const p4_pd_orbisk_switch_qosPortProperties_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_qosPortProperties_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_qosPortProperties_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_qosPortProperties_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_qosPortProperties_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -18778,12 +19643,18 @@ pd_status p4_pd_orbisk_switch_normalizeCos_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_normalizeCos_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_normalizeCos_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_normalizeCos_match_spec_value(const p4_pd_orbisk_switch_normalizeCos_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_normalizeCos_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_normalizeCos_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_normalizeCos_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_normalizeCos_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -18951,12 +19822,18 @@ pd_status p4_pd_orbisk_switch_normalizeDscp_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_normalizeDscp_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_normalizeDscp_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_normalizeDscp_match_spec_value(const p4_pd_orbisk_switch_normalizeDscp_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_normalizeDscp_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_normalizeDscp_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_normalizeDscp_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_normalizeDscp_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -19090,6 +19967,9 @@ pd_status p4_pd_orbisk_switch_ingressTrafficClass_get_plcmt_data(pd_sess_hdl ses
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ingressTrafficClass_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ingressTrafficClass_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_ingressTrafficClass_match_spec_value(const p4_pd_orbisk_switch_ingressTrafficClass_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_ingressTrafficClass_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -19097,6 +19977,9 @@ pd_status p4_pd_orbisk_switch_ingressTrafficClass_get_entry_from_plcmt_data(cons
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ingressTrafficClass_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_ingressTrafficClass_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -19214,12 +20097,18 @@ pd_status p4_pd_orbisk_switch_tcDscpMap_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_tcDscpMap_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_tcDscpMap_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_tcDscpMap_match_spec_value(const p4_pd_orbisk_switch_tcDscpMap_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_tcDscpMap_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_tcDscpMap_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_tcDscpMap_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_tcDscpMap_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -19295,6 +20184,9 @@ pd_status p4_pd_orbisk_switch_qosRewriteConfig_get_plcmt_data(pd_sess_hdl sess_h
 pd_status p4_pd_orbisk_switch_qosRewriteConfig_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_qosRewriteConfig_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_qosRewriteConfig_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -19439,12 +20331,18 @@ pd_status p4_pd_orbisk_switch_qosRewrite_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_qosRewrite_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_qosRewrite_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_qosRewrite_match_spec_value(const p4_pd_orbisk_switch_qosRewrite_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_qosRewrite_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_qosRewrite_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_qosRewrite_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_qosRewrite_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -19652,6 +20550,9 @@ pd_status p4_pd_orbisk_switch_packetDscpRewrite_get_plcmt_data(pd_sess_hdl sess_
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_packetDscpRewrite_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_packetDscpRewrite_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_packetDscpRewrite_match_spec_value(const p4_pd_orbisk_switch_packetDscpRewrite_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_packetDscpRewrite_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -19659,6 +20560,9 @@ pd_status p4_pd_orbisk_switch_packetDscpRewrite_get_entry_from_plcmt_data(const 
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_packetDscpRewrite_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_packetDscpRewrite_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -19733,6 +20637,9 @@ pd_status p4_pd_orbisk_switch_queueCounters_get_plcmt_data(pd_sess_hdl sess_hdl,
 pd_status p4_pd_orbisk_switch_queueCounters_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_queueCounters_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_queueCounters_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -19878,6 +20785,9 @@ pd_status p4_pd_orbisk_switch_pdpClassify_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_pdpClassify_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_pdpClassify_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_pdpClassify_match_spec_value(const p4_pd_orbisk_switch_pdpClassify_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_pdpClassify_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -19885,6 +20795,9 @@ pd_status p4_pd_orbisk_switch_pdpClassify_get_entry_from_plcmt_data(const void *
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_pdpClassify_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_pdpClassify_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -20000,12 +20913,18 @@ pd_status p4_pd_orbisk_switch_pdpPolicy_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_pdpPolicy_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_pdpPolicy_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_pdpPolicy_match_spec_value(const p4_pd_orbisk_switch_pdpPolicy_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_pdpPolicy_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_pdpPolicy_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_pdpPolicy_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_pdpPolicy_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -20229,6 +21148,9 @@ pd_status p4_pd_orbisk_switch_trapToCpu_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_trapToCpu_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_trapToCpu_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_trapToCpu_match_spec_value(const p4_pd_orbisk_switch_trapToCpu_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_trapToCpu_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -20236,6 +21158,9 @@ pd_status p4_pd_orbisk_switch_trapToCpu_get_entry_from_plcmt_data(const void *pl
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_trapToCpu_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_trapToCpu_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -20246,12 +21171,18 @@ int p4_pd_orbisk_switch_trapToCpu_plcmt_data_value(const void *plcmt_data,
 int p4_pd_orbisk_switch_trapToCpu_match_specs_are_equal(const p4_pd_orbisk_switch_trapToCpu_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_trapToCpu_match_spec_t *hw_match_spec,
     char *error);
+int p4_pd_orbisk_switch_trapToCpu_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_trapToCpu_match_spec_t *match_spec,
+    char *out);
 int p4_pd_orbisk_switch_trapToCpu_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_tbl_hdl tbl_hdl,
     pd_entry_hdl entry_hdl,
     const void *plcmt_data,
     char *error);
+int p4_pd_orbisk_switch_trapToCpu_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* switchToCpu: table 0x11010009, pipeline B, exact match, 2 key bytes (7 bits) */
 typedef struct p4_pd_orbisk_switch_switchToCpu_match_spec {
@@ -20342,12 +21273,18 @@ pd_status p4_pd_orbisk_switch_switchToCpu_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_switchToCpu_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_switchToCpu_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_switchToCpu_match_spec_value(const p4_pd_orbisk_switch_switchToCpu_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_switchToCpu_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_switchToCpu_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_switchToCpu_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_switchToCpu_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -20571,6 +21508,9 @@ pd_status p4_pd_orbisk_switch_cpuEncap_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_cpuEncap_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_cpuEncap_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_cpuEncap_match_spec_value(const p4_pd_orbisk_switch_cpuEncap_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_cpuEncap_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -20578,6 +21518,9 @@ pd_status p4_pd_orbisk_switch_cpuEncap_get_entry_from_plcmt_data(const void *plc
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_cpuEncap_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_cpuEncap_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -20729,12 +21672,18 @@ pd_status p4_pd_orbisk_switch_cpuEncapFields_get_plcmt_data(pd_sess_hdl sess_hdl
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_cpuEncapFields_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_cpuEncapFields_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_cpuEncapFields_match_spec_value(const p4_pd_orbisk_switch_cpuEncapFields_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_cpuEncapFields_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_cpuEncapFields_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_cpuEncapFields_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_cpuEncapFields_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -20869,6 +21818,9 @@ pd_status p4_pd_orbisk_switch_ingMtu_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_ingMtu_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ingMtu_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_ingMtu_match_spec_value(const p4_pd_orbisk_switch_ingMtu_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_ingMtu_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -20876,6 +21828,9 @@ pd_status p4_pd_orbisk_switch_ingMtu_get_entry_from_plcmt_data(const void *plcmt
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_ingMtu_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_ingMtu_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -21010,6 +21965,9 @@ pd_status p4_pd_orbisk_switch_mtuCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_mtuCheck_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_mtuCheck_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_mtuCheck_match_spec_value(const p4_pd_orbisk_switch_mtuCheck_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_mtuCheck_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -21017,6 +21975,9 @@ pd_status p4_pd_orbisk_switch_mtuCheck_get_entry_from_plcmt_data(const void *plc
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_mtuCheck_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_mtuCheck_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -21256,6 +22217,9 @@ pd_status p4_pd_orbisk_switch_finalDropControl_get_plcmt_data(pd_sess_hdl sess_h
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_finalDropControl_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_finalDropControl_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_finalDropControl_match_spec_value(const p4_pd_orbisk_switch_finalDropControl_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_finalDropControl_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -21263,6 +22227,9 @@ pd_status p4_pd_orbisk_switch_finalDropControl_get_entry_from_plcmt_data(const v
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_finalDropControl_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_finalDropControl_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -21273,12 +22240,18 @@ int p4_pd_orbisk_switch_finalDropControl_plcmt_data_value(const void *plcmt_data
 int p4_pd_orbisk_switch_finalDropControl_match_specs_are_equal(const p4_pd_orbisk_switch_finalDropControl_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_finalDropControl_match_spec_t *hw_match_spec,
     char *error);
+int p4_pd_orbisk_switch_finalDropControl_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_finalDropControl_match_spec_t *match_spec,
+    char *out);
 int p4_pd_orbisk_switch_finalDropControl_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_tbl_hdl tbl_hdl,
     pd_entry_hdl entry_hdl,
     const void *plcmt_data,
     char *error);
+int p4_pd_orbisk_switch_finalDropControl_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* finalDropControlIB: table 0x11010027, pipeline B, ternary match, 12 key bytes (50 bits), entries carry finalDropControlIBCount */
 typedef struct p4_pd_orbisk_switch_finalDropControlIB_match_spec {
@@ -21404,6 +22377,9 @@ pd_status p4_pd_orbisk_switch_finalDropControlIB_get_plcmt_data(pd_sess_hdl sess
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_finalDropControlIB_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_finalDropControlIB_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_finalDropControlIB_match_spec_value(const p4_pd_orbisk_switch_finalDropControlIB_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_finalDropControlIB_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -21411,6 +22387,9 @@ pd_status p4_pd_orbisk_switch_finalDropControlIB_get_entry_from_plcmt_data(const
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_finalDropControlIB_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_finalDropControlIB_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -21421,12 +22400,18 @@ int p4_pd_orbisk_switch_finalDropControlIB_plcmt_data_value(const void *plcmt_da
 int p4_pd_orbisk_switch_finalDropControlIB_match_specs_are_equal(const p4_pd_orbisk_switch_finalDropControlIB_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_finalDropControlIB_match_spec_t *hw_match_spec,
     char *error);
+int p4_pd_orbisk_switch_finalDropControlIB_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_finalDropControlIB_match_spec_t *match_spec,
+    char *out);
 int p4_pd_orbisk_switch_finalDropControlIB_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_tbl_hdl tbl_hdl,
     pd_entry_hdl entry_hdl,
     const void *plcmt_data,
     char *error);
+int p4_pd_orbisk_switch_finalDropControlIB_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* ================================================================== */
 /* Interface policy and folded pipe */
@@ -21519,12 +22504,18 @@ pd_status p4_pd_orbisk_switch_eifIngPolicy_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_eifIngPolicy_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_eifIngPolicy_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_eifIngPolicy_match_spec_value(const p4_pd_orbisk_switch_eifIngPolicy_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_eifIngPolicy_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_eifIngPolicy_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_eifIngPolicy_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_eifIngPolicy_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -21599,6 +22590,9 @@ pd_status p4_pd_orbisk_switch_eifParamsForIngress_get_plcmt_data(pd_sess_hdl ses
 pd_status p4_pd_orbisk_switch_eifParamsForIngress_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_eifParamsForIngress_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_eifParamsForIngress_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -21700,12 +22694,18 @@ pd_status p4_pd_orbisk_switch_eifParamsForEgress_get_plcmt_data(pd_sess_hdl sess
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_eifParamsForEgress_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_eifParamsForEgress_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_eifParamsForEgress_match_spec_value(const p4_pd_orbisk_switch_eifParamsForEgress_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_eifParamsForEgress_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_eifParamsForEgress_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_eifParamsForEgress_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_eifParamsForEgress_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -21825,12 +22825,18 @@ pd_status p4_pd_orbisk_switch_eifPinHole_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_eifPinHole_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_eifPinHole_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_eifPinHole_match_spec_value(const p4_pd_orbisk_switch_eifPinHole_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_eifPinHole_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_eifPinHole_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_eifPinHole_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_eifPinHole_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -21962,12 +22968,18 @@ pd_status p4_pd_orbisk_switch_eifPinHoleHits_get_plcmt_data(pd_sess_hdl sess_hdl
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_eifPinHoleHits_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_eifPinHoleHits_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_eifPinHoleHits_match_spec_value(const p4_pd_orbisk_switch_eifPinHoleHits_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_eifPinHoleHits_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_eifPinHoleHits_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_eifPinHoleHits_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_eifPinHoleHits_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -22141,6 +23153,9 @@ pd_status p4_pd_orbisk_switch_eifAcl_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_eifAcl_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_eifAcl_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_eifAcl_match_spec_value(const p4_pd_orbisk_switch_eifAcl_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_eifAcl_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -22148,6 +23163,9 @@ pd_status p4_pd_orbisk_switch_eifAcl_get_entry_from_plcmt_data(const void *plcmt
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_eifAcl_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_eifAcl_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -22158,12 +23176,18 @@ int p4_pd_orbisk_switch_eifAcl_plcmt_data_value(const void *plcmt_data,
 int p4_pd_orbisk_switch_eifAcl_match_specs_are_equal(const p4_pd_orbisk_switch_eifAcl_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_eifAcl_match_spec_t *hw_match_spec,
     char *error);
+int p4_pd_orbisk_switch_eifAcl_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_eifAcl_match_spec_t *match_spec,
+    char *out);
 int p4_pd_orbisk_switch_eifAcl_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_tbl_hdl tbl_hdl,
     pd_entry_hdl entry_hdl,
     const void *plcmt_data,
     char *error);
+int p4_pd_orbisk_switch_eifAcl_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* eifForwardToPeerAcl: table 0x1101001d, pipeline B, ternary match, 34 key bytes (272 bits), entries carry eifForwardToPeerAclCount */
 typedef struct p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec {
@@ -22290,6 +23314,9 @@ pd_status p4_pd_orbisk_switch_eifForwardToPeerAcl_get_plcmt_data(pd_sess_hdl ses
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec_value(const p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_eifForwardToPeerAcl_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -22297,6 +23324,9 @@ pd_status p4_pd_orbisk_switch_eifForwardToPeerAcl_get_entry_from_plcmt_data(cons
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_eifForwardToPeerAcl_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_eifForwardToPeerAcl_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -22307,12 +23337,18 @@ int p4_pd_orbisk_switch_eifForwardToPeerAcl_plcmt_data_value(const void *plcmt_d
 int p4_pd_orbisk_switch_eifForwardToPeerAcl_match_specs_are_equal(const p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec_t *hw_match_spec,
     char *error);
+int p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec_t *match_spec,
+    char *out);
 int p4_pd_orbisk_switch_eifForwardToPeerAcl_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_tbl_hdl tbl_hdl,
     pd_entry_hdl entry_hdl,
     const void *plcmt_data,
     char *error);
+int p4_pd_orbisk_switch_eifForwardToPeerAcl_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* foldedPipeDest: table 0x01000054, pipeline A, ternary match, 4 key bytes (18 bits), entries name a member or group of foldedPipeActionProfile */
 typedef struct p4_pd_orbisk_switch_foldedPipeDest_match_spec {
@@ -22435,6 +23471,9 @@ pd_status p4_pd_orbisk_switch_foldedPipeDest_get_plcmt_data(pd_sess_hdl sess_hdl
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_foldedPipeDest_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_foldedPipeDest_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_foldedPipeDest_match_spec_value(const p4_pd_orbisk_switch_foldedPipeDest_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_foldedPipeDest_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -22445,6 +23484,9 @@ pd_status p4_pd_orbisk_switch_foldedPipeDest_get_entry_from_plcmt_data(const voi
     bool *has_mbr,
     bool *has_grp,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_foldedPipeDest_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_foldedPipeDest_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -22586,6 +23628,9 @@ pd_status p4_pd_orbisk_switch_foldedPipeQos_get_plcmt_data(pd_sess_hdl sess_hdl,
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_foldedPipeQos_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_foldedPipeQos_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_foldedPipeQos_match_spec_value(const p4_pd_orbisk_switch_foldedPipeQos_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_foldedPipeQos_get_entry_from_plcmt_data(const void *plcmt_data,
@@ -22593,6 +23638,9 @@ pd_status p4_pd_orbisk_switch_foldedPipeQos_get_entry_from_plcmt_data(const void
     uint32_t *priority,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_foldedPipeQos_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_foldedPipeQos_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -22695,12 +23743,18 @@ pd_status p4_pd_orbisk_switch_foldedPipeCounters_get_plcmt_data(pd_sess_hdl sess
     pd_entry_hdl entry_hdl,
     void *plcmt_data,
     uint32_t *size);
+void p4_pd_orbisk_switch_foldedPipeCounters_match_spec_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_foldedPipeCounters_match_spec_t *match_spec);
 int p4_pd_orbisk_switch_foldedPipeCounters_match_spec_value(const p4_pd_orbisk_switch_foldedPipeCounters_match_spec_t *match_spec,
     char *out);
 pd_status p4_pd_orbisk_switch_foldedPipeCounters_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_foldedPipeCounters_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
     bool *is_default);
+pd_status p4_pd_orbisk_switch_foldedPipeCounters_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_foldedPipeCounters_value(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -22711,12 +23765,18 @@ int p4_pd_orbisk_switch_foldedPipeCounters_plcmt_data_value(const void *plcmt_da
 int p4_pd_orbisk_switch_foldedPipeCounters_match_specs_are_equal(const p4_pd_orbisk_switch_foldedPipeCounters_match_spec_t *pd_match_spec,
     const p4_pd_orbisk_switch_foldedPipeCounters_match_spec_t *hw_match_spec,
     char *error);
+int p4_pd_orbisk_switch_foldedPipeCounters_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_foldedPipeCounters_match_spec_t *match_spec,
+    char *out);
 int p4_pd_orbisk_switch_foldedPipeCounters_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_tbl_hdl tbl_hdl,
     pd_entry_hdl entry_hdl,
     const void *plcmt_data,
     char *error);
+int p4_pd_orbisk_switch_foldedPipeCounters_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    char *out);
 
 /* ================================================================== */
 /* Action profiles: members, selector groups */
@@ -22864,6 +23924,9 @@ pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_get_full_member_info
     pd_mbr_hdl mbr_hdl,
     const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec);
+pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_adt_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_plcmt_data_value(const void *plcmt_data,
     char *out);
 
@@ -23009,6 +24072,9 @@ pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_get_full_member_info_fr
     pd_mbr_hdl mbr_hdl,
     const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec);
+pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_adt_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_mirrorLagPortActionProfile_plcmt_data_value(const void *plcmt_data,
     char *out);
 
@@ -23154,6 +24220,9 @@ pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_get_full_member_info_from_
     pd_mbr_hdl mbr_hdl,
     const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec);
+pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_adt_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_foldedPipeActionProfile_plcmt_data_value(const void *plcmt_data,
     char *out);
 
@@ -23299,6 +24368,9 @@ pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_get_full_member_info_from_
     pd_mbr_hdl mbr_hdl,
     const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec);
+pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_adt_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_ecmpMemberActionProfile_plcmt_data_value(const void *plcmt_data,
     char *out);
 
@@ -23444,6 +24516,9 @@ pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_get_full_member_info_fro
     pd_mbr_hdl mbr_hdl,
     const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec);
+pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_adt_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_tunnelMemberActionProfile_plcmt_data_value(const void *plcmt_data,
     char *out);
 
@@ -23608,6 +24683,9 @@ pd_status p4_pd_orbisk_switch_lagPortActionProfile_get_full_member_info_from_plc
     pd_mbr_hdl mbr_hdl,
     const void *plcmt_data,
     p4_pd_orbisk_switch_action_specs_t *action_spec);
+pd_status p4_pd_orbisk_switch_lagPortActionProfile_adt_plcmt_data_print(int fd,
+    int indent,
+    const void *plcmt_data);
 int p4_pd_orbisk_switch_lagPortActionProfile_plcmt_data_value(const void *plcmt_data,
     char *out);
 
@@ -24160,6 +25238,9 @@ pd_status p4_pd_orbisk_switch_register_write_all_indirect(pd_sess_hdl sess_hdl,
 int p4_pd_orbisk_switch_setPhase0_action_specs_are_equal(const p4_pd_orbisk_switch_setPhase0_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setPhase0_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setPhase0_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setPhase0_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setPhase0_schema(void);
 void unbuild_action_spec_setPhase0(const pd_action_record *act,
     p4_pd_orbisk_switch_setPhase0_action_spec_t *action_spec);
@@ -24176,6 +25257,9 @@ int p4_pd_orbisk_switch_setTunnelTerminationTypeNoneIpv4AndL2_value(char *out);
 int p4_pd_orbisk_switch_setTunnelTerminationTypeVxlan_action_specs_are_equal(const p4_pd_orbisk_switch_setTunnelTerminationTypeVxlan_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setTunnelTerminationTypeVxlan_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setTunnelTerminationTypeVxlan_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTunnelTerminationTypeVxlan_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTunnelTerminationTypeVxlan_schema(void);
 void unbuild_action_spec_setTunnelTerminationTypeVxlan(const pd_action_record *act,
     p4_pd_orbisk_switch_setTunnelTerminationTypeVxlan_action_spec_t *action_spec);
@@ -24186,6 +25270,9 @@ int p4_pd_orbisk_switch_setTunnelTerminationTypeNoneIpv6_value(char *out);
 int p4_pd_orbisk_switch_setL2DomainUntagged_action_specs_are_equal(const p4_pd_orbisk_switch_setL2DomainUntagged_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setL2DomainUntagged_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setL2DomainUntagged_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setL2DomainUntagged_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setL2DomainUntagged_schema(void);
 void unbuild_action_spec_setL2DomainUntagged(const pd_action_record *act,
     p4_pd_orbisk_switch_setL2DomainUntagged_action_spec_t *action_spec);
@@ -24194,6 +25281,9 @@ int p4_pd_orbisk_switch_setL2DomainUntagged_value(const p4_pd_orbisk_switch_setL
 int p4_pd_orbisk_switch_setL2DomainVlanXlate_action_specs_are_equal(const p4_pd_orbisk_switch_setL2DomainVlanXlate_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setL2DomainVlanXlate_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setL2DomainVlanXlate_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setL2DomainVlanXlate_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setL2DomainVlanXlate_schema(void);
 void unbuild_action_spec_setL2DomainVlanXlate(const pd_action_record *act,
     p4_pd_orbisk_switch_setL2DomainVlanXlate_action_spec_t *action_spec);
@@ -24202,6 +25292,9 @@ int p4_pd_orbisk_switch_setL2DomainVlanXlate_value(const p4_pd_orbisk_switch_set
 int p4_pd_orbisk_switch_setL2DomainTagged_action_specs_are_equal(const p4_pd_orbisk_switch_setL2DomainTagged_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setL2DomainTagged_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setL2DomainTagged_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setL2DomainTagged_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setL2DomainTagged_schema(void);
 void unbuild_action_spec_setL2DomainTagged(const pd_action_record *act,
     p4_pd_orbisk_switch_setL2DomainTagged_action_spec_t *action_spec);
@@ -24212,6 +25305,9 @@ int p4_pd_orbisk_switch_onMiss_value(char *out);
 int p4_pd_orbisk_switch_setVrfPropertiesTaggedXlatePkt_action_specs_are_equal(const p4_pd_orbisk_switch_setVrfPropertiesTaggedXlatePkt_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setVrfPropertiesTaggedXlatePkt_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setVrfPropertiesTaggedXlatePkt_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setVrfPropertiesTaggedXlatePkt_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setVrfPropertiesTaggedXlatePkt_schema(void);
 void unbuild_action_spec_setVrfPropertiesTaggedXlatePkt(const pd_action_record *act,
     p4_pd_orbisk_switch_setVrfPropertiesTaggedXlatePkt_action_spec_t *action_spec);
@@ -24222,6 +25318,9 @@ int p4_pd_orbisk_switch_setVrfPropertiesTaggedPktDefault_value(char *out);
 int p4_pd_orbisk_switch_setVrfPropertiesTaggedPkt_action_specs_are_equal(const p4_pd_orbisk_switch_setVrfPropertiesTaggedPkt_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setVrfPropertiesTaggedPkt_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setVrfPropertiesTaggedPkt_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setVrfPropertiesTaggedPkt_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setVrfPropertiesTaggedPkt_schema(void);
 void unbuild_action_spec_setVrfPropertiesTaggedPkt(const pd_action_record *act,
     p4_pd_orbisk_switch_setVrfPropertiesTaggedPkt_action_spec_t *action_spec);
@@ -24232,6 +25331,9 @@ int p4_pd_orbisk_switch_setVrfPropertiesUntaggedPktDefault_value(char *out);
 int p4_pd_orbisk_switch_setVrfPropertiesUntaggedPkt_action_specs_are_equal(const p4_pd_orbisk_switch_setVrfPropertiesUntaggedPkt_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setVrfPropertiesUntaggedPkt_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setVrfPropertiesUntaggedPkt_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setVrfPropertiesUntaggedPkt_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setVrfPropertiesUntaggedPkt_schema(void);
 void unbuild_action_spec_setVrfPropertiesUntaggedPkt(const pd_action_record *act,
     p4_pd_orbisk_switch_setVrfPropertiesUntaggedPkt_action_spec_t *action_spec);
@@ -24240,6 +25342,9 @@ int p4_pd_orbisk_switch_setVrfPropertiesUntaggedPkt_value(const p4_pd_orbisk_swi
 int p4_pd_orbisk_switch_setVxlanL2AintfLookupFields_action_specs_are_equal(const p4_pd_orbisk_switch_setVxlanL2AintfLookupFields_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setVxlanL2AintfLookupFields_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setVxlanL2AintfLookupFields_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setVxlanL2AintfLookupFields_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setVxlanL2AintfLookupFields_schema(void);
 void unbuild_action_spec_setVxlanL2AintfLookupFields(const pd_action_record *act,
     p4_pd_orbisk_switch_setVxlanL2AintfLookupFields_action_spec_t *action_spec);
@@ -24254,6 +25359,9 @@ int p4_pd_orbisk_switch_setvxlanL2AintfLookupMissSkipVtepLearn_value(char *out);
 int p4_pd_orbisk_switch_vxlanVniResolutionHit_action_specs_are_equal(const p4_pd_orbisk_switch_vxlanVniResolutionHit_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_vxlanVniResolutionHit_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_vxlanVniResolutionHit_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_vxlanVniResolutionHit_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_vxlanVniResolutionHit_schema(void);
 void unbuild_action_spec_vxlanVniResolutionHit(const pd_action_record *act,
     p4_pd_orbisk_switch_vxlanVniResolutionHit_action_spec_t *action_spec);
@@ -24266,6 +25374,9 @@ int p4_pd_orbisk_switch_setUcast_value(char *out);
 int p4_pd_orbisk_switch_setL2ControlFrame_action_specs_are_equal(const p4_pd_orbisk_switch_setL2ControlFrame_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setL2ControlFrame_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setL2ControlFrame_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setL2ControlFrame_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setL2ControlFrame_schema(void);
 void unbuild_action_spec_setL2ControlFrame(const pd_action_record *act,
     p4_pd_orbisk_switch_setL2ControlFrame_action_spec_t *action_spec);
@@ -24282,6 +25393,9 @@ int p4_pd_orbisk_switch_setIpMcast_value(char *out);
 int p4_pd_orbisk_switch_classifyL2ControlFrame_action_specs_are_equal(const p4_pd_orbisk_switch_classifyL2ControlFrame_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_classifyL2ControlFrame_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_classifyL2ControlFrame_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_classifyL2ControlFrame_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_classifyL2ControlFrame_schema(void);
 void unbuild_action_spec_classifyL2ControlFrame(const pd_action_record *act,
     p4_pd_orbisk_switch_classifyL2ControlFrame_action_spec_t *action_spec);
@@ -24296,6 +25410,9 @@ int p4_pd_orbisk_switch_setIllegalSmac_value(char *out);
 int p4_pd_orbisk_switch_setQosPortProperties_action_specs_are_equal(const p4_pd_orbisk_switch_setQosPortProperties_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setQosPortProperties_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setQosPortProperties_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setQosPortProperties_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setQosPortProperties_schema(void);
 void unbuild_action_spec_setQosPortProperties(const pd_action_record *act,
     p4_pd_orbisk_switch_setQosPortProperties_action_spec_t *action_spec);
@@ -24304,6 +25421,9 @@ int p4_pd_orbisk_switch_setQosPortProperties_value(const p4_pd_orbisk_switch_set
 int p4_pd_orbisk_switch_setQosRewriteConfiguration_action_specs_are_equal(const p4_pd_orbisk_switch_setQosRewriteConfiguration_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setQosRewriteConfiguration_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setQosRewriteConfiguration_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setQosRewriteConfiguration_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setQosRewriteConfiguration_schema(void);
 void unbuild_action_spec_setQosRewriteConfiguration(const pd_action_record *act,
     p4_pd_orbisk_switch_setQosRewriteConfiguration_action_spec_t *action_spec);
@@ -24324,6 +25444,9 @@ int p4_pd_orbisk_switch_setIngL3DmacValid_value(char *out);
 int p4_pd_orbisk_switch_setHaloCrlId2_action_specs_are_equal(const p4_pd_orbisk_switch_setHaloCrlId2_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setHaloCrlId2_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setHaloCrlId2_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setHaloCrlId2_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setHaloCrlId2_schema(void);
 void unbuild_action_spec_setHaloCrlId2(const pd_action_record *act,
     p4_pd_orbisk_switch_setHaloCrlId2_action_spec_t *action_spec);
@@ -24332,6 +25455,9 @@ int p4_pd_orbisk_switch_setHaloCrlId2_value(const p4_pd_orbisk_switch_setHaloCrl
 int p4_pd_orbisk_switch_setHaloCrlId_action_specs_are_equal(const p4_pd_orbisk_switch_setHaloCrlId_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setHaloCrlId_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setHaloCrlId_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setHaloCrlId_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setHaloCrlId_schema(void);
 void unbuild_action_spec_setHaloCrlId(const pd_action_record *act,
     p4_pd_orbisk_switch_setHaloCrlId_action_spec_t *action_spec);
@@ -24340,6 +25466,9 @@ int p4_pd_orbisk_switch_setHaloCrlId_value(const p4_pd_orbisk_switch_setHaloCrlI
 int p4_pd_orbisk_switch_l2ForwardParamsSet_action_specs_are_equal(const p4_pd_orbisk_switch_l2ForwardParamsSet_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_l2ForwardParamsSet_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_l2ForwardParamsSet_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l2ForwardParamsSet_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_l2ForwardParamsSet_schema(void);
 void unbuild_action_spec_l2ForwardParamsSet(const pd_action_record *act,
     p4_pd_orbisk_switch_l2ForwardParamsSet_action_spec_t *action_spec);
@@ -24348,6 +25477,9 @@ int p4_pd_orbisk_switch_l2ForwardParamsSet_value(const p4_pd_orbisk_switch_l2For
 int p4_pd_orbisk_switch_setVlanProperties_action_specs_are_equal(const p4_pd_orbisk_switch_setVlanProperties_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setVlanProperties_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setVlanProperties_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setVlanProperties_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setVlanProperties_schema(void);
 void unbuild_action_spec_setVlanProperties(const pd_action_record *act,
     p4_pd_orbisk_switch_setVlanProperties_action_spec_t *action_spec);
@@ -24356,6 +25488,9 @@ int p4_pd_orbisk_switch_setVlanProperties_value(const p4_pd_orbisk_switch_setVla
 int p4_pd_orbisk_switch_setHaloXformDip_action_specs_are_equal(const p4_pd_orbisk_switch_setHaloXformDip_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setHaloXformDip_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setHaloXformDip_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setHaloXformDip_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setHaloXformDip_schema(void);
 void unbuild_action_spec_setHaloXformDip(const pd_action_record *act,
     p4_pd_orbisk_switch_setHaloXformDip_action_spec_t *action_spec);
@@ -24366,6 +25501,9 @@ int p4_pd_orbisk_switch_setHaloInvalidDip_value(char *out);
 int p4_pd_orbisk_switch_setHaloXformIpv4Sip_action_specs_are_equal(const p4_pd_orbisk_switch_setHaloXformIpv4Sip_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setHaloXformIpv4Sip_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setHaloXformIpv4Sip_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setHaloXformIpv4Sip_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setHaloXformIpv4Sip_schema(void);
 void unbuild_action_spec_setHaloXformIpv4Sip(const pd_action_record *act,
     p4_pd_orbisk_switch_setHaloXformIpv4Sip_action_spec_t *action_spec);
@@ -24378,6 +25516,9 @@ int p4_pd_orbisk_switch_setHaloIpv4Common_value(char *out);
 int p4_pd_orbisk_switch_setHaloXformIpv6Sip_action_specs_are_equal(const p4_pd_orbisk_switch_setHaloXformIpv6Sip_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setHaloXformIpv6Sip_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setHaloXformIpv6Sip_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setHaloXformIpv6Sip_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setHaloXformIpv6Sip_schema(void);
 void unbuild_action_spec_setHaloXformIpv6Sip(const pd_action_record *act,
     p4_pd_orbisk_switch_setHaloXformIpv6Sip_action_spec_t *action_spec);
@@ -24388,6 +25529,9 @@ int p4_pd_orbisk_switch_setHaloIpv6Common_value(char *out);
 int p4_pd_orbisk_switch_setHaloXformDstPort_action_specs_are_equal(const p4_pd_orbisk_switch_setHaloXformDstPort_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setHaloXformDstPort_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setHaloXformDstPort_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setHaloXformDstPort_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setHaloXformDstPort_schema(void);
 void unbuild_action_spec_setHaloXformDstPort(const pd_action_record *act,
     p4_pd_orbisk_switch_setHaloXformDstPort_action_spec_t *action_spec);
@@ -24396,6 +25540,9 @@ int p4_pd_orbisk_switch_setHaloXformDstPort_value(const p4_pd_orbisk_switch_setH
 int p4_pd_orbisk_switch_setHaloXformSrcPort_action_specs_are_equal(const p4_pd_orbisk_switch_setHaloXformSrcPort_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setHaloXformSrcPort_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setHaloXformSrcPort_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setHaloXformSrcPort_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setHaloXformSrcPort_schema(void);
 void unbuild_action_spec_setHaloXformSrcPort(const pd_action_record *act,
     p4_pd_orbisk_switch_setHaloXformSrcPort_action_spec_t *action_spec);
@@ -24404,6 +25551,9 @@ int p4_pd_orbisk_switch_setHaloXformSrcPort_value(const p4_pd_orbisk_switch_setH
 int p4_pd_orbisk_switch_setFullConeDipRangeId_action_specs_are_equal(const p4_pd_orbisk_switch_setFullConeDipRangeId_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setFullConeDipRangeId_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setFullConeDipRangeId_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setFullConeDipRangeId_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setFullConeDipRangeId_schema(void);
 void unbuild_action_spec_setFullConeDipRangeId(const pd_action_record *act,
     p4_pd_orbisk_switch_setFullConeDipRangeId_action_spec_t *action_spec);
@@ -24412,6 +25562,9 @@ int p4_pd_orbisk_switch_setFullConeDipRangeId_value(const p4_pd_orbisk_switch_se
 int p4_pd_orbisk_switch_setIngNatProfile_action_specs_are_equal(const p4_pd_orbisk_switch_setIngNatProfile_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setIngNatProfile_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setIngNatProfile_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setIngNatProfile_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIngNatProfile_schema(void);
 void unbuild_action_spec_setIngNatProfile(const pd_action_record *act,
     p4_pd_orbisk_switch_setIngNatProfile_action_spec_t *action_spec);
@@ -24420,6 +25573,9 @@ int p4_pd_orbisk_switch_setIngNatProfile_value(const p4_pd_orbisk_switch_setIngN
 int p4_pd_orbisk_switch_setEcmp_action_specs_are_equal(const p4_pd_orbisk_switch_setEcmp_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setEcmp_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setEcmp_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEcmp_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEcmp_schema(void);
 void unbuild_action_spec_setEcmp(const pd_action_record *act,
     p4_pd_orbisk_switch_setEcmp_action_spec_t *action_spec);
@@ -24428,6 +25584,9 @@ int p4_pd_orbisk_switch_setEcmp_value(const p4_pd_orbisk_switch_setEcmp_action_s
 int p4_pd_orbisk_switch_setNextHop_action_specs_are_equal(const p4_pd_orbisk_switch_setNextHop_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setNextHop_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setNextHop_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setNextHop_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNextHop_schema(void);
 void unbuild_action_spec_setNextHop(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHop_action_spec_t *action_spec);
@@ -24436,6 +25595,9 @@ int p4_pd_orbisk_switch_setNextHop_value(const p4_pd_orbisk_switch_setNextHop_ac
 int p4_pd_orbisk_switch_setNextHop2_action_specs_are_equal(const p4_pd_orbisk_switch_setNextHop2_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setNextHop2_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setNextHop2_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setNextHop2_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNextHop2_schema(void);
 void unbuild_action_spec_setNextHop2(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHop2_action_spec_t *action_spec);
@@ -24444,6 +25606,9 @@ int p4_pd_orbisk_switch_setNextHop2_value(const p4_pd_orbisk_switch_setNextHop2_
 int p4_pd_orbisk_switch_setNextHop3_action_specs_are_equal(const p4_pd_orbisk_switch_setNextHop3_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setNextHop3_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setNextHop3_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setNextHop3_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNextHop3_schema(void);
 void unbuild_action_spec_setNextHop3(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHop3_action_spec_t *action_spec);
@@ -24452,6 +25617,9 @@ int p4_pd_orbisk_switch_setNextHop3_value(const p4_pd_orbisk_switch_setNextHop3_
 int p4_pd_orbisk_switch_setIpv6PrtResultXFirst_action_specs_are_equal(const p4_pd_orbisk_switch_setIpv6PrtResultXFirst_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setIpv6PrtResultXFirst_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setIpv6PrtResultXFirst_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setIpv6PrtResultXFirst_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIpv6PrtResultXFirst_schema(void);
 void unbuild_action_spec_setIpv6PrtResultXFirst(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpv6PrtResultXFirst_action_spec_t *action_spec);
@@ -24460,6 +25628,9 @@ int p4_pd_orbisk_switch_setIpv6PrtResultXFirst_value(const p4_pd_orbisk_switch_s
 int p4_pd_orbisk_switch_setTranslatedDipNextHop_action_specs_are_equal(const p4_pd_orbisk_switch_setTranslatedDipNextHop_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setTranslatedDipNextHop_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setTranslatedDipNextHop_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTranslatedDipNextHop_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedDipNextHop_schema(void);
 void unbuild_action_spec_setTranslatedDipNextHop(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipNextHop_action_spec_t *action_spec);
@@ -24468,6 +25639,9 @@ int p4_pd_orbisk_switch_setTranslatedDipNextHop_value(const p4_pd_orbisk_switch_
 int p4_pd_orbisk_switch_setTranslatedDipPortNextHopDynamic_action_specs_are_equal(const p4_pd_orbisk_switch_setTranslatedDipPortNextHopDynamic_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setTranslatedDipPortNextHopDynamic_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setTranslatedDipPortNextHopDynamic_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTranslatedDipPortNextHopDynamic_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedDipPortNextHopDynamic_schema(void);
 void unbuild_action_spec_setTranslatedDipPortNextHopDynamic(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipPortNextHopDynamic_action_spec_t *action_spec);
@@ -24476,6 +25650,9 @@ int p4_pd_orbisk_switch_setTranslatedDipPortNextHopDynamic_value(const p4_pd_orb
 int p4_pd_orbisk_switch_setTranslatedDipPort_action_specs_are_equal(const p4_pd_orbisk_switch_setTranslatedDipPort_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setTranslatedDipPort_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setTranslatedDipPort_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTranslatedDipPort_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedDipPort_schema(void);
 void unbuild_action_spec_setTranslatedDipPort(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipPort_action_spec_t *action_spec);
@@ -24484,6 +25661,9 @@ int p4_pd_orbisk_switch_setTranslatedDipPort_value(const p4_pd_orbisk_switch_set
 int p4_pd_orbisk_switch_setDnatAclId_action_specs_are_equal(const p4_pd_orbisk_switch_setDnatAclId_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setDnatAclId_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setDnatAclId_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setDnatAclId_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setDnatAclId_schema(void);
 void unbuild_action_spec_setDnatAclId(const pd_action_record *act,
     p4_pd_orbisk_switch_setDnatAclId_action_spec_t *action_spec);
@@ -24496,6 +25676,9 @@ int p4_pd_orbisk_switch_countEgressQueue_value(char *out);
 int p4_pd_orbisk_switch_setTunnelDip_action_specs_are_equal(const p4_pd_orbisk_switch_setTunnelDip_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setTunnelDip_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setTunnelDip_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTunnelDip_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTunnelDip_schema(void);
 void unbuild_action_spec_setTunnelDip(const pd_action_record *act,
     p4_pd_orbisk_switch_setTunnelDip_action_spec_t *action_spec);
@@ -24504,6 +25687,9 @@ int p4_pd_orbisk_switch_setTunnelDip_value(const p4_pd_orbisk_switch_setTunnelDi
 int p4_pd_orbisk_switch_setEgressMirrorSession_action_specs_are_equal(const p4_pd_orbisk_switch_setEgressMirrorSession_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setEgressMirrorSession_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setEgressMirrorSession_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEgressMirrorSession_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEgressMirrorSession_schema(void);
 void unbuild_action_spec_setEgressMirrorSession(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgressMirrorSession_action_spec_t *action_spec);
@@ -24512,6 +25698,9 @@ int p4_pd_orbisk_switch_setEgressMirrorSession_value(const p4_pd_orbisk_switch_s
 int p4_pd_orbisk_switch_setVxlanVniAndVti_action_specs_are_equal(const p4_pd_orbisk_switch_setVxlanVniAndVti_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setVxlanVniAndVti_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setVxlanVniAndVti_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setVxlanVniAndVti_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setVxlanVniAndVti_schema(void);
 void unbuild_action_spec_setVxlanVniAndVti(const pd_action_record *act,
     p4_pd_orbisk_switch_setVxlanVniAndVti_action_spec_t *action_spec);
@@ -24522,6 +25711,9 @@ int p4_pd_orbisk_switch_setInvalidVni_value(char *out);
 int p4_pd_orbisk_switch_setL2DomainReplicated_action_specs_are_equal(const p4_pd_orbisk_switch_setL2DomainReplicated_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setL2DomainReplicated_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setL2DomainReplicated_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setL2DomainReplicated_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setL2DomainReplicated_schema(void);
 void unbuild_action_spec_setL2DomainReplicated(const pd_action_record *act,
     p4_pd_orbisk_switch_setL2DomainReplicated_action_spec_t *action_spec);
@@ -24534,6 +25726,9 @@ int p4_pd_orbisk_switch_setMirrorPacketEncapNone_value(char *out);
 int p4_pd_orbisk_switch_setMirrorPacketEncapCpu_action_specs_are_equal(const p4_pd_orbisk_switch_setMirrorPacketEncapCpu_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setMirrorPacketEncapCpu_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setMirrorPacketEncapCpu_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setMirrorPacketEncapCpu_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setMirrorPacketEncapCpu_schema(void);
 void unbuild_action_spec_setMirrorPacketEncapCpu(const pd_action_record *act,
     p4_pd_orbisk_switch_setMirrorPacketEncapCpu_action_spec_t *action_spec);
@@ -24542,6 +25737,9 @@ int p4_pd_orbisk_switch_setMirrorPacketEncapCpu_value(const p4_pd_orbisk_switch_
 int p4_pd_orbisk_switch_setMirrorPacketEncapGreIpv4_action_specs_are_equal(const p4_pd_orbisk_switch_setMirrorPacketEncapGreIpv4_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setMirrorPacketEncapGreIpv4_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setMirrorPacketEncapGreIpv4_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setMirrorPacketEncapGreIpv4_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setMirrorPacketEncapGreIpv4_schema(void);
 void unbuild_action_spec_setMirrorPacketEncapGreIpv4(const pd_action_record *act,
     p4_pd_orbisk_switch_setMirrorPacketEncapGreIpv4_action_spec_t *action_spec);
@@ -24550,6 +25748,9 @@ int p4_pd_orbisk_switch_setMirrorPacketEncapGreIpv4_value(const p4_pd_orbisk_swi
 int p4_pd_orbisk_switch_setTcDscp_action_specs_are_equal(const p4_pd_orbisk_switch_setTcDscp_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setTcDscp_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setTcDscp_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTcDscp_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTcDscp_schema(void);
 void unbuild_action_spec_setTcDscp(const pd_action_record *act,
     p4_pd_orbisk_switch_setTcDscp_action_spec_t *action_spec);
@@ -24558,6 +25759,9 @@ int p4_pd_orbisk_switch_setTcDscp_value(const p4_pd_orbisk_switch_setTcDscp_acti
 int p4_pd_orbisk_switch_setTranslatedDipNextHopAndCount_action_specs_are_equal(const p4_pd_orbisk_switch_setTranslatedDipNextHopAndCount_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setTranslatedDipNextHopAndCount_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setTranslatedDipNextHopAndCount_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTranslatedDipNextHopAndCount_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedDipNextHopAndCount_schema(void);
 void unbuild_action_spec_setTranslatedDipNextHopAndCount(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipNextHopAndCount_action_spec_t *action_spec);
@@ -24566,6 +25770,9 @@ int p4_pd_orbisk_switch_setTranslatedDipNextHopAndCount_value(const p4_pd_orbisk
 int p4_pd_orbisk_switch_setTranslatedDipPortNextHopAndCount_action_specs_are_equal(const p4_pd_orbisk_switch_setTranslatedDipPortNextHopAndCount_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setTranslatedDipPortNextHopAndCount_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setTranslatedDipPortNextHopAndCount_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTranslatedDipPortNextHopAndCount_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedDipPortNextHopAndCount_schema(void);
 void unbuild_action_spec_setTranslatedDipPortNextHopAndCount(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipPortNextHopAndCount_action_spec_t *action_spec);
@@ -24574,6 +25781,9 @@ int p4_pd_orbisk_switch_setTranslatedDipPortNextHopAndCount_value(const p4_pd_or
 int p4_pd_orbisk_switch_setTranslatedDipNextHopEcmpAndCount_action_specs_are_equal(const p4_pd_orbisk_switch_setTranslatedDipNextHopEcmpAndCount_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setTranslatedDipNextHopEcmpAndCount_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setTranslatedDipNextHopEcmpAndCount_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTranslatedDipNextHopEcmpAndCount_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedDipNextHopEcmpAndCount_schema(void);
 void unbuild_action_spec_setTranslatedDipNextHopEcmpAndCount(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipNextHopEcmpAndCount_action_spec_t *action_spec);
@@ -24582,6 +25792,9 @@ int p4_pd_orbisk_switch_setTranslatedDipNextHopEcmpAndCount_value(const p4_pd_or
 int p4_pd_orbisk_switch_setTranslatedDipPortNextHopEcmpAndCount_action_specs_are_equal(const p4_pd_orbisk_switch_setTranslatedDipPortNextHopEcmpAndCount_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setTranslatedDipPortNextHopEcmpAndCount_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setTranslatedDipPortNextHopEcmpAndCount_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTranslatedDipPortNextHopEcmpAndCount_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedDipPortNextHopEcmpAndCount_schema(void);
 void unbuild_action_spec_setTranslatedDipPortNextHopEcmpAndCount(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipPortNextHopEcmpAndCount_action_spec_t *action_spec);
@@ -24590,6 +25803,9 @@ int p4_pd_orbisk_switch_setTranslatedDipPortNextHopEcmpAndCount_value(const p4_p
 int p4_pd_orbisk_switch_setTranslatedDipNextHopEcmp_action_specs_are_equal(const p4_pd_orbisk_switch_setTranslatedDipNextHopEcmp_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setTranslatedDipNextHopEcmp_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setTranslatedDipNextHopEcmp_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTranslatedDipNextHopEcmp_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedDipNextHopEcmp_schema(void);
 void unbuild_action_spec_setTranslatedDipNextHopEcmp(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipNextHopEcmp_action_spec_t *action_spec);
@@ -24598,6 +25814,9 @@ int p4_pd_orbisk_switch_setTranslatedDipNextHopEcmp_value(const p4_pd_orbisk_swi
 int p4_pd_orbisk_switch_haloKeyMaskedRow1Stage2_action_specs_are_equal(const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage2_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage2_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_haloKeyMaskedRow1Stage2_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage2_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_haloKeyMaskedRow1Stage2_schema(void);
 void unbuild_action_spec_haloKeyMaskedRow1Stage2(const pd_action_record *act,
     p4_pd_orbisk_switch_haloKeyMaskedRow1Stage2_action_spec_t *action_spec);
@@ -24618,6 +25837,9 @@ int p4_pd_orbisk_switch_setInvalidEgressPort_value(char *out);
 int p4_pd_orbisk_switch_setEgressPort_action_specs_are_equal(const p4_pd_orbisk_switch_setEgressPort_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setEgressPort_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setEgressPort_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEgressPort_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEgressPort_schema(void);
 void unbuild_action_spec_setEgressPort(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgressPort_action_spec_t *action_spec);
@@ -24630,6 +25852,9 @@ int p4_pd_orbisk_switch_removeOrbiskHdrs_value(char *out);
 int p4_pd_orbisk_switch_setEifIngPolicy_action_specs_are_equal(const p4_pd_orbisk_switch_setEifIngPolicy_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setEifIngPolicy_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setEifIngPolicy_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEifIngPolicy_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEifIngPolicy_schema(void);
 void unbuild_action_spec_setEifIngPolicy(const pd_action_record *act,
     p4_pd_orbisk_switch_setEifIngPolicy_action_spec_t *action_spec);
@@ -24640,6 +25865,9 @@ int p4_pd_orbisk_switch_ipv6LgMaskFinalResolveDefaultFirst_value(char *out);
 int p4_pd_orbisk_switch_setV6NextHop0First_action_specs_are_equal(const p4_pd_orbisk_switch_setV6NextHop0First_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setV6NextHop0First_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setV6NextHop0First_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setV6NextHop0First_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setV6NextHop0First_schema(void);
 void unbuild_action_spec_setV6NextHop0First(const pd_action_record *act,
     p4_pd_orbisk_switch_setV6NextHop0First_action_spec_t *action_spec);
@@ -24648,6 +25876,9 @@ int p4_pd_orbisk_switch_setV6NextHop0First_value(const p4_pd_orbisk_switch_setV6
 int p4_pd_orbisk_switch_setV6NextHop2First_action_specs_are_equal(const p4_pd_orbisk_switch_setV6NextHop2First_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setV6NextHop2First_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setV6NextHop2First_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setV6NextHop2First_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setV6NextHop2First_schema(void);
 void unbuild_action_spec_setV6NextHop2First(const pd_action_record *act,
     p4_pd_orbisk_switch_setV6NextHop2First_action_spec_t *action_spec);
@@ -24656,6 +25887,9 @@ int p4_pd_orbisk_switch_setV6NextHop2First_value(const p4_pd_orbisk_switch_setV6
 int p4_pd_orbisk_switch_setV6NextHop3First_action_specs_are_equal(const p4_pd_orbisk_switch_setV6NextHop3First_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setV6NextHop3First_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setV6NextHop3First_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setV6NextHop3First_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setV6NextHop3First_schema(void);
 void unbuild_action_spec_setV6NextHop3First(const pd_action_record *act,
     p4_pd_orbisk_switch_setV6NextHop3First_action_spec_t *action_spec);
@@ -24664,6 +25898,9 @@ int p4_pd_orbisk_switch_setV6NextHop3First_value(const p4_pd_orbisk_switch_setV6
 int p4_pd_orbisk_switch_setV6NextHop1First_action_specs_are_equal(const p4_pd_orbisk_switch_setV6NextHop1First_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setV6NextHop1First_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setV6NextHop1First_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setV6NextHop1First_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setV6NextHop1First_schema(void);
 void unbuild_action_spec_setV6NextHop1First(const pd_action_record *act,
     p4_pd_orbisk_switch_setV6NextHop1First_action_spec_t *action_spec);
@@ -24672,6 +25909,9 @@ int p4_pd_orbisk_switch_setV6NextHop1First_value(const p4_pd_orbisk_switch_setV6
 int p4_pd_orbisk_switch_setIpv6PrtIdxNextHop_action_specs_are_equal(const p4_pd_orbisk_switch_setIpv6PrtIdxNextHop_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setIpv6PrtIdxNextHop_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setIpv6PrtIdxNextHop_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setIpv6PrtIdxNextHop_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIpv6PrtIdxNextHop_schema(void);
 void unbuild_action_spec_setIpv6PrtIdxNextHop(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpv6PrtIdxNextHop_action_spec_t *action_spec);
@@ -24680,6 +25920,9 @@ int p4_pd_orbisk_switch_setIpv6PrtIdxNextHop_value(const p4_pd_orbisk_switch_set
 int p4_pd_orbisk_switch_setIpv6PrtIdxNextHop2_action_specs_are_equal(const p4_pd_orbisk_switch_setIpv6PrtIdxNextHop2_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setIpv6PrtIdxNextHop2_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setIpv6PrtIdxNextHop2_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setIpv6PrtIdxNextHop2_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIpv6PrtIdxNextHop2_schema(void);
 void unbuild_action_spec_setIpv6PrtIdxNextHop2(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpv6PrtIdxNextHop2_action_spec_t *action_spec);
@@ -24688,6 +25931,9 @@ int p4_pd_orbisk_switch_setIpv6PrtIdxNextHop2_value(const p4_pd_orbisk_switch_se
 int p4_pd_orbisk_switch_setIpv6PrtIdxNextHop3_action_specs_are_equal(const p4_pd_orbisk_switch_setIpv6PrtIdxNextHop3_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setIpv6PrtIdxNextHop3_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setIpv6PrtIdxNextHop3_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setIpv6PrtIdxNextHop3_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIpv6PrtIdxNextHop3_schema(void);
 void unbuild_action_spec_setIpv6PrtIdxNextHop3(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpv6PrtIdxNextHop3_action_spec_t *action_spec);
@@ -24696,6 +25942,9 @@ int p4_pd_orbisk_switch_setIpv6PrtIdxNextHop3_value(const p4_pd_orbisk_switch_se
 int p4_pd_orbisk_switch_setIpv6PrtIdxEcmp_action_specs_are_equal(const p4_pd_orbisk_switch_setIpv6PrtIdxEcmp_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setIpv6PrtIdxEcmp_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setIpv6PrtIdxEcmp_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setIpv6PrtIdxEcmp_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIpv6PrtIdxEcmp_schema(void);
 void unbuild_action_spec_setIpv6PrtIdxEcmp(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpv6PrtIdxEcmp_action_spec_t *action_spec);
@@ -24706,6 +25955,9 @@ int p4_pd_orbisk_switch_setFibMiss_value(char *out);
 int p4_pd_orbisk_switch_setEgrLagMemberSelector_action_specs_are_equal(const p4_pd_orbisk_switch_setEgrLagMemberSelector_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setEgrLagMemberSelector_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setEgrLagMemberSelector_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEgrLagMemberSelector_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEgrLagMemberSelector_schema(void);
 void unbuild_action_spec_setEgrLagMemberSelector(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrLagMemberSelector_action_spec_t *action_spec);
@@ -24714,6 +25966,9 @@ int p4_pd_orbisk_switch_setEgrLagMemberSelector_value(const p4_pd_orbisk_switch_
 int p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelCommon_action_specs_are_equal(const p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelCommon_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelCommon_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelCommon_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelCommon_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelCommon_schema(void);
 void unbuild_action_spec_setGlobalFieldsForVxlanTunnelCommon(const pd_action_record *act,
     p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelCommon_action_spec_t *action_spec);
@@ -24722,6 +25977,9 @@ int p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelCommon_value(const p4_pd_or
 int p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4_action_specs_are_equal(const p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4_schema(void);
 void unbuild_action_spec_setGlobalFieldsForVxlanTunnelIpv4(const pd_action_record *act,
     p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4_action_spec_t *action_spec);
@@ -24730,6 +25988,9 @@ int p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4_value(const p4_pd_orbi
 int p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_action_specs_are_equal(const p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_schema(void);
 void unbuild_action_spec_setGlobalFieldsForVxlanTunnelIpv4UseDipB(const pd_action_record *act,
     p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_action_spec_t *action_spec);
@@ -24740,6 +26001,9 @@ int p4_pd_orbisk_switch_setTunnelL2InfoDefault_value(char *out);
 int p4_pd_orbisk_switch_setTunnelL2Info_action_specs_are_equal(const p4_pd_orbisk_switch_setTunnelL2Info_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setTunnelL2Info_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setTunnelL2Info_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTunnelL2Info_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTunnelL2Info_schema(void);
 void unbuild_action_spec_setTunnelL2Info(const pd_action_record *act,
     p4_pd_orbisk_switch_setTunnelL2Info_action_spec_t *action_spec);
@@ -24748,6 +26012,9 @@ int p4_pd_orbisk_switch_setTunnelL2Info_value(const p4_pd_orbisk_switch_setTunne
 int p4_pd_orbisk_switch_l2LookupKnownUcast_action_specs_are_equal(const p4_pd_orbisk_switch_l2LookupKnownUcast_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_l2LookupKnownUcast_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_l2LookupKnownUcast_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l2LookupKnownUcast_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_l2LookupKnownUcast_schema(void);
 void unbuild_action_spec_l2LookupKnownUcast(const pd_action_record *act,
     p4_pd_orbisk_switch_l2LookupKnownUcast_action_spec_t *action_spec);
@@ -24756,6 +26023,9 @@ int p4_pd_orbisk_switch_l2LookupKnownUcast_value(const p4_pd_orbisk_switch_l2Loo
 int p4_pd_orbisk_switch_l2LookupKnownMcast_action_specs_are_equal(const p4_pd_orbisk_switch_l2LookupKnownMcast_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_l2LookupKnownMcast_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_l2LookupKnownMcast_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l2LookupKnownMcast_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_l2LookupKnownMcast_schema(void);
 void unbuild_action_spec_l2LookupKnownMcast(const pd_action_record *act,
     p4_pd_orbisk_switch_l2LookupKnownMcast_action_spec_t *action_spec);
@@ -24764,6 +26034,9 @@ int p4_pd_orbisk_switch_l2LookupKnownMcast_value(const p4_pd_orbisk_switch_l2Loo
 int p4_pd_orbisk_switch_l2LookupKnownUcastTunnel_action_specs_are_equal(const p4_pd_orbisk_switch_l2LookupKnownUcastTunnel_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_l2LookupKnownUcastTunnel_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_l2LookupKnownUcastTunnel_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_l2LookupKnownUcastTunnel_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_l2LookupKnownUcastTunnel_schema(void);
 void unbuild_action_spec_l2LookupKnownUcastTunnel(const pd_action_record *act,
     p4_pd_orbisk_switch_l2LookupKnownUcastTunnel_action_spec_t *action_spec);
@@ -24782,6 +26055,9 @@ int p4_pd_orbisk_switch_nop_value(char *out);
 int p4_pd_orbisk_switch_haloSetBestResultRow1_action_specs_are_equal(const p4_pd_orbisk_switch_haloSetBestResultRow1_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_haloSetBestResultRow1_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_haloSetBestResultRow1_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloSetBestResultRow1_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_haloSetBestResultRow1_schema(void);
 void unbuild_action_spec_haloSetBestResultRow1(const pd_action_record *act,
     p4_pd_orbisk_switch_haloSetBestResultRow1_action_spec_t *action_spec);
@@ -24790,6 +26066,9 @@ int p4_pd_orbisk_switch_haloSetBestResultRow1_value(const p4_pd_orbisk_switch_ha
 int p4_pd_orbisk_switch_haloKeyMaskedRow1Stage3_action_specs_are_equal(const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage3_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage3_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_haloKeyMaskedRow1Stage3_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage3_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_haloKeyMaskedRow1Stage3_schema(void);
 void unbuild_action_spec_haloKeyMaskedRow1Stage3(const pd_action_record *act,
     p4_pd_orbisk_switch_haloKeyMaskedRow1Stage3_action_spec_t *action_spec);
@@ -24802,6 +26081,9 @@ int p4_pd_orbisk_switch_cancelVxlanDecap_value(char *out);
 int p4_pd_orbisk_switch_setCosFromDefault_action_specs_are_equal(const p4_pd_orbisk_switch_setCosFromDefault_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setCosFromDefault_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setCosFromDefault_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setCosFromDefault_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setCosFromDefault_schema(void);
 void unbuild_action_spec_setCosFromDefault(const pd_action_record *act,
     p4_pd_orbisk_switch_setCosFromDefault_action_spec_t *action_spec);
@@ -24810,6 +26092,9 @@ int p4_pd_orbisk_switch_setCosFromDefault_value(const p4_pd_orbisk_switch_setCos
 int p4_pd_orbisk_switch_setCosFromPacket_action_specs_are_equal(const p4_pd_orbisk_switch_setCosFromPacket_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setCosFromPacket_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setCosFromPacket_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setCosFromPacket_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setCosFromPacket_schema(void);
 void unbuild_action_spec_setCosFromPacket(const pd_action_record *act,
     p4_pd_orbisk_switch_setCosFromPacket_action_spec_t *action_spec);
@@ -24818,6 +26103,9 @@ int p4_pd_orbisk_switch_setCosFromPacket_value(const p4_pd_orbisk_switch_setCosF
 int p4_pd_orbisk_switch_setCosFromPacketWithInner_action_specs_are_equal(const p4_pd_orbisk_switch_setCosFromPacketWithInner_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setCosFromPacketWithInner_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setCosFromPacketWithInner_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setCosFromPacketWithInner_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setCosFromPacketWithInner_schema(void);
 void unbuild_action_spec_setCosFromPacketWithInner(const pd_action_record *act,
     p4_pd_orbisk_switch_setCosFromPacketWithInner_action_spec_t *action_spec);
@@ -24834,6 +26122,9 @@ int p4_pd_orbisk_switch_dropDatalink_value(char *out);
 int p4_pd_orbisk_switch_setIngressMirrorSession_action_specs_are_equal(const p4_pd_orbisk_switch_setIngressMirrorSession_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setIngressMirrorSession_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setIngressMirrorSession_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setIngressMirrorSession_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIngressMirrorSession_schema(void);
 void unbuild_action_spec_setIngressMirrorSession(const pd_action_record *act,
     p4_pd_orbisk_switch_setIngressMirrorSession_action_spec_t *action_spec);
@@ -24842,6 +26133,9 @@ int p4_pd_orbisk_switch_setIngressMirrorSession_value(const p4_pd_orbisk_switch_
 int p4_pd_orbisk_switch_noDecapNoEncapRouteIpv4_action_specs_are_equal(const p4_pd_orbisk_switch_noDecapNoEncapRouteIpv4_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_noDecapNoEncapRouteIpv4_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_noDecapNoEncapRouteIpv4_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_noDecapNoEncapRouteIpv4_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_noDecapNoEncapRouteIpv4_schema(void);
 void unbuild_action_spec_noDecapNoEncapRouteIpv4(const pd_action_record *act,
     p4_pd_orbisk_switch_noDecapNoEncapRouteIpv4_action_spec_t *action_spec);
@@ -24850,6 +26144,9 @@ int p4_pd_orbisk_switch_noDecapNoEncapRouteIpv4_value(const p4_pd_orbisk_switch_
 int p4_pd_orbisk_switch_noDecapNoEncapRouteIpv6_action_specs_are_equal(const p4_pd_orbisk_switch_noDecapNoEncapRouteIpv6_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_noDecapNoEncapRouteIpv6_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_noDecapNoEncapRouteIpv6_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_noDecapNoEncapRouteIpv6_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_noDecapNoEncapRouteIpv6_schema(void);
 void unbuild_action_spec_noDecapNoEncapRouteIpv6(const pd_action_record *act,
     p4_pd_orbisk_switch_noDecapNoEncapRouteIpv6_action_spec_t *action_spec);
@@ -24862,6 +26159,9 @@ int p4_pd_orbisk_switch_decapPPIPktFromCpu_value(char *out);
 int p4_pd_orbisk_switch_encapVxlanRouteIpv4_action_specs_are_equal(const p4_pd_orbisk_switch_encapVxlanRouteIpv4_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_encapVxlanRouteIpv4_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_encapVxlanRouteIpv4_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_encapVxlanRouteIpv4_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_encapVxlanRouteIpv4_schema(void);
 void unbuild_action_spec_encapVxlanRouteIpv4(const pd_action_record *act,
     p4_pd_orbisk_switch_encapVxlanRouteIpv4_action_spec_t *action_spec);
@@ -24870,6 +26170,9 @@ int p4_pd_orbisk_switch_encapVxlanRouteIpv4_value(const p4_pd_orbisk_switch_enca
 int p4_pd_orbisk_switch_encapVxlanRouteIpv6_action_specs_are_equal(const p4_pd_orbisk_switch_encapVxlanRouteIpv6_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_encapVxlanRouteIpv6_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_encapVxlanRouteIpv6_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_encapVxlanRouteIpv6_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_encapVxlanRouteIpv6_schema(void);
 void unbuild_action_spec_encapVxlanRouteIpv6(const pd_action_record *act,
     p4_pd_orbisk_switch_encapVxlanRouteIpv6_action_spec_t *action_spec);
@@ -24878,6 +26181,9 @@ int p4_pd_orbisk_switch_encapVxlanRouteIpv6_value(const p4_pd_orbisk_switch_enca
 int p4_pd_orbisk_switch_noDecapEncapVxlanL2_action_specs_are_equal(const p4_pd_orbisk_switch_noDecapEncapVxlanL2_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_noDecapEncapVxlanL2_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_noDecapEncapVxlanL2_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_noDecapEncapVxlanL2_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_noDecapEncapVxlanL2_schema(void);
 void unbuild_action_spec_noDecapEncapVxlanL2(const pd_action_record *act,
     p4_pd_orbisk_switch_noDecapEncapVxlanL2_action_spec_t *action_spec);
@@ -24888,6 +26194,9 @@ int p4_pd_orbisk_switch_normalizeEthHdr_value(char *out);
 int p4_pd_orbisk_switch_setEgressMirrorColor_action_specs_are_equal(const p4_pd_orbisk_switch_setEgressMirrorColor_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setEgressMirrorColor_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setEgressMirrorColor_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEgressMirrorColor_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEgressMirrorColor_schema(void);
 void unbuild_action_spec_setEgressMirrorColor(const pd_action_record *act,
     const pd_resource_index *resources,
@@ -24910,6 +26219,9 @@ int p4_pd_orbisk_switch_resetApplicationId_value(char *out);
 int p4_pd_orbisk_switch_haloKeyMaskedRow1Stage4_action_specs_are_equal(const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage4_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage4_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_haloKeyMaskedRow1Stage4_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage4_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_haloKeyMaskedRow1Stage4_schema(void);
 void unbuild_action_spec_haloKeyMaskedRow1Stage4(const pd_action_record *act,
     p4_pd_orbisk_switch_haloKeyMaskedRow1Stage4_action_spec_t *action_spec);
@@ -24920,6 +26232,9 @@ int p4_pd_orbisk_switch_hashComputeIpAndL4HdrAction_value(char *out);
 int p4_pd_orbisk_switch_setTrafficClassAndEgressQid_action_specs_are_equal(const p4_pd_orbisk_switch_setTrafficClassAndEgressQid_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setTrafficClassAndEgressQid_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setTrafficClassAndEgressQid_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTrafficClassAndEgressQid_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTrafficClassAndEgressQid_schema(void);
 void unbuild_action_spec_setTrafficClassAndEgressQid(const pd_action_record *act,
     p4_pd_orbisk_switch_setTrafficClassAndEgressQid_action_spec_t *action_spec);
@@ -24928,6 +26243,9 @@ int p4_pd_orbisk_switch_setTrafficClassAndEgressQid_value(const p4_pd_orbisk_swi
 int p4_pd_orbisk_switch_setL2McResult_action_specs_are_equal(const p4_pd_orbisk_switch_setL2McResult_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setL2McResult_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setL2McResult_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setL2McResult_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setL2McResult_schema(void);
 void unbuild_action_spec_setL2McResult(const pd_action_record *act,
     p4_pd_orbisk_switch_setL2McResult_action_spec_t *action_spec);
@@ -24938,6 +26256,9 @@ int p4_pd_orbisk_switch_copyHashFromCpuHdr_value(char *out);
 int p4_pd_orbisk_switch_setEgrVlan_action_specs_are_equal(const p4_pd_orbisk_switch_setEgrVlan_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setEgrVlan_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setEgrVlan_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEgrVlan_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEgrVlan_schema(void);
 void unbuild_action_spec_setEgrVlan(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrVlan_action_spec_t *action_spec);
@@ -24946,6 +26267,9 @@ int p4_pd_orbisk_switch_setEgrVlan_value(const p4_pd_orbisk_switch_setEgrVlan_ac
 int p4_pd_orbisk_switch_setEgrVlanSubIntf_action_specs_are_equal(const p4_pd_orbisk_switch_setEgrVlanSubIntf_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setEgrVlanSubIntf_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setEgrVlanSubIntf_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEgrVlanSubIntf_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEgrVlanSubIntf_schema(void);
 void unbuild_action_spec_setEgrVlanSubIntf(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrVlanSubIntf_action_spec_t *action_spec);
@@ -24956,6 +26280,9 @@ int p4_pd_orbisk_switch_noXlate_value(char *out);
 int p4_pd_orbisk_switch_setEncapSmac_action_specs_are_equal(const p4_pd_orbisk_switch_setEncapSmac_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setEncapSmac_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setEncapSmac_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEncapSmac_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEncapSmac_schema(void);
 void unbuild_action_spec_setEncapSmac(const pd_action_record *act,
     p4_pd_orbisk_switch_setEncapSmac_action_spec_t *action_spec);
@@ -24964,6 +26291,9 @@ int p4_pd_orbisk_switch_setEncapSmac_value(const p4_pd_orbisk_switch_setEncapSma
 int p4_pd_orbisk_switch_encapPktToCpu_action_specs_are_equal(const p4_pd_orbisk_switch_encapPktToCpu_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_encapPktToCpu_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_encapPktToCpu_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_encapPktToCpu_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_encapPktToCpu_schema(void);
 void unbuild_action_spec_encapPktToCpu(const pd_action_record *act,
     p4_pd_orbisk_switch_encapPktToCpu_action_spec_t *action_spec);
@@ -24972,6 +26302,9 @@ int p4_pd_orbisk_switch_encapPktToCpu_value(const p4_pd_orbisk_switch_encapPktTo
 int p4_pd_orbisk_switch_encapPktToDpdk_action_specs_are_equal(const p4_pd_orbisk_switch_encapPktToDpdk_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_encapPktToDpdk_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_encapPktToDpdk_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_encapPktToDpdk_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_encapPktToDpdk_schema(void);
 void unbuild_action_spec_encapPktToDpdk(const pd_action_record *act,
     p4_pd_orbisk_switch_encapPktToDpdk_action_spec_t *action_spec);
@@ -24982,6 +26315,9 @@ int p4_pd_orbisk_switch_egressSamePortBridgingTestDrop_value(char *out);
 int p4_pd_orbisk_switch_setOvoIntfDetails_action_specs_are_equal(const p4_pd_orbisk_switch_setOvoIntfDetails_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setOvoIntfDetails_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setOvoIntfDetails_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setOvoIntfDetails_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setOvoIntfDetails_schema(void);
 void unbuild_action_spec_setOvoIntfDetails(const pd_action_record *act,
     p4_pd_orbisk_switch_setOvoIntfDetails_action_spec_t *action_spec);
@@ -25028,6 +26364,9 @@ int p4_pd_orbisk_switch_setHashValuesEcmpInnerEthHdr_value(char *out);
 int p4_pd_orbisk_switch_haloKeyMaskedRow1Stage5_action_specs_are_equal(const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage5_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage5_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_haloKeyMaskedRow1Stage5_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage5_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_haloKeyMaskedRow1Stage5_schema(void);
 void unbuild_action_spec_haloKeyMaskedRow1Stage5(const pd_action_record *act,
     p4_pd_orbisk_switch_haloKeyMaskedRow1Stage5_action_spec_t *action_spec);
@@ -25036,6 +26375,9 @@ int p4_pd_orbisk_switch_haloKeyMaskedRow1Stage5_value(const p4_pd_orbisk_switch_
 int p4_pd_orbisk_switch_setIpv4GroupVlanIndex_action_specs_are_equal(const p4_pd_orbisk_switch_setIpv4GroupVlanIndex_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setIpv4GroupVlanIndex_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setIpv4GroupVlanIndex_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setIpv4GroupVlanIndex_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIpv4GroupVlanIndex_schema(void);
 void unbuild_action_spec_setIpv4GroupVlanIndex(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpv4GroupVlanIndex_action_spec_t *action_spec);
@@ -25044,6 +26386,9 @@ int p4_pd_orbisk_switch_setIpv4GroupVlanIndex_value(const p4_pd_orbisk_switch_se
 int p4_pd_orbisk_switch_trapPacket_action_specs_are_equal(const p4_pd_orbisk_switch_trapPacket_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_trapPacket_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_trapPacket_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_trapPacket_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_trapPacket_schema(void);
 void unbuild_action_spec_trapPacket(const pd_action_record *act,
     p4_pd_orbisk_switch_trapPacket_action_spec_t *action_spec);
@@ -25052,6 +26397,9 @@ int p4_pd_orbisk_switch_trapPacket_value(const p4_pd_orbisk_switch_trapPacket_ac
 int p4_pd_orbisk_switch_copyPacket_action_specs_are_equal(const p4_pd_orbisk_switch_copyPacket_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_copyPacket_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_copyPacket_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_copyPacket_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_copyPacket_schema(void);
 void unbuild_action_spec_copyPacket(const pd_action_record *act,
     p4_pd_orbisk_switch_copyPacket_action_spec_t *action_spec);
@@ -25062,6 +26410,9 @@ int p4_pd_orbisk_switch_setLlm_value(char *out);
 int p4_pd_orbisk_switch_copyCosRewriteDscp_action_specs_are_equal(const p4_pd_orbisk_switch_copyCosRewriteDscp_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_copyCosRewriteDscp_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_copyCosRewriteDscp_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_copyCosRewriteDscp_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_copyCosRewriteDscp_schema(void);
 void unbuild_action_spec_copyCosRewriteDscp(const pd_action_record *act,
     p4_pd_orbisk_switch_copyCosRewriteDscp_action_spec_t *action_spec);
@@ -25070,6 +26421,9 @@ int p4_pd_orbisk_switch_copyCosRewriteDscp_value(const p4_pd_orbisk_switch_copyC
 int p4_pd_orbisk_switch_rewriteCosCopyDscp_action_specs_are_equal(const p4_pd_orbisk_switch_rewriteCosCopyDscp_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_rewriteCosCopyDscp_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_rewriteCosCopyDscp_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_rewriteCosCopyDscp_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_rewriteCosCopyDscp_schema(void);
 void unbuild_action_spec_rewriteCosCopyDscp(const pd_action_record *act,
     p4_pd_orbisk_switch_rewriteCosCopyDscp_action_spec_t *action_spec);
@@ -25078,6 +26432,9 @@ int p4_pd_orbisk_switch_rewriteCosCopyDscp_value(const p4_pd_orbisk_switch_rewri
 int p4_pd_orbisk_switch_rewriteCosRewriteDscp_action_specs_are_equal(const p4_pd_orbisk_switch_rewriteCosRewriteDscp_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_rewriteCosRewriteDscp_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_rewriteCosRewriteDscp_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_rewriteCosRewriteDscp_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_rewriteCosRewriteDscp_schema(void);
 void unbuild_action_spec_rewriteCosRewriteDscp(const pd_action_record *act,
     p4_pd_orbisk_switch_rewriteCosRewriteDscp_action_spec_t *action_spec);
@@ -25102,6 +26459,9 @@ int p4_pd_orbisk_switch_decapIngressVxlan_value(char *out);
 int p4_pd_orbisk_switch_setEgrPortVlan_action_specs_are_equal(const p4_pd_orbisk_switch_setEgrPortVlan_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setEgrPortVlan_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setEgrPortVlan_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEgrPortVlan_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEgrPortVlan_schema(void);
 void unbuild_action_spec_setEgrPortVlan(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrPortVlan_action_spec_t *action_spec);
@@ -25110,6 +26470,9 @@ int p4_pd_orbisk_switch_setEgrPortVlan_value(const p4_pd_orbisk_switch_setEgrPor
 int p4_pd_orbisk_switch_setEgrPortVlanKernel_action_specs_are_equal(const p4_pd_orbisk_switch_setEgrPortVlanKernel_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setEgrPortVlanKernel_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setEgrPortVlanKernel_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEgrPortVlanKernel_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEgrPortVlanKernel_schema(void);
 void unbuild_action_spec_setEgrPortVlanKernel(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrPortVlanKernel_action_spec_t *action_spec);
@@ -25118,6 +26481,9 @@ int p4_pd_orbisk_switch_setEgrPortVlanKernel_value(const p4_pd_orbisk_switch_set
 int p4_pd_orbisk_switch_setEgrPortL2Domain_action_specs_are_equal(const p4_pd_orbisk_switch_setEgrPortL2Domain_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setEgrPortL2Domain_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setEgrPortL2Domain_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEgrPortL2Domain_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEgrPortL2Domain_schema(void);
 void unbuild_action_spec_setEgrPortL2Domain(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrPortL2Domain_action_spec_t *action_spec);
@@ -25126,6 +26492,9 @@ int p4_pd_orbisk_switch_setEgrPortL2Domain_value(const p4_pd_orbisk_switch_setEg
 int p4_pd_orbisk_switch_setEgrPortL2DomainKernel_action_specs_are_equal(const p4_pd_orbisk_switch_setEgrPortL2DomainKernel_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setEgrPortL2DomainKernel_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setEgrPortL2DomainKernel_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEgrPortL2DomainKernel_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEgrPortL2DomainKernel_schema(void);
 void unbuild_action_spec_setEgrPortL2DomainKernel(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrPortL2DomainKernel_action_spec_t *action_spec);
@@ -25142,6 +26511,9 @@ int p4_pd_orbisk_switch_setNatCpuHeaderTwice_value(char *out);
 int p4_pd_orbisk_switch_setFoldedPipeQid_action_specs_are_equal(const p4_pd_orbisk_switch_setFoldedPipeQid_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setFoldedPipeQid_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setFoldedPipeQid_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setFoldedPipeQid_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setFoldedPipeQid_schema(void);
 void unbuild_action_spec_setFoldedPipeQid(const pd_action_record *act,
     p4_pd_orbisk_switch_setFoldedPipeQid_action_spec_t *action_spec);
@@ -25150,6 +26522,9 @@ int p4_pd_orbisk_switch_setFoldedPipeQid_value(const p4_pd_orbisk_switch_setFold
 int p4_pd_orbisk_switch_setLagMemberSelector_action_specs_are_equal(const p4_pd_orbisk_switch_setLagMemberSelector_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setLagMemberSelector_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setLagMemberSelector_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setLagMemberSelector_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setLagMemberSelector_schema(void);
 void unbuild_action_spec_setLagMemberSelector(const pd_action_record *act,
     p4_pd_orbisk_switch_setLagMemberSelector_action_spec_t *action_spec);
@@ -25158,6 +26533,9 @@ int p4_pd_orbisk_switch_setLagMemberSelector_value(const p4_pd_orbisk_switch_set
 int p4_pd_orbisk_switch_haloKeyMaskedRow1Stage6_action_specs_are_equal(const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage6_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage6_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_haloKeyMaskedRow1Stage6_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage6_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_haloKeyMaskedRow1Stage6_schema(void);
 void unbuild_action_spec_haloKeyMaskedRow1Stage6(const pd_action_record *act,
     p4_pd_orbisk_switch_haloKeyMaskedRow1Stage6_action_spec_t *action_spec);
@@ -25166,6 +26544,9 @@ int p4_pd_orbisk_switch_haloKeyMaskedRow1Stage6_value(const p4_pd_orbisk_switch_
 int p4_pd_orbisk_switch_setIpmcResult_action_specs_are_equal(const p4_pd_orbisk_switch_setIpmcResult_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setIpmcResult_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setIpmcResult_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setIpmcResult_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIpmcResult_schema(void);
 void unbuild_action_spec_setIpmcResult(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpmcResult_action_spec_t *action_spec);
@@ -25188,6 +26569,9 @@ int p4_pd_orbisk_switch_discardHaloResult_value(char *out);
 int p4_pd_orbisk_switch_finalizeMcResultIpmc_action_specs_are_equal(const p4_pd_orbisk_switch_finalizeMcResultIpmc_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_finalizeMcResultIpmc_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_finalizeMcResultIpmc_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_finalizeMcResultIpmc_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_finalizeMcResultIpmc_schema(void);
 void unbuild_action_spec_finalizeMcResultIpmc(const pd_action_record *act,
     p4_pd_orbisk_switch_finalizeMcResultIpmc_action_spec_t *action_spec);
@@ -25196,6 +26580,9 @@ int p4_pd_orbisk_switch_finalizeMcResultIpmc_value(const p4_pd_orbisk_switch_fin
 int p4_pd_orbisk_switch_finalizeMcResultL2mc_action_specs_are_equal(const p4_pd_orbisk_switch_finalizeMcResultL2mc_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_finalizeMcResultL2mc_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_finalizeMcResultL2mc_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_finalizeMcResultL2mc_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_finalizeMcResultL2mc_schema(void);
 void unbuild_action_spec_finalizeMcResultL2mc(const pd_action_record *act,
     p4_pd_orbisk_switch_finalizeMcResultL2mc_action_spec_t *action_spec);
@@ -25204,6 +26591,9 @@ int p4_pd_orbisk_switch_finalizeMcResultL2mc_value(const p4_pd_orbisk_switch_fin
 int p4_pd_orbisk_switch_finalizeMcResultL2mcFlood_action_specs_are_equal(const p4_pd_orbisk_switch_finalizeMcResultL2mcFlood_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_finalizeMcResultL2mcFlood_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_finalizeMcResultL2mcFlood_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_finalizeMcResultL2mcFlood_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_finalizeMcResultL2mcFlood_schema(void);
 void unbuild_action_spec_finalizeMcResultL2mcFlood(const pd_action_record *act,
     p4_pd_orbisk_switch_finalizeMcResultL2mcFlood_action_spec_t *action_spec);
@@ -25212,6 +26602,9 @@ int p4_pd_orbisk_switch_finalizeMcResultL2mcFlood_value(const p4_pd_orbisk_switc
 int p4_pd_orbisk_switch_finalizeMcResultCancel_action_specs_are_equal(const p4_pd_orbisk_switch_finalizeMcResultCancel_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_finalizeMcResultCancel_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_finalizeMcResultCancel_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_finalizeMcResultCancel_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_finalizeMcResultCancel_schema(void);
 void unbuild_action_spec_finalizeMcResultCancel(const pd_action_record *act,
     p4_pd_orbisk_switch_finalizeMcResultCancel_action_spec_t *action_spec);
@@ -25220,6 +26613,9 @@ int p4_pd_orbisk_switch_finalizeMcResultCancel_value(const p4_pd_orbisk_switch_f
 int p4_pd_orbisk_switch_finalizeMcResultFlood_action_specs_are_equal(const p4_pd_orbisk_switch_finalizeMcResultFlood_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_finalizeMcResultFlood_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_finalizeMcResultFlood_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_finalizeMcResultFlood_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_finalizeMcResultFlood_schema(void);
 void unbuild_action_spec_finalizeMcResultFlood(const pd_action_record *act,
     p4_pd_orbisk_switch_finalizeMcResultFlood_action_spec_t *action_spec);
@@ -25230,6 +26626,9 @@ int p4_pd_orbisk_switch_finalizeMcResultL3Rpf_value(char *out);
 int p4_pd_orbisk_switch_setFoldedPipePort_action_specs_are_equal(const p4_pd_orbisk_switch_setFoldedPipePort_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setFoldedPipePort_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setFoldedPipePort_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setFoldedPipePort_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setFoldedPipePort_schema(void);
 void unbuild_action_spec_setFoldedPipePort(const pd_action_record *act,
     p4_pd_orbisk_switch_setFoldedPipePort_action_spec_t *action_spec);
@@ -25238,6 +26637,9 @@ int p4_pd_orbisk_switch_setFoldedPipePort_value(const p4_pd_orbisk_switch_setFol
 int p4_pd_orbisk_switch_setIngressMirrorColor_action_specs_are_equal(const p4_pd_orbisk_switch_setIngressMirrorColor_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setIngressMirrorColor_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setIngressMirrorColor_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setIngressMirrorColor_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIngressMirrorColor_schema(void);
 void unbuild_action_spec_setIngressMirrorColor(const pd_action_record *act,
     const pd_resource_index *resources,
@@ -25252,6 +26654,9 @@ int p4_pd_orbisk_switch_accept_value(char *out);
 int p4_pd_orbisk_switch_acceptLog_action_specs_are_equal(const p4_pd_orbisk_switch_acceptLog_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_acceptLog_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_acceptLog_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_acceptLog_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_acceptLog_schema(void);
 void unbuild_action_spec_acceptLog(const pd_action_record *act,
     p4_pd_orbisk_switch_acceptLog_action_spec_t *action_spec);
@@ -25262,6 +26667,9 @@ int p4_pd_orbisk_switch_dropCount_value(char *out);
 int p4_pd_orbisk_switch_dropCountAndLog_action_specs_are_equal(const p4_pd_orbisk_switch_dropCountAndLog_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_dropCountAndLog_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_dropCountAndLog_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_dropCountAndLog_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_dropCountAndLog_schema(void);
 void unbuild_action_spec_dropCountAndLog(const pd_action_record *act,
     p4_pd_orbisk_switch_dropCountAndLog_action_spec_t *action_spec);
@@ -25272,6 +26680,9 @@ int p4_pd_orbisk_switch_finalDrop_value(char *out);
 int p4_pd_orbisk_switch_ingressMirrorAction_action_specs_are_equal(const p4_pd_orbisk_switch_ingressMirrorAction_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_ingressMirrorAction_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_ingressMirrorAction_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_ingressMirrorAction_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_ingressMirrorAction_schema(void);
 void unbuild_action_spec_ingressMirrorAction(const pd_action_record *act,
     p4_pd_orbisk_switch_ingressMirrorAction_action_spec_t *action_spec);
@@ -25282,6 +26693,9 @@ int p4_pd_orbisk_switch_updateFoldedPipeCount_value(char *out);
 int p4_pd_orbisk_switch_setMinMtuId_action_specs_are_equal(const p4_pd_orbisk_switch_setMinMtuId_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setMinMtuId_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setMinMtuId_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setMinMtuId_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setMinMtuId_schema(void);
 void unbuild_action_spec_setMinMtuId(const pd_action_record *act,
     p4_pd_orbisk_switch_setMinMtuId_action_spec_t *action_spec);
@@ -25292,6 +26706,9 @@ int p4_pd_orbisk_switch_setIngMtuFailed_value(char *out);
 int p4_pd_orbisk_switch_setSnatAclId_action_specs_are_equal(const p4_pd_orbisk_switch_setSnatAclId_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setSnatAclId_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setSnatAclId_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setSnatAclId_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setSnatAclId_schema(void);
 void unbuild_action_spec_setSnatAclId(const pd_action_record *act,
     p4_pd_orbisk_switch_setSnatAclId_action_spec_t *action_spec);
@@ -25308,6 +26725,9 @@ int p4_pd_orbisk_switch_setNatTcpFlags_value(char *out);
 int p4_pd_orbisk_switch_setL2XId_action_specs_are_equal(const p4_pd_orbisk_switch_setL2XId_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setL2XId_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setL2XId_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setL2XId_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setL2XId_schema(void);
 void unbuild_action_spec_setL2XId(const pd_action_record *act,
     p4_pd_orbisk_switch_setL2XId_action_spec_t *action_spec);
@@ -25316,6 +26736,9 @@ int p4_pd_orbisk_switch_setL2XId_value(const p4_pd_orbisk_switch_setL2XId_action
 int p4_pd_orbisk_switch_setIpv4PrtResultXFirst_action_specs_are_equal(const p4_pd_orbisk_switch_setIpv4PrtResultXFirst_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setIpv4PrtResultXFirst_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setIpv4PrtResultXFirst_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setIpv4PrtResultXFirst_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIpv4PrtResultXFirst_schema(void);
 void unbuild_action_spec_setIpv4PrtResultXFirst(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpv4PrtResultXFirst_action_spec_t *action_spec);
@@ -25324,6 +26747,9 @@ int p4_pd_orbisk_switch_setIpv4PrtResultXFirst_value(const p4_pd_orbisk_switch_s
 int p4_pd_orbisk_switch_setSwitchToCpu_action_specs_are_equal(const p4_pd_orbisk_switch_setSwitchToCpu_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setSwitchToCpu_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setSwitchToCpu_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setSwitchToCpu_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setSwitchToCpu_schema(void);
 void unbuild_action_spec_setSwitchToCpu(const pd_action_record *act,
     p4_pd_orbisk_switch_setSwitchToCpu_action_spec_t *action_spec);
@@ -25334,6 +26760,9 @@ int p4_pd_orbisk_switch_setDefaultVrf_value(char *out);
 int p4_pd_orbisk_switch_setNextHop0First_action_specs_are_equal(const p4_pd_orbisk_switch_setNextHop0First_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setNextHop0First_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setNextHop0First_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setNextHop0First_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNextHop0First_schema(void);
 void unbuild_action_spec_setNextHop0First(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHop0First_action_spec_t *action_spec);
@@ -25342,6 +26771,9 @@ int p4_pd_orbisk_switch_setNextHop0First_value(const p4_pd_orbisk_switch_setNext
 int p4_pd_orbisk_switch_setNextHop2First_action_specs_are_equal(const p4_pd_orbisk_switch_setNextHop2First_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setNextHop2First_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setNextHop2First_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setNextHop2First_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNextHop2First_schema(void);
 void unbuild_action_spec_setNextHop2First(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHop2First_action_spec_t *action_spec);
@@ -25350,6 +26782,9 @@ int p4_pd_orbisk_switch_setNextHop2First_value(const p4_pd_orbisk_switch_setNext
 int p4_pd_orbisk_switch_setNextHop3First_action_specs_are_equal(const p4_pd_orbisk_switch_setNextHop3First_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setNextHop3First_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setNextHop3First_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setNextHop3First_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNextHop3First_schema(void);
 void unbuild_action_spec_setNextHop3First(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHop3First_action_spec_t *action_spec);
@@ -25358,6 +26793,9 @@ int p4_pd_orbisk_switch_setNextHop3First_value(const p4_pd_orbisk_switch_setNext
 int p4_pd_orbisk_switch_setNextHop1First_action_specs_are_equal(const p4_pd_orbisk_switch_setNextHop1First_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setNextHop1First_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setNextHop1First_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setNextHop1First_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNextHop1First_schema(void);
 void unbuild_action_spec_setNextHop1First(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHop1First_action_spec_t *action_spec);
@@ -25368,6 +26806,9 @@ int p4_pd_orbisk_switch_ipv4ShortMaskLpmMiss_value(char *out);
 int p4_pd_orbisk_switch_setEcmpNextHop_action_specs_are_equal(const p4_pd_orbisk_switch_setEcmpNextHop_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setEcmpNextHop_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setEcmpNextHop_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEcmpNextHop_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEcmpNextHop_schema(void);
 void unbuild_action_spec_setEcmpNextHop(const pd_action_record *act,
     p4_pd_orbisk_switch_setEcmpNextHop_action_spec_t *action_spec);
@@ -25376,6 +26817,9 @@ int p4_pd_orbisk_switch_setEcmpNextHop_value(const p4_pd_orbisk_switch_setEcmpNe
 int p4_pd_orbisk_switch_setNextHopToCpu_action_specs_are_equal(const p4_pd_orbisk_switch_setNextHopToCpu_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setNextHopToCpu_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setNextHopToCpu_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setNextHopToCpu_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNextHopToCpu_schema(void);
 void unbuild_action_spec_setNextHopToCpu(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHopToCpu_action_spec_t *action_spec);
@@ -25384,6 +26828,9 @@ int p4_pd_orbisk_switch_setNextHopToCpu_value(const p4_pd_orbisk_switch_setNextH
 int p4_pd_orbisk_switch_setNextHopDetails_action_specs_are_equal(const p4_pd_orbisk_switch_setNextHopDetails_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setNextHopDetails_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setNextHopDetails_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setNextHopDetails_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNextHopDetails_schema(void);
 void unbuild_action_spec_setNextHopDetails(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHopDetails_action_spec_t *action_spec);
@@ -25392,6 +26839,9 @@ int p4_pd_orbisk_switch_setNextHopDetails_value(const p4_pd_orbisk_switch_setNex
 int p4_pd_orbisk_switch_setRouterNextHopDetails_action_specs_are_equal(const p4_pd_orbisk_switch_setRouterNextHopDetails_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setRouterNextHopDetails_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setRouterNextHopDetails_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setRouterNextHopDetails_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setRouterNextHopDetails_schema(void);
 void unbuild_action_spec_setRouterNextHopDetails(const pd_action_record *act,
     p4_pd_orbisk_switch_setRouterNextHopDetails_action_spec_t *action_spec);
@@ -25400,6 +26850,9 @@ int p4_pd_orbisk_switch_setRouterNextHopDetails_value(const p4_pd_orbisk_switch_
 int p4_pd_orbisk_switch_eifParamEgressing_action_specs_are_equal(const p4_pd_orbisk_switch_eifParamEgressing_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_eifParamEgressing_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_eifParamEgressing_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_eifParamEgressing_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_eifParamEgressing_schema(void);
 void unbuild_action_spec_eifParamEgressing(const pd_action_record *act,
     p4_pd_orbisk_switch_eifParamEgressing_action_spec_t *action_spec);
@@ -25408,6 +26861,9 @@ int p4_pd_orbisk_switch_eifParamEgressing_value(const p4_pd_orbisk_switch_eifPar
 int p4_pd_orbisk_switch_setEgrNatProfile_action_specs_are_equal(const p4_pd_orbisk_switch_setEgrNatProfile_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setEgrNatProfile_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setEgrNatProfile_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEgrNatProfile_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEgrNatProfile_schema(void);
 void unbuild_action_spec_setEgrNatProfile(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrNatProfile_action_spec_t *action_spec);
@@ -25422,6 +26878,9 @@ int p4_pd_orbisk_switch_eifParamIngressing_value(char *out);
 int p4_pd_orbisk_switch_setTranslatedSip_action_specs_are_equal(const p4_pd_orbisk_switch_setTranslatedSip_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setTranslatedSip_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setTranslatedSip_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTranslatedSip_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedSip_schema(void);
 void unbuild_action_spec_setTranslatedSip(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedSip_action_spec_t *action_spec);
@@ -25430,6 +26889,9 @@ int p4_pd_orbisk_switch_setTranslatedSip_value(const p4_pd_orbisk_switch_setTran
 int p4_pd_orbisk_switch_setTranslatedSipPortDynamic_action_specs_are_equal(const p4_pd_orbisk_switch_setTranslatedSipPortDynamic_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setTranslatedSipPortDynamic_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setTranslatedSipPortDynamic_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTranslatedSipPortDynamic_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedSipPortDynamic_schema(void);
 void unbuild_action_spec_setTranslatedSipPortDynamic(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedSipPortDynamic_action_spec_t *action_spec);
@@ -25438,6 +26900,9 @@ int p4_pd_orbisk_switch_setTranslatedSipPortDynamic_value(const p4_pd_orbisk_swi
 int p4_pd_orbisk_switch_setTranslatedSipAndCount_action_specs_are_equal(const p4_pd_orbisk_switch_setTranslatedSipAndCount_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setTranslatedSipAndCount_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setTranslatedSipAndCount_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTranslatedSipAndCount_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedSipAndCount_schema(void);
 void unbuild_action_spec_setTranslatedSipAndCount(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedSipAndCount_action_spec_t *action_spec);
@@ -25446,6 +26911,9 @@ int p4_pd_orbisk_switch_setTranslatedSipAndCount_value(const p4_pd_orbisk_switch
 int p4_pd_orbisk_switch_setTranslatedSipPortAndCount_action_specs_are_equal(const p4_pd_orbisk_switch_setTranslatedSipPortAndCount_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setTranslatedSipPortAndCount_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setTranslatedSipPortAndCount_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTranslatedSipPortAndCount_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedSipPortAndCount_schema(void);
 void unbuild_action_spec_setTranslatedSipPortAndCount(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedSipPortAndCount_action_spec_t *action_spec);
@@ -25454,6 +26922,9 @@ int p4_pd_orbisk_switch_setTranslatedSipPortAndCount_value(const p4_pd_orbisk_sw
 int p4_pd_orbisk_switch_setEifMatched_action_specs_are_equal(const p4_pd_orbisk_switch_setEifMatched_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setEifMatched_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setEifMatched_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEifMatched_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEifMatched_schema(void);
 void unbuild_action_spec_setEifMatched(const pd_action_record *act,
     p4_pd_orbisk_switch_setEifMatched_action_spec_t *action_spec);
@@ -25470,6 +26941,9 @@ int p4_pd_orbisk_switch_updateEifAclCount_value(char *out);
 int p4_pd_orbisk_switch_setNatCpuTrap_action_specs_are_equal(const p4_pd_orbisk_switch_setNatCpuTrap_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setNatCpuTrap_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setNatCpuTrap_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setNatCpuTrap_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNatCpuTrap_schema(void);
 void unbuild_action_spec_setNatCpuTrap(const pd_action_record *act,
     p4_pd_orbisk_switch_setNatCpuTrap_action_spec_t *action_spec);
@@ -25478,6 +26952,9 @@ int p4_pd_orbisk_switch_setNatCpuTrap_value(const p4_pd_orbisk_switch_setNatCpuT
 int p4_pd_orbisk_switch_setNatCpuTrapReverse_action_specs_are_equal(const p4_pd_orbisk_switch_setNatCpuTrapReverse_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setNatCpuTrapReverse_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setNatCpuTrapReverse_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setNatCpuTrapReverse_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNatCpuTrapReverse_schema(void);
 void unbuild_action_spec_setNatCpuTrapReverse(const pd_action_record *act,
     p4_pd_orbisk_switch_setNatCpuTrapReverse_action_spec_t *action_spec);
@@ -25486,6 +26963,9 @@ int p4_pd_orbisk_switch_setNatCpuTrapReverse_value(const p4_pd_orbisk_switch_set
 int p4_pd_orbisk_switch_forwardToPeer_action_specs_are_equal(const p4_pd_orbisk_switch_forwardToPeer_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_forwardToPeer_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_forwardToPeer_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_forwardToPeer_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_forwardToPeer_schema(void);
 void unbuild_action_spec_forwardToPeer(const pd_action_record *act,
     p4_pd_orbisk_switch_forwardToPeer_action_spec_t *action_spec);
@@ -25494,6 +26974,9 @@ int p4_pd_orbisk_switch_forwardToPeer_value(const p4_pd_orbisk_switch_forwardToP
 int p4_pd_orbisk_switch_setEifForwardToPeer_action_specs_are_equal(const p4_pd_orbisk_switch_setEifForwardToPeer_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setEifForwardToPeer_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setEifForwardToPeer_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setEifForwardToPeer_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEifForwardToPeer_schema(void);
 void unbuild_action_spec_setEifForwardToPeer(const pd_action_record *act,
     p4_pd_orbisk_switch_setEifForwardToPeer_action_spec_t *action_spec);
@@ -25504,6 +26987,9 @@ int p4_pd_orbisk_switch_updateEifForwardToPeerAclCount_value(char *out);
 int p4_pd_orbisk_switch_mtuCheckFailed_action_specs_are_equal(const p4_pd_orbisk_switch_mtuCheckFailed_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_mtuCheckFailed_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_mtuCheckFailed_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_mtuCheckFailed_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_mtuCheckFailed_schema(void);
 void unbuild_action_spec_mtuCheckFailed(const pd_action_record *act,
     p4_pd_orbisk_switch_mtuCheckFailed_action_spec_t *action_spec);
@@ -25516,6 +27002,9 @@ int p4_pd_orbisk_switch_countDynamicNat_value(char *out);
 int p4_pd_orbisk_switch_setTunnelEgressInfo_action_specs_are_equal(const p4_pd_orbisk_switch_setTunnelEgressInfo_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setTunnelEgressInfo_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setTunnelEgressInfo_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setTunnelEgressInfo_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTunnelEgressInfo_schema(void);
 void unbuild_action_spec_setTunnelEgressInfo(const pd_action_record *act,
     p4_pd_orbisk_switch_setTunnelEgressInfo_action_spec_t *action_spec);
@@ -25524,6 +27013,9 @@ int p4_pd_orbisk_switch_setTunnelEgressInfo_value(const p4_pd_orbisk_switch_setT
 int p4_pd_orbisk_switch_setPdpClass_action_specs_are_equal(const p4_pd_orbisk_switch_setPdpClass_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setPdpClass_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setPdpClass_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setPdpClass_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setPdpClass_schema(void);
 void unbuild_action_spec_setPdpClass(const pd_action_record *act,
     p4_pd_orbisk_switch_setPdpClass_action_spec_t *action_spec);
@@ -25532,6 +27024,9 @@ int p4_pd_orbisk_switch_setPdpClass_value(const p4_pd_orbisk_switch_setPdpClass_
 int p4_pd_orbisk_switch_meterPdpClass_action_specs_are_equal(const p4_pd_orbisk_switch_meterPdpClass_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_meterPdpClass_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_meterPdpClass_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_meterPdpClass_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_meterPdpClass_schema(void);
 void unbuild_action_spec_meterPdpClass(const pd_action_record *act,
     p4_pd_orbisk_switch_meterPdpClass_action_spec_t *action_spec);
@@ -25548,6 +27043,9 @@ int p4_pd_orbisk_switch_updateV4AndTcp_value(char *out);
 int p4_pd_orbisk_switch_trapPktToCpuUntagged_action_specs_are_equal(const p4_pd_orbisk_switch_trapPktToCpuUntagged_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_trapPktToCpuUntagged_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_trapPktToCpuUntagged_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_trapPktToCpuUntagged_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_trapPktToCpuUntagged_schema(void);
 void unbuild_action_spec_trapPktToCpuUntagged(const pd_action_record *act,
     p4_pd_orbisk_switch_trapPktToCpuUntagged_action_spec_t *action_spec);
@@ -25556,6 +27054,9 @@ int p4_pd_orbisk_switch_trapPktToCpuUntagged_value(const p4_pd_orbisk_switch_tra
 int p4_pd_orbisk_switch_copyPktToCpuUntagged_action_specs_are_equal(const p4_pd_orbisk_switch_copyPktToCpuUntagged_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_copyPktToCpuUntagged_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_copyPktToCpuUntagged_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_copyPktToCpuUntagged_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_copyPktToCpuUntagged_schema(void);
 void unbuild_action_spec_copyPktToCpuUntagged(const pd_action_record *act,
     p4_pd_orbisk_switch_copyPktToCpuUntagged_action_spec_t *action_spec);
@@ -25564,6 +27065,9 @@ int p4_pd_orbisk_switch_copyPktToCpuUntagged_value(const p4_pd_orbisk_switch_cop
 int p4_pd_orbisk_switch_trapPktToCpuTagged_action_specs_are_equal(const p4_pd_orbisk_switch_trapPktToCpuTagged_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_trapPktToCpuTagged_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_trapPktToCpuTagged_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_trapPktToCpuTagged_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_trapPktToCpuTagged_schema(void);
 void unbuild_action_spec_trapPktToCpuTagged(const pd_action_record *act,
     p4_pd_orbisk_switch_trapPktToCpuTagged_action_spec_t *action_spec);
@@ -25572,6 +27076,9 @@ int p4_pd_orbisk_switch_trapPktToCpuTagged_value(const p4_pd_orbisk_switch_trapP
 int p4_pd_orbisk_switch_copyPktToCpuTagged_action_specs_are_equal(const p4_pd_orbisk_switch_copyPktToCpuTagged_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_copyPktToCpuTagged_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_copyPktToCpuTagged_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_copyPktToCpuTagged_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_copyPktToCpuTagged_schema(void);
 void unbuild_action_spec_copyPktToCpuTagged(const pd_action_record *act,
     p4_pd_orbisk_switch_copyPktToCpuTagged_action_spec_t *action_spec);
@@ -25580,6 +27087,9 @@ int p4_pd_orbisk_switch_copyPktToCpuTagged_value(const p4_pd_orbisk_switch_copyP
 int p4_pd_orbisk_switch_trapPktToCpuSubintf_action_specs_are_equal(const p4_pd_orbisk_switch_trapPktToCpuSubintf_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_trapPktToCpuSubintf_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_trapPktToCpuSubintf_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_trapPktToCpuSubintf_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_trapPktToCpuSubintf_schema(void);
 void unbuild_action_spec_trapPktToCpuSubintf(const pd_action_record *act,
     p4_pd_orbisk_switch_trapPktToCpuSubintf_action_spec_t *action_spec);
@@ -25588,6 +27098,9 @@ int p4_pd_orbisk_switch_trapPktToCpuSubintf_value(const p4_pd_orbisk_switch_trap
 int p4_pd_orbisk_switch_copyPktToCpuSubintf_action_specs_are_equal(const p4_pd_orbisk_switch_copyPktToCpuSubintf_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_copyPktToCpuSubintf_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_copyPktToCpuSubintf_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_copyPktToCpuSubintf_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_copyPktToCpuSubintf_schema(void);
 void unbuild_action_spec_copyPktToCpuSubintf(const pd_action_record *act,
     p4_pd_orbisk_switch_copyPktToCpuSubintf_action_spec_t *action_spec);
@@ -25596,6 +27109,9 @@ int p4_pd_orbisk_switch_copyPktToCpuSubintf_value(const p4_pd_orbisk_switch_copy
 int p4_pd_orbisk_switch_setLagPort_action_specs_are_equal(const p4_pd_orbisk_switch_setLagPort_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setLagPort_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setLagPort_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setLagPort_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setLagPort_schema(void);
 void unbuild_action_spec_setLagPort(const pd_action_record *act,
     p4_pd_orbisk_switch_setLagPort_action_spec_t *action_spec);
@@ -25614,6 +27130,9 @@ int p4_pd_orbisk_switch_add_header_for_EA_value(char *out);
 int p4_pd_orbisk_switch_setPdpClassCount_action_specs_are_equal(const p4_pd_orbisk_switch_setPdpClassCount_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setPdpClassCount_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setPdpClassCount_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setPdpClassCount_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setPdpClassCount_schema(void);
 void unbuild_action_spec_setPdpClassCount(const pd_action_record *act,
     const pd_resource_index *resources,
@@ -25630,6 +27149,9 @@ int p4_pd_orbisk_switch_finalDropIB_value(char *out);
 int p4_pd_orbisk_switch_setPruneParams_action_specs_are_equal(const p4_pd_orbisk_switch_setPruneParams_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setPruneParams_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setPruneParams_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setPruneParams_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setPruneParams_schema(void);
 void unbuild_action_spec_setPruneParams(const pd_action_record *act,
     p4_pd_orbisk_switch_setPruneParams_action_spec_t *action_spec);
@@ -25638,6 +27160,9 @@ int p4_pd_orbisk_switch_setPruneParams_value(const p4_pd_orbisk_switch_setPruneP
 int p4_pd_orbisk_switch_setPruneParamsForL2Flood_action_specs_are_equal(const p4_pd_orbisk_switch_setPruneParamsForL2Flood_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setPruneParamsForL2Flood_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setPruneParamsForL2Flood_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setPruneParamsForL2Flood_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setPruneParamsForL2Flood_schema(void);
 void unbuild_action_spec_setPruneParamsForL2Flood(const pd_action_record *act,
     p4_pd_orbisk_switch_setPruneParamsForL2Flood_action_spec_t *action_spec);
@@ -25646,6 +27171,9 @@ int p4_pd_orbisk_switch_setPruneParamsForL2Flood_value(const p4_pd_orbisk_switch
 int p4_pd_orbisk_switch_setPruneParamsForL3Only_action_specs_are_equal(const p4_pd_orbisk_switch_setPruneParamsForL3Only_action_spec_t *pd_action_spec,
     const p4_pd_orbisk_switch_setPruneParamsForL3Only_action_spec_t *hw_action_spec,
     char *error);
+void p4_pd_orbisk_switch_setPruneParamsForL3Only_print(int fd,
+    int indent,
+    const p4_pd_orbisk_switch_setPruneParamsForL3Only_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setPruneParamsForL3Only_schema(void);
 void unbuild_action_spec_setPruneParamsForL3Only(const pd_action_record *act,
     p4_pd_orbisk_switch_setPruneParamsForL3Only_action_spec_t *action_spec);

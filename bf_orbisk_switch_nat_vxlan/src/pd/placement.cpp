@@ -2,6 +2,7 @@
 // a write sends, and these are unpacked as a read unpacks them.
 #include "placement.h"
 
+#include <cstdio>
 #include <cstring>
 
 #include "assertions.h"
@@ -13,6 +14,15 @@
 namespace orbisk::pd {
 
 namespace {
+
+// The name of an exported decoder: the object's name between the prefix and
+// the family's suffix. Made only when an assertion names it.
+struct ExportedName {
+  char text[192];
+  ExportedName(const char *object, const char *suffix) {
+    std::snprintf(text, sizeof text, "p4_pd_orbisk_switch_%s%s", object, suffix);
+  }
+};
 
 // What a decoder answers for an action handle that is none of the object's.
 constexpr pd_status kUnknownMatchAction = 3;
@@ -59,7 +69,9 @@ pd_status member(const ProfileDesc &p, const char *function, const void *plcmt_d
   const pd_status status = pipe_mgr_plcmt_adt_data_get_entry(plcmt_data, &act, &fn);
   const ActionDesc *a = action_of(p.actions, p.num_actions, fn);
   if (a == nullptr) {
-    pd_assert_failed("((void *)0)", PD_ASSERT_FMT_NULL, function, __LINE__);
+    const ExportedName name(p.name, ask_state ? "_get_full_member_info_from_plcmt_data"
+                                              : "_get_member_from_plcmt_data");
+    pd_assert_failed("((void *)0)", PD_ASSERT_FMT_NULL, function ? function : name.text, __LINE__);
     return kUnknownMemberAction;
   }
   out->name = p4_pd_orbisk_switch_action_names_t(a->enum_value);
@@ -109,7 +121,8 @@ pd_status decode_entry(const TableDesc &t, const char *function, const void *plc
 
   const ActionDesc *a = action_of(t.actions, t.num_actions, fn);
   if (a == nullptr) {
-    pd_assert_failed("((void *)0)", PD_ASSERT_FMT_NULL, function, __LINE__);
+    const ExportedName name(t.name, "_get_entry_from_plcmt_data");
+    pd_assert_failed("((void *)0)", PD_ASSERT_FMT_NULL, function ? function : name.text, __LINE__);
     return kUnknownMatchAction;
   }
   out.action->name = p4_pd_orbisk_switch_action_names_t(a->enum_value);
@@ -126,6 +139,37 @@ pd_status decode_full_member(const ProfileDesc &p, const char *function, pd_ms_s
                              uint8_t device_id, pd_mbr_hdl mbr_hdl, const void *plcmt_data,
                              p4_pd_orbisk_switch_action_specs_t *out) {
   return member(p, function, plcmt_data, out, state, device_id, mbr_hdl, true);
+}
+
+pd_status decode_keyed(const void *plcmt_data, void *match_spec,
+                       p4_pd_orbisk_switch_action_specs_t *action, bool *is_default,
+                       const TableDesc &t) {
+  return decode_entry(t, nullptr, plcmt_data,
+                      {match_spec, nullptr, action, nullptr, nullptr, nullptr, nullptr, is_default});
+}
+
+pd_status decode_keyed_priority(const void *plcmt_data, void *match_spec, uint32_t *priority,
+                                p4_pd_orbisk_switch_action_specs_t *action, bool *is_default,
+                                const TableDesc &t) {
+  return decode_entry(t, nullptr, plcmt_data,
+                      {match_spec, priority, action, nullptr, nullptr, nullptr, nullptr, is_default});
+}
+
+pd_status decode_keyless(const void *plcmt_data, p4_pd_orbisk_switch_action_specs_t *action,
+                         bool *is_default, const TableDesc &t) {
+  return decode_entry(t, nullptr, plcmt_data,
+                      {nullptr, nullptr, action, nullptr, nullptr, nullptr, nullptr, is_default});
+}
+
+pd_status decode_member_of(const void *plcmt_data, p4_pd_orbisk_switch_action_specs_t *out,
+                           const ProfileDesc &p) {
+  return member(p, nullptr, plcmt_data, out, nullptr, 0, 0, false);
+}
+
+pd_status decode_full_member_of(uint8_t device_id, pd_mbr_hdl mbr_hdl, const void *plcmt_data,
+                                p4_pd_orbisk_switch_action_specs_t *out, pd_ms_state *state,
+                                const ProfileDesc &p) {
+  return member(p, nullptr, plcmt_data, out, state, device_id, mbr_hdl, true);
 }
 
 }  // namespace orbisk::pd

@@ -49,6 +49,24 @@ pd_status decode_full_member(const ProfileDesc &p, const char *function, pd_ms_s
                              uint8_t device_id, pd_mbr_hdl mbr_hdl, const void *plcmt_data,
                              p4_pd_orbisk_switch_action_specs_t *out);
 
+// The exported decoders' own entry points: the caller's arguments in the
+// order the exported function has them, so that they stay where they are,
+// and the descriptor last. An assertion names the exported function, made
+// from the object's name only when it fires.
+pd_status decode_keyed(const void *plcmt_data, void *match_spec,
+                       p4_pd_orbisk_switch_action_specs_t *action, bool *is_default,
+                       const TableDesc &t);
+pd_status decode_keyed_priority(const void *plcmt_data, void *match_spec, uint32_t *priority,
+                                p4_pd_orbisk_switch_action_specs_t *action, bool *is_default,
+                                const TableDesc &t);
+pd_status decode_keyless(const void *plcmt_data, p4_pd_orbisk_switch_action_specs_t *action,
+                         bool *is_default, const TableDesc &t);
+pd_status decode_member_of(const void *plcmt_data, p4_pd_orbisk_switch_action_specs_t *out,
+                           const ProfileDesc &p);
+pd_status decode_full_member_of(uint8_t device_id, pd_mbr_hdl mbr_hdl, const void *plcmt_data,
+                                p4_pd_orbisk_switch_action_specs_t *out, pd_ms_state *state,
+                                const ProfileDesc &p);
+
 }  // namespace orbisk::pd
 
 #pragma GCC visibility pop

@@ -33,12 +33,19 @@ def fetch(driver, hdl, of):
 
 
 def decode_entry_body(f):
+    """The caller's arguments stay where they are and the descriptor goes
+    last, except for a selector table's eight."""
     t = f.table
-    out = ["match_spec" if t.keyed else "nullptr", "priority" if t.ternary else "nullptr",
-           "nullptr" if t.indirect else "action_spec"]
-    out += ["mbr_hdl", "grp_hdl", "has_mbr", "has_grp"] if t.indirect else ["nullptr"] * 4
-    return ["  return decode_entry(kTables[%d], __func__, plcmt_data, {%s, is_default});"
-            % (t.index, ", ".join(out))]
+    if t.indirect:
+        out = ["match_spec", "priority" if t.ternary else "nullptr", "nullptr", "mbr_hdl",
+               "grp_hdl", "has_mbr", "has_grp", "is_default"]
+        return ["  return decode_entry(kTables[%d], nullptr, plcmt_data, {%s});"
+                % (t.index, ", ".join(out))]
+    engine, args = ("decode_keyless", "") if not t.keyed else (
+        ("decode_keyed_priority", "match_spec, priority, ") if t.ternary else
+        ("decode_keyed", "match_spec, "))
+    return ["  return %s(plcmt_data, %saction_spec, is_default, kTables[%d]);"
+            % (engine, args, t.index)]
 
 
 def header_lines(prog):
@@ -82,13 +89,13 @@ FAMILIES = [
            [IN_DATA, OUT_SPECS],
            "decodes a member's placement data into its action; the driver's status, even after "
            "the action is filled; 15 for an action not the profile's.",
-           lambda f: ["  return decode_member(kProfiles[%d], __func__, plcmt_data, action_spec);"
+           lambda f: ["  return decode_member_of(plcmt_data, action_spec, kProfiles[%d]);"
                       % f.profile.index], each="profile", place=(60, 2)),
     Family("get_full_member_info_from_plcmt_data", "{p}{r}_get_full_member_info_from_plcmt_data",
            [DEV8, MBR, IN_DATA, OUT_SPECS],
            "the same, asking the member-selection state for the member's resources first (an "
            "action with parameters); what it answers is not used.",
-           lambda f: ["  return decode_full_member(kProfiles[%d], __func__, pd_ms_slot_%s, dev_id, "
-                      "mbr_hdl, plcmt_data, action_spec);" % (f.profile.index, f.profile.state_slot)],
+           lambda f: ["  return decode_full_member_of(dev_id, mbr_hdl, plcmt_data, action_spec, "
+                      "pd_ms_slot_%s, kProfiles[%d]);" % (f.profile.state_slot, f.profile.index)],
            each="profile", place=(60, 3)),
 ]

@@ -1,0 +1,5 @@
+import sys
+
+from .shell import main
+
+sys.exit(main())
