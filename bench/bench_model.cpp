@@ -1,11 +1,14 @@
 // Cost of the driver model itself: one l2Lookup table filled to a given
 // number of entries, with the call log off, then every entry read, found by
 // key and deleted, each in a scattered order. Reports the time per add, read
-// (pipe_mgr_get_entry), find by key (pipe_mgr_match_spec_to_ent_hdl) and
-// delete, and how much the process's resident memory grew per entry.
+// (pipe_mgr_get_entry), entry rendered as value text by the library
+// (l2Lookup_value, a read and its text), find by key
+// (pipe_mgr_match_spec_to_ent_hdl) and delete, and how much the process's
+// resident memory grew per entry; and the rate of value text in entries per
+// second, which stays the same at every size when its cost is linear.
 //
 // The driver functions are called directly with records made here: the
-// library is not in the picture. With several sizes, each runs in a child
+// library is in the picture only for the value text. With several sizes, each runs in a child
 // process of its own, so one size's freed memory cannot hide the next one's
 // growth; a single size runs in the process itself.
 //
@@ -13,7 +16,7 @@
 //   bench_model N...             the given sizes
 //   bench_model --log-ring N...  the same with the call log on, as a ring of
 //                                its default size
-//   bench_model --until PHASE N  stop after the add, read, find or delete
+//   bench_model --until PHASE N  stop after the add, read, text, find or delete
 //                                phase: for instruction counts per phase
 //                                under callgrind, as differences of runs
 #include <sys/wait.h>
@@ -29,6 +32,7 @@
 
 #include "descriptors.h"
 #include "orbisk_driver_model.h"
+#include "orbisk_switch/pd.h"
 
 namespace {
 
@@ -73,7 +77,7 @@ double ns_per(Clock::duration d, std::size_t n) {
   return std::chrono::duration<double, std::nano>(d).count() / double(n);
 }
 
-enum Phase { kAdd, kRead, kFind, kDelete };
+enum Phase { kAdd, kRead, kText, kFind, kDelete };
 
 int run(uint32_t n, bool log_ring, Phase until) {
   const orbisk::pd::TableDesc &t = l2_lookup();
@@ -131,6 +135,13 @@ int run(uint32_t n, bool log_ring, Phase until) {
   }
   const Clock::time_point t2 = Clock::now();
   if (until == kRead) return failed != 0;
+  char text[P4_PD_ORBISK_SWITCH_VALUE_MAX];
+  for (uint32_t i = 0; i < n; ++i) {
+    const uint32_t j = uint32_t(i * step % n);
+    failed += p4_pd_orbisk_switch_l2Lookup_value(1, 0, handles[j], false, text) == 0;
+  }
+  const Clock::time_point t_text = Clock::now();
+  if (until == kText) return failed != 0;
   for (uint32_t i = 0; i < n; ++i) {
     const uint32_t j = uint32_t(i * step % n);
     key_of(j, value);
@@ -146,9 +157,9 @@ int run(uint32_t n, bool log_ring, Phase until) {
   }
   const Clock::time_point t4 = Clock::now();
 
-  std::printf("%9u  %8.0f  %8.0f  %8.0f  %8.0f  %12.0f\n", n, ns_per(t1 - t0, n),
-              ns_per(t2 - t1, n), ns_per(t3 - t2, n), ns_per(t4 - t3, n),
-              double(after - before) / n);
+  std::printf("%9u  %8.0f  %8.0f  %8.0f  %8.0f  %8.0f  %12.0f  %11.0f\n", n, ns_per(t1 - t0, n),
+              ns_per(t2 - t1, n), ns_per(t_text - t2, n), ns_per(t3 - t_text, n), ns_per(t4 - t3, n),
+              double(after - before) / n, 1e9 / ns_per(t_text - t2, n));
   if (failed != 0) std::printf("  %u calls failed\n", failed);
   return failed != 0;
 }
@@ -165,7 +176,11 @@ int main(int argc, char **argv) {
       log_ring = true;
     } else if (a == "--until" && i + 1 < argc) {
       const std::string_view p = argv[++i];
-      until = p == "add" ? kAdd : p == "read" ? kRead : p == "find" ? kFind : kDelete;
+      until = p == "add"    ? kAdd
+              : p == "read" ? kRead
+              : p == "text" ? kText
+              : p == "find" ? kFind
+                            : kDelete;
     } else {
       sizes.push_back(uint32_t(std::strtoul(argv[i], nullptr, 10)));
     }
@@ -173,7 +188,7 @@ int main(int argc, char **argv) {
   if (sizes.empty()) sizes = {10000, 100000, 1000000};
   std::printf("call log %s; ns per call, resident bytes per entry\n",
               log_ring ? "on (ring of the default size)" : "off");
-  std::printf("  entries       add      read      find    delete  bytes/entry\n");
+  std::printf("  entries       add      read      text      find    delete  bytes/entry  texts/s\n");
   std::fflush(stdout);
   if (sizes.size() == 1) return run(sizes[0], log_ring, until);
   int status = 0;

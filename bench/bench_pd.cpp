@@ -354,6 +354,32 @@ pd_status case_l2Lookup_get_entry(uint32_t i) {
   return s;
 }
 
+// Value text of an entry of the table with the longest key text, read
+// back through the driver.
+char g_value[P4_PD_ORBISK_SWITCH_VALUE_MAX];
+
+pd_status case_finalDropControl_value(uint32_t i) {
+  pd_entry_hdl hdl = 1 + (i & 0xFFFFu);
+  benchmark::DoNotOptimize(hdl);
+  const int n = p4_pd_orbisk_switch_finalDropControl_value(kSess, 0, hdl, false, g_value);
+  benchmark::DoNotOptimize(g_value);
+  return n > 0 ? BF_SUCCESS : 1;
+}
+
+// An l2Lookup entry's placement record against the chip: the stub decodes
+// any record as the entry its read answers, so the two sides agree and every
+// field is compared.
+char g_error[128];
+uint8_t g_plcmt[64];
+
+pd_status case_l2Lookup_plcmt_data_eq_to_hw(uint32_t i) {
+  pd_entry_hdl hdl = 1 + (i & 0xFFFFu);
+  benchmark::DoNotOptimize(hdl);
+  const int eq = p4_pd_orbisk_switch_l2Lookup_plcmt_data_eq_to_hw(kSess, 0, 0, hdl, g_plcmt, g_error);
+  benchmark::DoNotOptimize(g_error);
+  return eq == 1 ? BF_SUCCESS : 1;
+}
+
 // Schema text: the longest table text, written into a buffer just big
 // enough; the same table through the dispatch by handle; and an action tuple,
 // which is a constant handed out as it stands.
@@ -589,7 +615,7 @@ struct Case {
   const char *name;
   LoopFn loop;
   void (*bench)(benchmark::State &);
-  // "write" (a write path), "text" (schema text) or "resource" (a counter or
+  // "write" (a write path), "text" (schema or value text, comparison) or "resource" (a counter or
   // meter call): must not allocate; "hash" (allocates its stream for the
   // call, as the reference does); "read"
   const char *kind;
@@ -611,6 +637,8 @@ constexpr Case kCases[] = {
     make_case<case_finalDropControl_schema>("finalDropControl_schema", "text"),
     make_case<case_cli_schema_by_handle>("cli_schema_by_handle", "text"),
     make_case<case_setNextHop_schema>("setNextHop_schema", "text"),
+    make_case<case_finalDropControl_value>("finalDropControl_value", "text"),
+    make_case<case_l2Lookup_plcmt_data_eq_to_hw>("l2Lookup_plcmt_data_eq_to_hw", "text"),
     make_case<case_entry_hdl_first_by_handle>("entry_hdl_first_by_handle", "text"),
     make_case<case_entry_hdl_first_per_table>("entry_hdl_first_per_table", "text"),
     make_case<case_counter_read>("counter_read_l2DmacClassifyCount", "resource"),

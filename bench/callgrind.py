@@ -29,8 +29,8 @@ PAIRS = [("l2Lookup_add", "l2Lookup_add_reference"),
          ("meter_set_stormControlMeter", "meter_set_stormControlMeter_reference"),
          ("entry_hdl_first_by_handle", "entry_hdl_first_per_table")]
 FLOOR = "driver_call_only"
-# Kinds of case that must not allocate: write paths, schema text, counter and
-# meter calls.
+# Kinds of case that must not allocate: write paths, schema and value text,
+# comparison with hardware, counter and meter calls.
 NO_ALLOCATION = ("write", "text", "resource")
 
 

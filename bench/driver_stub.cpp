@@ -5,7 +5,8 @@
 //
 // The read functions fill the little a real driver fills, so that the
 // library's unpacking runs: an entry read answers with an l2Lookup entry
-// whose action is l2LookupKnownUcast.
+// whose action is l2LookupKnownUcast (an entry of finalDropControl, one
+// whose action is acceptLog).
 #include <cstdlib>
 #include <cstring>
 
@@ -20,6 +21,9 @@ namespace {
 
 // Handle of l2LookupKnownUcast on l2Lookup.
 constexpr pd_act_fn_hdl kL2LookupKnownUcast = 0x200000a6u;
+// finalDropControl, and its action acceptLog.
+constexpr pd_tbl_hdl kFinalDropControl = 0x01000057u;
+constexpr pd_act_fn_hdl kFinalDropAcceptLog = 0x200000dfu;
 // Handle of setEcmpNextHop in ecmpMemberActionProfile.
 constexpr pd_act_fn_hdl kSetEcmpNextHop = 0x30000018u;
 
@@ -123,12 +127,12 @@ pd_status pipe_mgr_get_next_entry_handles(pd_sess_hdl, pd_tbl_hdl, pd_dev_target
   return BF_SUCCESS;
 }
 
-pd_status pipe_mgr_get_entry(pd_sess_hdl, pd_tbl_hdl, pd_dev_target, pd_entry_hdl,
+pd_status pipe_mgr_get_entry(pd_sess_hdl, pd_tbl_hdl tbl_hdl, pd_dev_target, pd_entry_hdl,
                              pd_match_record *key, pd_action_record *act, pd_act_fn_hdl *fn,
                              uint32_t, uint32_t, uint32_t) {
   copy_key(key);
   fill_action(act);
-  *fn = kL2LookupKnownUcast;
+  *fn = tbl_hdl == kFinalDropControl ? kFinalDropAcceptLog : kL2LookupKnownUcast;
   return BF_SUCCESS;
 }
 

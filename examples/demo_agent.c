@@ -9,8 +9,11 @@
  *                         (l2LookupKnownUcast)
  *   - ipv4ShortMaskLpm:   10.1.2.0/24 in VRF 3 to next hop 42 (setNextHop)
  * Each entry is read back, printed in host form and compared with what was
- * written, and each table's schema text is printed (and read by python3,
- * where it is on the path, as an agent's scripts would read it); then every
+ * written, and printed as value text beside its table's schema text (both
+ * read and paired by python3, where it is on the path, as an agent's
+ * scripts would read them) and verified against the chip through its
+ * placement data; one bit of the route is changed on the chip alone, and
+ * the comparison says what differs; then every
  * entry is deleted and each table is checked to be empty. Then the route is
  * added again with an idle time and left without traffic until the driver
  * reports it idle, and is taken out; traffic dropped on a port is counted
@@ -27,7 +30,7 @@
  * time pass. The driver functions it calls come from whatever implements
  * them at load time: the chip's driver in a switch, the in-memory driver
  * model here. */
-/* popen and pclose, for handing schema text to python3. */
+/* popen and pclose, for handing schema and value text to python3. */
 #define _POSIX_C_SOURCE 200809L
 
 #include <inttypes.h>
@@ -537,39 +540,96 @@ typedef int (*schema_fn)(char *out);
 
 /* What python3 says of a table's schema text: the literal evaluated, and the
  * number of its key elements and actions. */
-#define PYTHON_READS_SCHEMA                                                     \
-  "python3 -c 'import ast, sys; s = ast.literal_eval(sys.stdin.read()); "      \
-  "print(\"    python3 reads it: key elements %d, actions %d\" % (len(s[1]), len(s[2])))'"
+#define PYTHON_PAIRS_TEXTS                                                       \
+  "python3 -c 'import ast, sys; s, v = map(ast.literal_eval, sys.stdin.read().splitlines()); " \
+  "key = v[0][0]; assert len(key) == len(s[1]); "                                \
+  "print(\"    python3 pairs them: \" + \", \".join(\"%s=%#x\" % (e[0], n) for e, n in zip(s[1], key)))'"
 
-/* The schema text of each table the demo programs: the shape an agent learns
- * at run time, without any other metadata. */
-static void show_schemas(void) {
+typedef int (*value_fn)(pd_sess_hdl, uint8_t, pd_entry_hdl, bool, char *);
+typedef pd_status (*plcmt_fn)(pd_sess_hdl, pd_dev_target, pd_tbl_hdl, pd_entry_hdl, void *,
+                              uint32_t *);
+typedef int (*eq_to_hw_fn)(pd_sess_hdl, uint8_t, pd_tbl_hdl, pd_entry_hdl, const void *, char *);
+
+/* Whether the chip holds what the entry's placement data says: 1, or 0 and
+ * the first difference in `message`. */
+static int verify(const char *table, plcmt_fn fetch, eq_to_hw_fn eq, pd_entry_hdl hdl,
+                  char *message) {
+  static uint8_t plcmt[ORBISK_MODEL_PLACEMENT_MAX_BYTES];
+  uint32_t size = sizeof plcmt;
+  char what[96];
+  snprintf(what, sizeof what, "%s get_plcmt_data", table);
+  must(fetch(SESS, kTarget, 0, hdl, plcmt, &size), what);
+  return eq(SESS, DEVICE, 0, hdl, plcmt, message);
+}
+
+/* Each entry the demo programs, as value text beside its table's schema
+ * text: the schema says what the table holds, the value what one entry
+ * holds, number for number in the same order, and python3 (where it is on
+ * the path) reads both as an agent's scripts would and pairs them. */
+#define TEXT_FNS(t)                                                                      \
+  #t, p4_pd_orbisk_switch_##t##_schema, p4_pd_orbisk_switch_##t##_value,                 \
+      p4_pd_orbisk_switch_##t##_get_plcmt_data, p4_pd_orbisk_switch_##t##_plcmt_data_eq_to_hw
+
+static void show_texts(const pd_entry_hdl hdl[4]) {
   static const struct {
     const char *table;
     schema_fn schema;
-  } kSchemas[] = {
-      {"ingressPortMapping", p4_pd_orbisk_switch_ingressPortMapping_schema},
-      {"l2DomainLookup", p4_pd_orbisk_switch_l2DomainLookup_schema},
-      {"l2Lookup", p4_pd_orbisk_switch_l2Lookup_schema},
-      {"ipv4ShortMaskLpm", p4_pd_orbisk_switch_ipv4ShortMaskLpm_schema},
+    value_fn value;
+    plcmt_fn fetch;
+    eq_to_hw_fn eq;
+  } kTables[] = {
+      {TEXT_FNS(ingressPortMapping)},
+      {TEXT_FNS(l2DomainLookup)},
+      {TEXT_FNS(l2Lookup)},
+      {TEXT_FNS(ipv4ShortMaskLpm)},
   };
-  static char text[P4_PD_ORBISK_SWITCH_SCHEMA_MAX];
+  char message[128];
+  static char schema[P4_PD_ORBISK_SWITCH_SCHEMA_MAX];
+  static char value[P4_PD_ORBISK_SWITCH_VALUE_MAX];
   const bool python = system("command -v python3 >/dev/null 2>&1") == 0;
-  if (!python) printf("python3 is not on the path: schema texts are printed, not evaluated\n");
-  for (size_t i = 0; i < sizeof kSchemas / sizeof kSchemas[0]; ++i) {
-    const int length = kSchemas[i].schema(text);
-    printf("schema of %s, %d bytes:\n    %s\n", kSchemas[i].table, length, text);
-    expect_u32(kSchemas[i].table, "schema length", (uint32_t)strlen(text), (uint32_t)length);
-    if (!python) continue;
-    fflush(stdout);
-    FILE *reader = popen(PYTHON_READS_SCHEMA, "w");
-    bool read = reader != NULL && fputs(text, reader) != EOF;
-    if (reader != NULL) read = pclose(reader) == 0 && read;
-    if (!read) {
-      fprintf(stderr, "orbisk_demo: error: %s: python3 cannot read its schema text\n",
-              kSchemas[i].table);
+  if (!python) printf("python3 is not on the path: texts are printed, not evaluated\n");
+  for (size_t i = 0; i < sizeof kTables / sizeof kTables[0]; ++i) {
+    const int length = kTables[i].schema(schema);
+    printf("schema of %s, %d bytes:\n    %s\n", kTables[i].table, length, schema);
+    expect_u32(kTables[i].table, "schema length", (uint32_t)strlen(schema), (uint32_t)length);
+    const int n = kTables[i].value(SESS, DEVICE, hdl[i], false, value);
+    if (n == 0) {
+      fprintf(stderr, "orbisk_demo: error: %s: entry %" PRIu32 " has no value text\n",
+              kTables[i].table, (uint32_t)hdl[i]);
+      ++g_failures;
+      continue;
+    }
+    printf("value of entry %" PRIu32 ":\n    %s\n", (uint32_t)hdl[i], value);
+    if (verify(kTables[i].table, kTables[i].fetch, kTables[i].eq, hdl[i], message)) {
+      printf("    the chip holds what its placement data says\n");
+    } else {
+      fprintf(stderr, "orbisk_demo: error: %s: the chip differs: %s\n", kTables[i].table, message);
       ++g_failures;
     }
+    if (!python) continue;
+    fflush(stdout);
+    FILE *reader = popen(PYTHON_PAIRS_TEXTS, "w");
+    bool read = reader != NULL && fprintf(reader, "%s\n%s\n", schema, value) > 0;
+    if (reader != NULL) read = pclose(reader) == 0 && read;
+    if (!read) {
+      fprintf(stderr, "orbisk_demo: error: %s: python3 cannot pair its value with its schema\n",
+              kTables[i].table);
+      ++g_failures;
+    }
+  }
+
+  /* The chip's copy of the route changed under software (the lowest bit of
+   * its VRF, the key's first byte): the comparison finds it and says what
+   * differs, software's value first. Deleting the entry later rights it. */
+  pd_tbl_hdl route_table = 0;
+  must(p4_pd_orbisk_switch_ipv4ShortMaskLpm_get_mat_table_handle(&route_table),
+       "ipv4ShortMaskLpm table handle");
+  must(orbisk_model_hw_flip_key(DEVICE, route_table, hdl[3], 0, 1), "a hardware bit flipped");
+  if (verify(kTables[3].table, kTables[3].fetch, kTables[3].eq, hdl[3], message)) {
+    fprintf(stderr, "orbisk_demo: error: ipv4ShortMaskLpm: a changed chip goes unnoticed\n");
+    ++g_failures;
+  } else {
+    printf("the chip's copy of the route changed: %s\n", message);
   }
 }
 
@@ -744,7 +804,8 @@ int main(void) {
   show_vlan_member(vlan);
   show_mac(mac);
   show_route(route);
-  show_schemas();
+  const pd_entry_hdl entries[4] = {port, vlan, mac, route};
+  show_texts(entries);
 
   must(p4_pd_orbisk_switch_ingressPortMapping_table_delete(SESS, DEVICE, port),
        "ingressPortMapping delete");

@@ -97,6 +97,22 @@ def main(lib, root):
         add("profile_schema", "%s%s_schema" % (P, p["name"]))
         add("adt_plcmt_data_print", "%s%s_adt_plcmt_data_print" % (P, p["name"]))
     add("cli_schema", P + "cli_schema")
+    # Value text and comparison.
+    for t in tables:
+        add("table_value", "%s%s_value" % (P, t["name"]))
+        add("plcmt_data_value", "%s%s_plcmt_data_value" % (P, t["name"]))
+        add("plcmt_data_eq_to_hw", "%s%s_plcmt_data_eq_to_hw" % (P, t["name"]))
+        if t.get("fields"):
+            add("match_spec_value", "%s%s_match_spec_value" % (P, t["name"]))
+            add("match_specs_are_equal", "%s%s_match_specs_are_equal" % (P, t["name"]))
+    for a, ps in params.items():
+        add("action_value", "%s%s_value" % (P, a))
+        if ps:
+            add("action_specs_are_equal", "%s%s_action_specs_are_equal" % (P, a))
+    for p in program["profiles"]:
+        add("profile_plcmt_data_value", "%s%s_plcmt_data_value" % (P, p["name"]))
+    for s in ("entry_value", "plcmt_data_value", "adt_plcmt_data_value", "plcmt_data_eq_to_hw"):
+        add("value_dispatch", P + s)
     for form in ("v4addr_exact", "v4addr_lpm", "v4addr_ternary", "v6addr_exact", "v6addr_lpm",
                  "v6addr_ternary", "mac_exact", "mac_ternary"):
         add("address_print", P + "_print_" + form)
@@ -185,6 +201,9 @@ def main(lib, root):
              "counter": 51, "meter": 16, "meter_generic": 5, "register": 28, "register_generic": 9,
              "add_member": 15, "modify_member": 15, "members": 42, "groups": 126,
              "indirect": 48, "indirect_get_entry": 6,
+             "table_value": 154, "match_spec_value": 136, "action_value": 296,
+             "match_specs_are_equal": 136, "action_specs_are_equal": 150, "value_dispatch": 4,
+             "plcmt_data_value": 154, "profile_plcmt_data_value": 6, "plcmt_data_eq_to_hw": 154,
              "hash_calc": 120, "pvs": 70, "digest": 9, "snapshot": 4,
              "match_spec_print": 136, "action_print": 150, "address_print": 8,
              "counter_label": 15, "counter_label_entry": 15, "dispatch": 8,

@@ -118,6 +118,8 @@
  *      going in and the record's length coming out.
  *  <t>_match_spec_print(file descriptor, indent, match spec): writes the key
  *      record to fd, one line a key element after a header line.
+ *  <t>_match_spec_value(match spec, out text): writes the key as value text,
+ *      "( " each number "),", and a NUL; its length.
  *  <t>_get_entry_from_plcmt_data(placement data, [out match spec], [out
  *      priority], [out action], [out member handle], [out group handle], [out
  *      has-member], [out has-group], out is-default): decodes placement data
@@ -128,8 +130,21 @@
  *  <t>_plcmt_data_print(file descriptor, indent, placement data): decodes the
  *      placement data and writes its key (none for a default entry) and
  *      action to fd; 0, or the decoder's status after a line saying so.
+ *  <t>_value(sess, device id, entry handle, read from hardware, out text):
+ *      reads an entry and writes it as value text: ((key, action), (priority,
+ *      True)); its length, or 0 and out untouched when the read fails.
+ *  <t>_plcmt_data_value(placement data, out text): decodes a placement record
+ *      and writes it as value text: (key, action), no priority; its length,
+ *      or 0 and out untouched when decoding fails.
+ *  <t>_match_specs_are_equal(pd match spec, hw match spec, out message): 1
+ *      when every key element agrees under the schema's mask; else 0 and
+ *      "mspec <field> differs ..." for the first that does not.
  *  <t>_match_spec_stringify_for_counter(match spec, out text): writes the
  *      counting table's label of the key record and a NUL; its length.
+ *  <t>_plcmt_data_eq_to_hw(sess, device id, table handle (ignored), entry
+ *      handle, placement data, out message): 1 when the chip holds what the
+ *      placement record says (priority aside); else 0 and the first
+ *      difference. A record that cannot be decoded ends the process.
  *  <t>_stringify_counter_match_spec(sess, device id, entry handle, out text):
  *      reads the entry from hardware and writes its key's label; 0 if the
  *      read fails.
@@ -224,11 +239,19 @@
  *  <r>_adt_plcmt_data_print(file descriptor, indent, placement data): decodes
  *      a member's placement data and writes its action to fd; 0, or the
  *      decoder's status after a line saying so.
+ *  <r>_plcmt_data_value(placement data, out text): decodes a member's
+ *      placement record and writes its action as value text; its length, or 0
+ *      and out untouched when decoding fails.
+ *  <a>_action_specs_are_equal(pd action spec, hw action spec, out message): 1
+ *      when every parameter agrees in its width; else 0 and "aspec
+ *      action_<parameter> differs ..." for the first that does not.
  *  <a>_print(file descriptor, indent, action spec): writes the action's
  *      parameters to fd, one line each.
  *  <a>_schema(): the action tuple: a constant NUL-terminated text.
  *  unbuild_action_spec_<a>(action record, [resources], [count], out action
  *      spec): an action record's data into an action spec.
+ *  <a>_value([action spec], out text): writes the action and its parameters
+ *      as value text, ('<a>',(numbers)),; its length.
  *  counter_read_<r>(sess, [device id], [target], [entry handle], [index],
  *      flags, out value): reads a counter cell, from the chip first when bit
  *      0 of the flags is set; untouched on failure.
@@ -706,6 +729,10 @@ typedef struct p4_pd_orbisk_switch_snapshot_record {
   uint8_t bytes[P4_PD_ORBISK_SWITCH_SNAPSHOT_RECORD_BYTES];
 } p4_pd_orbisk_switch_snapshot_record_t;
 PD_STATIC_ASSERT(sizeof(p4_pd_orbisk_switch_snapshot_record_t) == 794, "the snapshot record is 794 bytes");
+
+/* Room for any value text a <t>_value, <t>_match_spec_value, <a>_value or
+ * entry_value writes, its final zero included. */
+#define P4_PD_ORBISK_SWITCH_VALUE_MAX 331
 
 /* Full action names, with the prefix, in enum order. */
 extern const char *const p4_pd_orbisk_switch_action_name_strings[296];
@@ -1666,6 +1693,14 @@ PD_STATIC_ASSERT(offsetof(p4_pd_orbisk_switch_action_specs_t, u) == 4,
 
 /* ---------------------------------------- lifecycle and dispatch --- */
 
+/* <t>_plcmt_data_eq_to_hw of the table with this handle; any other handle ends the process. */
+int p4_pd_orbisk_switch_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    uint32_t plcmt_data_size,
+    char *error);
 /* The label of an entry of the counting table with this handle; 0 for any other. */
 int p4_pd_orbisk_switch_stringify_counter_matchspec(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
@@ -1756,6 +1791,21 @@ int p4_pd_orbisk_switch__print_mac_ternary(char *out,
     uint32_t station_mask);
 /* Schema text of the table or profile with this handle; "()" and 2 for any other. */
 int p4_pd_orbisk_switch_cli_schema(pd_tbl_hdl tbl_hdl,
+    char *out);
+/* <t>_value of the table with this handle; 0, out untouched, for any other. */
+int p4_pd_orbisk_switch_entry_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+/* <t>_plcmt_data_value of the table with this handle; 0, out untouched, for any other. */
+int p4_pd_orbisk_switch_plcmt_data_value(pd_tbl_hdl tbl_hdl,
+    const void *plcmt_data,
+    char *out);
+/* <r>_plcmt_data_value of the profile with this action data table handle; 0, out untouched, for any other. */
+int p4_pd_orbisk_switch_adt_plcmt_data_value(pd_tbl_hdl tbl_hdl,
+    const void *plcmt_data,
     char *out);
 /* The table's first entry handle; for a handle of no table 0xffffffff and status 0. */
 pd_status p4_pd_orbisk_switch_entry_hdl_first(pd_sess_hdl sess_hdl,
@@ -1877,6 +1927,8 @@ pd_status p4_pd_orbisk_switch_ingressPortMapping_get_plcmt_data(pd_sess_hdl sess
 void p4_pd_orbisk_switch_ingressPortMapping_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_ingressPortMapping_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_ingressPortMapping_match_spec_value(const p4_pd_orbisk_switch_ingressPortMapping_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_ingressPortMapping_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ingressPortMapping_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -1884,6 +1936,22 @@ pd_status p4_pd_orbisk_switch_ingressPortMapping_get_entry_from_plcmt_data(const
 pd_status p4_pd_orbisk_switch_ingressPortMapping_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_ingressPortMapping_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_ingressPortMapping_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_ingressPortMapping_match_specs_are_equal(const p4_pd_orbisk_switch_ingressPortMapping_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_ingressPortMapping_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ingressPortMapping_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* l2DomainLookup: table 0x01000004, pipeline A, ternary match, 6 key bytes (28 bits) */
 typedef struct p4_pd_orbisk_switch_l2DomainLookup_match_spec {
@@ -2030,6 +2098,8 @@ pd_status p4_pd_orbisk_switch_l2DomainLookup_get_plcmt_data(pd_sess_hdl sess_hdl
 void p4_pd_orbisk_switch_l2DomainLookup_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_l2DomainLookup_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_l2DomainLookup_match_spec_value(const p4_pd_orbisk_switch_l2DomainLookup_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_l2DomainLookup_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_l2DomainLookup_match_spec_t *match_spec,
     uint32_t *priority,
@@ -2038,6 +2108,22 @@ pd_status p4_pd_orbisk_switch_l2DomainLookup_get_entry_from_plcmt_data(const voi
 pd_status p4_pd_orbisk_switch_l2DomainLookup_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_l2DomainLookup_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_l2DomainLookup_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_l2DomainLookup_match_specs_are_equal(const p4_pd_orbisk_switch_l2DomainLookup_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_l2DomainLookup_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_l2DomainLookup_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* taggedXlatePktToL3: table 0x01000005, pipeline A, exact match, 4 key bytes (26 bits) */
 typedef struct p4_pd_orbisk_switch_taggedXlatePktToL3_match_spec {
@@ -2140,6 +2226,8 @@ pd_status p4_pd_orbisk_switch_taggedXlatePktToL3_get_plcmt_data(pd_sess_hdl sess
 void p4_pd_orbisk_switch_taggedXlatePktToL3_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_taggedXlatePktToL3_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_taggedXlatePktToL3_match_spec_value(const p4_pd_orbisk_switch_taggedXlatePktToL3_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_taggedXlatePktToL3_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_taggedXlatePktToL3_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -2147,6 +2235,22 @@ pd_status p4_pd_orbisk_switch_taggedXlatePktToL3_get_entry_from_plcmt_data(const
 pd_status p4_pd_orbisk_switch_taggedXlatePktToL3_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_taggedXlatePktToL3_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_taggedXlatePktToL3_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_taggedXlatePktToL3_match_specs_are_equal(const p4_pd_orbisk_switch_taggedXlatePktToL3_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_taggedXlatePktToL3_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_taggedXlatePktToL3_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* taggedPktToL3: table 0x01000007, pipeline A, exact match, 2 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_taggedPktToL3_match_spec {
@@ -2247,6 +2351,8 @@ pd_status p4_pd_orbisk_switch_taggedPktToL3_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_taggedPktToL3_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_taggedPktToL3_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_taggedPktToL3_match_spec_value(const p4_pd_orbisk_switch_taggedPktToL3_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_taggedPktToL3_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_taggedPktToL3_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -2254,6 +2360,22 @@ pd_status p4_pd_orbisk_switch_taggedPktToL3_get_entry_from_plcmt_data(const void
 pd_status p4_pd_orbisk_switch_taggedPktToL3_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_taggedPktToL3_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_taggedPktToL3_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_taggedPktToL3_match_specs_are_equal(const p4_pd_orbisk_switch_taggedPktToL3_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_taggedPktToL3_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_taggedPktToL3_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* untaggedPktToL3: table 0x01000006, pipeline A, exact match, 2 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_untaggedPktToL3_match_spec {
@@ -2354,6 +2476,8 @@ pd_status p4_pd_orbisk_switch_untaggedPktToL3_get_plcmt_data(pd_sess_hdl sess_hd
 void p4_pd_orbisk_switch_untaggedPktToL3_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_untaggedPktToL3_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_untaggedPktToL3_match_spec_value(const p4_pd_orbisk_switch_untaggedPktToL3_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_untaggedPktToL3_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_untaggedPktToL3_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -2361,6 +2485,22 @@ pd_status p4_pd_orbisk_switch_untaggedPktToL3_get_entry_from_plcmt_data(const vo
 pd_status p4_pd_orbisk_switch_untaggedPktToL3_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_untaggedPktToL3_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_untaggedPktToL3_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_untaggedPktToL3_match_specs_are_equal(const p4_pd_orbisk_switch_untaggedPktToL3_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_untaggedPktToL3_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_untaggedPktToL3_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* ingStpCheck: table 0x0100000b, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_ingStpCheck_get_entry(pd_sess_hdl sess_hdl,
@@ -2422,6 +2562,19 @@ pd_status p4_pd_orbisk_switch_ingStpCheck_get_entry_from_plcmt_data(const void *
 pd_status p4_pd_orbisk_switch_ingStpCheck_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_ingStpCheck_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_ingStpCheck_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_ingStpCheck_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* ingVlanCheck: table 0x0100000c, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_ingVlanCheck_get_entry(pd_sess_hdl sess_hdl,
@@ -2483,6 +2636,19 @@ pd_status p4_pd_orbisk_switch_ingVlanCheck_get_entry_from_plcmt_data(const void 
 pd_status p4_pd_orbisk_switch_ingVlanCheck_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_ingVlanCheck_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_ingVlanCheck_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_ingVlanCheck_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* vlanProperties: table 0x01000018, pipeline A, exact match, 2 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_vlanProperties_match_spec {
@@ -2574,6 +2740,8 @@ pd_status p4_pd_orbisk_switch_vlanProperties_get_plcmt_data(pd_sess_hdl sess_hdl
 void p4_pd_orbisk_switch_vlanProperties_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_vlanProperties_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_vlanProperties_match_spec_value(const p4_pd_orbisk_switch_vlanProperties_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_vlanProperties_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_vlanProperties_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -2581,6 +2749,22 @@ pd_status p4_pd_orbisk_switch_vlanProperties_get_entry_from_plcmt_data(const voi
 pd_status p4_pd_orbisk_switch_vlanProperties_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_vlanProperties_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_vlanProperties_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_vlanProperties_match_specs_are_equal(const p4_pd_orbisk_switch_vlanProperties_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_vlanProperties_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_vlanProperties_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* ingressPortDropCheck: table 0x01000010, pipeline A, ternary match, 7 key bytes (17 bits), entries carry ingressPortDropCount */
 typedef struct p4_pd_orbisk_switch_ingressPortDropCheck_match_spec {
@@ -2702,6 +2886,8 @@ pd_status p4_pd_orbisk_switch_ingressPortDropCheck_get_plcmt_data(pd_sess_hdl se
 void p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_value(const p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_ingressPortDropCheck_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_t *match_spec,
     uint32_t *priority,
@@ -2710,8 +2896,24 @@ pd_status p4_pd_orbisk_switch_ingressPortDropCheck_get_entry_from_plcmt_data(con
 pd_status p4_pd_orbisk_switch_ingressPortDropCheck_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_ingressPortDropCheck_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_ingressPortDropCheck_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_ingressPortDropCheck_match_specs_are_equal(const p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_t *hw_match_spec,
+    char *error);
 int p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_ingressPortDropCheck_match_spec_t *match_spec,
     char *out);
+int p4_pd_orbisk_switch_ingressPortDropCheck_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 int p4_pd_orbisk_switch_ingressPortDropCheck_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -2805,6 +3007,8 @@ pd_status p4_pd_orbisk_switch_ingL2DomainCount_get_plcmt_data(pd_sess_hdl sess_h
 void p4_pd_orbisk_switch_ingL2DomainCount_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_ingL2DomainCount_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_ingL2DomainCount_match_spec_value(const p4_pd_orbisk_switch_ingL2DomainCount_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_ingL2DomainCount_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ingL2DomainCount_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -2812,8 +3016,24 @@ pd_status p4_pd_orbisk_switch_ingL2DomainCount_get_entry_from_plcmt_data(const v
 pd_status p4_pd_orbisk_switch_ingL2DomainCount_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_ingL2DomainCount_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_ingL2DomainCount_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_ingL2DomainCount_match_specs_are_equal(const p4_pd_orbisk_switch_ingL2DomainCount_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_ingL2DomainCount_match_spec_t *hw_match_spec,
+    char *error);
 int p4_pd_orbisk_switch_ingL2DomainCount_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_ingL2DomainCount_match_spec_t *match_spec,
     char *out);
+int p4_pd_orbisk_switch_ingL2DomainCount_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 int p4_pd_orbisk_switch_ingL2DomainCount_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -2907,6 +3127,8 @@ pd_status p4_pd_orbisk_switch_egrL2DomainCount_get_plcmt_data(pd_sess_hdl sess_h
 void p4_pd_orbisk_switch_egrL2DomainCount_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_egrL2DomainCount_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_egrL2DomainCount_match_spec_value(const p4_pd_orbisk_switch_egrL2DomainCount_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_egrL2DomainCount_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_egrL2DomainCount_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -2914,8 +3136,24 @@ pd_status p4_pd_orbisk_switch_egrL2DomainCount_get_entry_from_plcmt_data(const v
 pd_status p4_pd_orbisk_switch_egrL2DomainCount_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_egrL2DomainCount_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_egrL2DomainCount_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_egrL2DomainCount_match_specs_are_equal(const p4_pd_orbisk_switch_egrL2DomainCount_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_egrL2DomainCount_match_spec_t *hw_match_spec,
+    char *error);
 int p4_pd_orbisk_switch_egrL2DomainCount_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_egrL2DomainCount_match_spec_t *match_spec,
     char *out);
+int p4_pd_orbisk_switch_egrL2DomainCount_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 int p4_pd_orbisk_switch_egrL2DomainCount_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -3035,6 +3273,8 @@ pd_status p4_pd_orbisk_switch_egressVlanXlate_get_plcmt_data(pd_sess_hdl sess_hd
 void p4_pd_orbisk_switch_egressVlanXlate_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_egressVlanXlate_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_egressVlanXlate_match_spec_value(const p4_pd_orbisk_switch_egressVlanXlate_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_egressVlanXlate_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_egressVlanXlate_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -3042,6 +3282,22 @@ pd_status p4_pd_orbisk_switch_egressVlanXlate_get_entry_from_plcmt_data(const vo
 pd_status p4_pd_orbisk_switch_egressVlanXlate_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_egressVlanXlate_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_egressVlanXlate_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_egressVlanXlate_match_specs_are_equal(const p4_pd_orbisk_switch_egressVlanXlate_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_egressVlanXlate_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_egressVlanXlate_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* egrStpCheck: table 0x01000071, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_egrStpCheck_get_entry(pd_sess_hdl sess_hdl,
@@ -3103,6 +3359,19 @@ pd_status p4_pd_orbisk_switch_egrStpCheck_get_entry_from_plcmt_data(const void *
 pd_status p4_pd_orbisk_switch_egrStpCheck_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_egrStpCheck_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_egrStpCheck_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_egrStpCheck_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* egrVlanCheck: table 0x01000072, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_egrVlanCheck_get_entry(pd_sess_hdl sess_hdl,
@@ -3164,6 +3433,19 @@ pd_status p4_pd_orbisk_switch_egrVlanCheck_get_entry_from_plcmt_data(const void 
 pd_status p4_pd_orbisk_switch_egrVlanCheck_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_egrVlanCheck_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_egrVlanCheck_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_egrVlanCheck_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* vlanEncap: table 0x01000073, pipeline A, exact match, 5 key bytes (22 bits) */
 typedef struct p4_pd_orbisk_switch_vlanEncap_match_spec {
@@ -3265,6 +3547,8 @@ pd_status p4_pd_orbisk_switch_vlanEncap_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_vlanEncap_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_vlanEncap_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_vlanEncap_match_spec_value(const p4_pd_orbisk_switch_vlanEncap_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_vlanEncap_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_vlanEncap_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -3272,6 +3556,22 @@ pd_status p4_pd_orbisk_switch_vlanEncap_get_entry_from_plcmt_data(const void *pl
 pd_status p4_pd_orbisk_switch_vlanEncap_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_vlanEncap_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_vlanEncap_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_vlanEncap_match_specs_are_equal(const p4_pd_orbisk_switch_vlanEncap_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_vlanEncap_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_vlanEncap_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* vlanDecap: table 0x11010026, pipeline B, no key */
 pd_status p4_pd_orbisk_switch_vlanDecap_get_entry(pd_sess_hdl sess_hdl,
@@ -3333,6 +3633,19 @@ pd_status p4_pd_orbisk_switch_vlanDecap_get_entry_from_plcmt_data(const void *pl
 pd_status p4_pd_orbisk_switch_vlanDecap_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_vlanDecap_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_vlanDecap_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_vlanDecap_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* copyOverlayL2Domain: table 0x0100006b, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_copyOverlayL2Domain_get_entry(pd_sess_hdl sess_hdl,
@@ -3394,6 +3707,19 @@ pd_status p4_pd_orbisk_switch_copyOverlayL2Domain_get_entry_from_plcmt_data(cons
 pd_status p4_pd_orbisk_switch_copyOverlayL2Domain_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_copyOverlayL2Domain_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_copyOverlayL2Domain_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_copyOverlayL2Domain_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* srcIntfToOvoIntf: table 0x0100006a, pipeline A, exact match, 2 key bytes (9 bits) */
 typedef struct p4_pd_orbisk_switch_srcIntfToOvoIntf_match_spec {
@@ -3498,6 +3824,8 @@ pd_status p4_pd_orbisk_switch_srcIntfToOvoIntf_get_plcmt_data(pd_sess_hdl sess_h
 void p4_pd_orbisk_switch_srcIntfToOvoIntf_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_srcIntfToOvoIntf_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_srcIntfToOvoIntf_match_spec_value(const p4_pd_orbisk_switch_srcIntfToOvoIntf_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_srcIntfToOvoIntf_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_srcIntfToOvoIntf_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -3505,6 +3833,22 @@ pd_status p4_pd_orbisk_switch_srcIntfToOvoIntf_get_entry_from_plcmt_data(const v
 pd_status p4_pd_orbisk_switch_srcIntfToOvoIntf_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_srcIntfToOvoIntf_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_srcIntfToOvoIntf_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_srcIntfToOvoIntf_match_specs_are_equal(const p4_pd_orbisk_switch_srcIntfToOvoIntf_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_srcIntfToOvoIntf_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_srcIntfToOvoIntf_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* egrIntfToOvoIntf: table 0x0100006f, pipeline A, exact match, 3 key bytes (20 bits) */
 typedef struct p4_pd_orbisk_switch_egrIntfToOvoIntf_match_spec {
@@ -3646,6 +3990,8 @@ pd_status p4_pd_orbisk_switch_egrIntfToOvoIntf_get_plcmt_data(pd_sess_hdl sess_h
 void p4_pd_orbisk_switch_egrIntfToOvoIntf_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_egrIntfToOvoIntf_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_egrIntfToOvoIntf_match_spec_value(const p4_pd_orbisk_switch_egrIntfToOvoIntf_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_egrIntfToOvoIntf_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_egrIntfToOvoIntf_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -3653,6 +3999,22 @@ pd_status p4_pd_orbisk_switch_egrIntfToOvoIntf_get_entry_from_plcmt_data(const v
 pd_status p4_pd_orbisk_switch_egrIntfToOvoIntf_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_egrIntfToOvoIntf_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_egrIntfToOvoIntf_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_egrIntfToOvoIntf_match_specs_are_equal(const p4_pd_orbisk_switch_egrIntfToOvoIntf_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_egrIntfToOvoIntf_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_egrIntfToOvoIntf_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* ovoIntfToPhysical: table 0x0100002a, pipeline A, ternary match, 6 key bytes (29 bits) */
 typedef struct p4_pd_orbisk_switch_ovoIntfToPhysical_match_spec {
@@ -3793,6 +4155,8 @@ pd_status p4_pd_orbisk_switch_ovoIntfToPhysical_get_plcmt_data(pd_sess_hdl sess_
 void p4_pd_orbisk_switch_ovoIntfToPhysical_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_ovoIntfToPhysical_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_ovoIntfToPhysical_match_spec_value(const p4_pd_orbisk_switch_ovoIntfToPhysical_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_ovoIntfToPhysical_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ovoIntfToPhysical_match_spec_t *match_spec,
     uint32_t *priority,
@@ -3801,6 +4165,22 @@ pd_status p4_pd_orbisk_switch_ovoIntfToPhysical_get_entry_from_plcmt_data(const 
 pd_status p4_pd_orbisk_switch_ovoIntfToPhysical_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_ovoIntfToPhysical_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_ovoIntfToPhysical_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_ovoIntfToPhysical_match_specs_are_equal(const p4_pd_orbisk_switch_ovoIntfToPhysical_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_ovoIntfToPhysical_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ovoIntfToPhysical_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* egressPortDropCheck: table 0x01000074, pipeline A, ternary match, 9 key bytes (23 bits), entries carry egressPortDropCount */
 typedef struct p4_pd_orbisk_switch_egressPortDropCheck_match_spec {
@@ -3931,6 +4311,8 @@ pd_status p4_pd_orbisk_switch_egressPortDropCheck_get_plcmt_data(pd_sess_hdl ses
 void p4_pd_orbisk_switch_egressPortDropCheck_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_egressPortDropCheck_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_egressPortDropCheck_match_spec_value(const p4_pd_orbisk_switch_egressPortDropCheck_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_egressPortDropCheck_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_egressPortDropCheck_match_spec_t *match_spec,
     uint32_t *priority,
@@ -3939,8 +4321,24 @@ pd_status p4_pd_orbisk_switch_egressPortDropCheck_get_entry_from_plcmt_data(cons
 pd_status p4_pd_orbisk_switch_egressPortDropCheck_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_egressPortDropCheck_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_egressPortDropCheck_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_egressPortDropCheck_match_specs_are_equal(const p4_pd_orbisk_switch_egressPortDropCheck_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_egressPortDropCheck_match_spec_t *hw_match_spec,
+    char *error);
 int p4_pd_orbisk_switch_egressPortDropCheck_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_egressPortDropCheck_match_spec_t *match_spec,
     char *out);
+int p4_pd_orbisk_switch_egressPortDropCheck_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 int p4_pd_orbisk_switch_egressPortDropCheck_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -4044,6 +4442,8 @@ pd_status p4_pd_orbisk_switch_egressSamePortBridgingTest_get_plcmt_data(pd_sess_
 void p4_pd_orbisk_switch_egressSamePortBridgingTest_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_egressSamePortBridgingTest_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_egressSamePortBridgingTest_match_spec_value(const p4_pd_orbisk_switch_egressSamePortBridgingTest_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_egressSamePortBridgingTest_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_egressSamePortBridgingTest_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -4051,6 +4451,22 @@ pd_status p4_pd_orbisk_switch_egressSamePortBridgingTest_get_entry_from_plcmt_da
 pd_status p4_pd_orbisk_switch_egressSamePortBridgingTest_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_egressSamePortBridgingTest_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_egressSamePortBridgingTest_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_egressSamePortBridgingTest_match_specs_are_equal(const p4_pd_orbisk_switch_egressSamePortBridgingTest_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_egressSamePortBridgingTest_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_egressSamePortBridgingTest_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* samePortBridgingTest: table 0x0100004f, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_samePortBridgingTest_get_entry(pd_sess_hdl sess_hdl,
@@ -4112,6 +4528,19 @@ pd_status p4_pd_orbisk_switch_samePortBridgingTest_get_entry_from_plcmt_data(con
 pd_status p4_pd_orbisk_switch_samePortBridgingTest_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_samePortBridgingTest_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_samePortBridgingTest_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_samePortBridgingTest_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* mlagUcastPrune: table 0x01000050, pipeline A, exact match, 3 key bytes (20 bits) */
 typedef struct p4_pd_orbisk_switch_mlagUcastPrune_match_spec {
@@ -4209,6 +4638,8 @@ pd_status p4_pd_orbisk_switch_mlagUcastPrune_get_plcmt_data(pd_sess_hdl sess_hdl
 void p4_pd_orbisk_switch_mlagUcastPrune_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_mlagUcastPrune_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_mlagUcastPrune_match_spec_value(const p4_pd_orbisk_switch_mlagUcastPrune_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_mlagUcastPrune_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_mlagUcastPrune_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -4216,6 +4647,22 @@ pd_status p4_pd_orbisk_switch_mlagUcastPrune_get_entry_from_plcmt_data(const voi
 pd_status p4_pd_orbisk_switch_mlagUcastPrune_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_mlagUcastPrune_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_mlagUcastPrune_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_mlagUcastPrune_match_specs_are_equal(const p4_pd_orbisk_switch_mlagUcastPrune_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_mlagUcastPrune_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_mlagUcastPrune_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* ================================================================== */
 /* L2 forwarding and learning */
@@ -4410,6 +4857,8 @@ pd_status p4_pd_orbisk_switch_l2DmacClassify_get_plcmt_data(pd_sess_hdl sess_hdl
 void p4_pd_orbisk_switch_l2DmacClassify_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_l2DmacClassify_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_l2DmacClassify_match_spec_value(const p4_pd_orbisk_switch_l2DmacClassify_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_l2DmacClassify_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_l2DmacClassify_match_spec_t *match_spec,
     uint32_t *priority,
@@ -4418,8 +4867,24 @@ pd_status p4_pd_orbisk_switch_l2DmacClassify_get_entry_from_plcmt_data(const voi
 pd_status p4_pd_orbisk_switch_l2DmacClassify_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_l2DmacClassify_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_l2DmacClassify_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_l2DmacClassify_match_specs_are_equal(const p4_pd_orbisk_switch_l2DmacClassify_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_l2DmacClassify_match_spec_t *hw_match_spec,
+    char *error);
 int p4_pd_orbisk_switch_l2DmacClassify_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_l2DmacClassify_match_spec_t *match_spec,
     char *out);
+int p4_pd_orbisk_switch_l2DmacClassify_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 int p4_pd_orbisk_switch_l2DmacClassify_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -4534,6 +4999,8 @@ pd_status p4_pd_orbisk_switch_l2SmacCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_l2SmacCheck_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_l2SmacCheck_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_l2SmacCheck_match_spec_value(const p4_pd_orbisk_switch_l2SmacCheck_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_l2SmacCheck_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_l2SmacCheck_match_spec_t *match_spec,
     uint32_t *priority,
@@ -4542,6 +5009,22 @@ pd_status p4_pd_orbisk_switch_l2SmacCheck_get_entry_from_plcmt_data(const void *
 pd_status p4_pd_orbisk_switch_l2SmacCheck_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_l2SmacCheck_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_l2SmacCheck_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_l2SmacCheck_match_specs_are_equal(const p4_pd_orbisk_switch_l2SmacCheck_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_l2SmacCheck_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_l2SmacCheck_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* l2StaticMacSrcAddrDrop: table 0x01000013, pipeline A, exact match, 8 key bytes (60 bits) */
 typedef struct p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_match_spec {
@@ -4643,6 +5126,8 @@ pd_status p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_get_plcmt_data(pd_sess_hdl 
 void p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_match_spec_value(const p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -4650,6 +5135,22 @@ pd_status p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_get_entry_from_plcmt_data(c
 pd_status p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_match_specs_are_equal(const p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_l2StaticMacSrcAddrDrop_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* l2LearningLookup: table 0x01000014, pipeline A, exact match, 11 key bytes (80 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_l2LearningLookup_match_spec {
@@ -4786,6 +5287,8 @@ pd_status p4_pd_orbisk_switch_l2LearningLookup_get_plcmt_data(pd_sess_hdl sess_h
 void p4_pd_orbisk_switch_l2LearningLookup_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_l2LearningLookup_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_l2LearningLookup_match_spec_value(const p4_pd_orbisk_switch_l2LearningLookup_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_l2LearningLookup_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_l2LearningLookup_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -4793,6 +5296,22 @@ pd_status p4_pd_orbisk_switch_l2LearningLookup_get_entry_from_plcmt_data(const v
 pd_status p4_pd_orbisk_switch_l2LearningLookup_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_l2LearningLookup_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_l2LearningLookup_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_l2LearningLookup_match_specs_are_equal(const p4_pd_orbisk_switch_l2LearningLookup_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_l2LearningLookup_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_l2LearningLookup_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* l2Lookup: table 0x0100002f, pipeline A, exact match, 8 key bytes (60 bits) */
 typedef struct p4_pd_orbisk_switch_l2Lookup_match_spec {
@@ -4933,6 +5452,8 @@ pd_status p4_pd_orbisk_switch_l2Lookup_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_l2Lookup_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_l2Lookup_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_l2Lookup_match_spec_value(const p4_pd_orbisk_switch_l2Lookup_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_l2Lookup_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_l2Lookup_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -4940,6 +5461,22 @@ pd_status p4_pd_orbisk_switch_l2Lookup_get_entry_from_plcmt_data(const void *plc
 pd_status p4_pd_orbisk_switch_l2Lookup_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_l2Lookup_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_l2Lookup_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_l2Lookup_match_specs_are_equal(const p4_pd_orbisk_switch_l2Lookup_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_l2Lookup_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_l2Lookup_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* l2LookupMiss: table 0x01000030, pipeline A, ternary match, 8 key bytes (57 bits), entries carry stormControlMeter */
 typedef struct p4_pd_orbisk_switch_l2LookupMiss_match_spec {
@@ -5090,6 +5627,8 @@ pd_status p4_pd_orbisk_switch_l2LookupMiss_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_l2LookupMiss_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_l2LookupMiss_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_l2LookupMiss_match_spec_value(const p4_pd_orbisk_switch_l2LookupMiss_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_l2LookupMiss_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_l2LookupMiss_match_spec_t *match_spec,
     uint32_t *priority,
@@ -5098,6 +5637,22 @@ pd_status p4_pd_orbisk_switch_l2LookupMiss_get_entry_from_plcmt_data(const void 
 pd_status p4_pd_orbisk_switch_l2LookupMiss_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_l2LookupMiss_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_l2LookupMiss_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_l2LookupMiss_match_specs_are_equal(const p4_pd_orbisk_switch_l2LookupMiss_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_l2LookupMiss_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_l2LookupMiss_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* l2ForwardParams: table 0x01000017, pipeline A, exact match, 1 key bytes (1 bits) */
 typedef struct p4_pd_orbisk_switch_l2ForwardParams_match_spec {
@@ -5189,6 +5744,8 @@ pd_status p4_pd_orbisk_switch_l2ForwardParams_get_plcmt_data(pd_sess_hdl sess_hd
 void p4_pd_orbisk_switch_l2ForwardParams_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_l2ForwardParams_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_l2ForwardParams_match_spec_value(const p4_pd_orbisk_switch_l2ForwardParams_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_l2ForwardParams_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_l2ForwardParams_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -5196,6 +5753,22 @@ pd_status p4_pd_orbisk_switch_l2ForwardParams_get_entry_from_plcmt_data(const vo
 pd_status p4_pd_orbisk_switch_l2ForwardParams_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_l2ForwardParams_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_l2ForwardParams_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_l2ForwardParams_match_specs_are_equal(const p4_pd_orbisk_switch_l2ForwardParams_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_l2ForwardParams_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_l2ForwardParams_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* l2XRemap: table 0x11010007, pipeline B, exact match, 2 key bytes (9 bits) */
 typedef struct p4_pd_orbisk_switch_l2XRemap_match_spec {
@@ -5287,6 +5860,8 @@ pd_status p4_pd_orbisk_switch_l2XRemap_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_l2XRemap_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_l2XRemap_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_l2XRemap_match_spec_value(const p4_pd_orbisk_switch_l2XRemap_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_l2XRemap_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_l2XRemap_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -5294,6 +5869,22 @@ pd_status p4_pd_orbisk_switch_l2XRemap_get_entry_from_plcmt_data(const void *plc
 pd_status p4_pd_orbisk_switch_l2XRemap_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_l2XRemap_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_l2XRemap_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_l2XRemap_match_specs_are_equal(const p4_pd_orbisk_switch_l2XRemap_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_l2XRemap_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_l2XRemap_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* learningDigestGeneration: table 0x0100003b, pipeline A, ternary match, 10 key bytes (35 bits) */
 typedef struct p4_pd_orbisk_switch_learningDigestGeneration_match_spec {
@@ -5454,6 +6045,8 @@ pd_status p4_pd_orbisk_switch_learningDigestGeneration_get_plcmt_data(pd_sess_hd
 void p4_pd_orbisk_switch_learningDigestGeneration_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_learningDigestGeneration_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_learningDigestGeneration_match_spec_value(const p4_pd_orbisk_switch_learningDigestGeneration_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_learningDigestGeneration_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_learningDigestGeneration_match_spec_t *match_spec,
     uint32_t *priority,
@@ -5462,6 +6055,22 @@ pd_status p4_pd_orbisk_switch_learningDigestGeneration_get_entry_from_plcmt_data
 pd_status p4_pd_orbisk_switch_learningDigestGeneration_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_learningDigestGeneration_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_learningDigestGeneration_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_learningDigestGeneration_match_specs_are_equal(const p4_pd_orbisk_switch_learningDigestGeneration_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_learningDigestGeneration_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_learningDigestGeneration_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* bridgeToEA: table 0x11010024, pipeline B, no key */
 pd_status p4_pd_orbisk_switch_bridgeToEA_get_entry(pd_sess_hdl sess_hdl,
@@ -5523,6 +6132,19 @@ pd_status p4_pd_orbisk_switch_bridgeToEA_get_entry_from_plcmt_data(const void *p
 pd_status p4_pd_orbisk_switch_bridgeToEA_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_bridgeToEA_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_bridgeToEA_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_bridgeToEA_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* ================================================================== */
 /* IP routing tables */
@@ -5658,6 +6280,8 @@ pd_status p4_pd_orbisk_switch_l3DmacCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_l3DmacCheck_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_l3DmacCheck_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_l3DmacCheck_match_spec_value(const p4_pd_orbisk_switch_l3DmacCheck_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_l3DmacCheck_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_l3DmacCheck_match_spec_t *match_spec,
     uint32_t *priority,
@@ -5666,6 +6290,22 @@ pd_status p4_pd_orbisk_switch_l3DmacCheck_get_entry_from_plcmt_data(const void *
 pd_status p4_pd_orbisk_switch_l3DmacCheck_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_l3DmacCheck_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_l3DmacCheck_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_l3DmacCheck_match_specs_are_equal(const p4_pd_orbisk_switch_l3DmacCheck_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_l3DmacCheck_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_l3DmacCheck_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* vrrpMacCheck: table 0x01000012, pipeline A, exact match, 8 key bytes (60 bits) */
 typedef struct p4_pd_orbisk_switch_vrrpMacCheck_match_spec {
@@ -5767,6 +6407,8 @@ pd_status p4_pd_orbisk_switch_vrrpMacCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_vrrpMacCheck_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_vrrpMacCheck_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_vrrpMacCheck_match_spec_value(const p4_pd_orbisk_switch_vrrpMacCheck_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_vrrpMacCheck_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_vrrpMacCheck_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -5774,6 +6416,22 @@ pd_status p4_pd_orbisk_switch_vrrpMacCheck_get_entry_from_plcmt_data(const void 
 pd_status p4_pd_orbisk_switch_vrrpMacCheck_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_vrrpMacCheck_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_vrrpMacCheck_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_vrrpMacCheck_match_specs_are_equal(const p4_pd_orbisk_switch_vrrpMacCheck_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_vrrpMacCheck_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_vrrpMacCheck_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* ipv4Host: table 0x11010008, pipeline B, exact match, 5 key bytes (40 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv4Host_match_spec {
@@ -5946,6 +6604,8 @@ pd_status p4_pd_orbisk_switch_ipv4Host_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_ipv4Host_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_ipv4Host_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_ipv4Host_match_spec_value(const p4_pd_orbisk_switch_ipv4Host_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_ipv4Host_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ipv4Host_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -5953,6 +6613,22 @@ pd_status p4_pd_orbisk_switch_ipv4Host_get_entry_from_plcmt_data(const void *plc
 pd_status p4_pd_orbisk_switch_ipv4Host_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_ipv4Host_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_ipv4Host_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_ipv4Host_match_specs_are_equal(const p4_pd_orbisk_switch_ipv4Host_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_ipv4Host_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ipv4Host_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* ipv4ShortMaskLpm: table 0x1101000c, pipeline B, longest prefix match, 5 key bytes (40 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec {
@@ -6128,6 +6804,8 @@ pd_status p4_pd_orbisk_switch_ipv4ShortMaskLpm_get_plcmt_data(pd_sess_hdl sess_h
 void p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec_value(const p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_ipv4ShortMaskLpm_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -6135,6 +6813,22 @@ pd_status p4_pd_orbisk_switch_ipv4ShortMaskLpm_get_entry_from_plcmt_data(const v
 pd_status p4_pd_orbisk_switch_ipv4ShortMaskLpm_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_ipv4ShortMaskLpm_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_ipv4ShortMaskLpm_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_specs_are_equal(const p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_ipv4ShortMaskLpm_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ipv4ShortMaskLpm_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* ipv4Partition0: table 0x1101000a, pipeline B, longest prefix match, 5 key bytes (40 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv4Partition0_match_spec {
@@ -6271,6 +6965,8 @@ pd_status p4_pd_orbisk_switch_ipv4Partition0_get_plcmt_data(pd_sess_hdl sess_hdl
 void p4_pd_orbisk_switch_ipv4Partition0_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_ipv4Partition0_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_ipv4Partition0_match_spec_value(const p4_pd_orbisk_switch_ipv4Partition0_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_ipv4Partition0_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ipv4Partition0_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -6278,6 +6974,22 @@ pd_status p4_pd_orbisk_switch_ipv4Partition0_get_entry_from_plcmt_data(const voi
 pd_status p4_pd_orbisk_switch_ipv4Partition0_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_ipv4Partition0_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_ipv4Partition0_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_ipv4Partition0_match_specs_are_equal(const p4_pd_orbisk_switch_ipv4Partition0_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_ipv4Partition0_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ipv4Partition0_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* ipv4FinalResolve0: table 0x1101000b, pipeline B, partitioned longest prefix match, 6 key bytes (48 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv4FinalResolve0_match_spec {
@@ -6453,6 +7165,8 @@ pd_status p4_pd_orbisk_switch_ipv4FinalResolve0_get_plcmt_data(pd_sess_hdl sess_
 void p4_pd_orbisk_switch_ipv4FinalResolve0_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_ipv4FinalResolve0_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_ipv4FinalResolve0_match_spec_value(const p4_pd_orbisk_switch_ipv4FinalResolve0_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_ipv4FinalResolve0_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ipv4FinalResolve0_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -6460,6 +7174,22 @@ pd_status p4_pd_orbisk_switch_ipv4FinalResolve0_get_entry_from_plcmt_data(const 
 pd_status p4_pd_orbisk_switch_ipv4FinalResolve0_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_ipv4FinalResolve0_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_ipv4FinalResolve0_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_ipv4FinalResolve0_match_specs_are_equal(const p4_pd_orbisk_switch_ipv4FinalResolve0_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_ipv4FinalResolve0_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ipv4FinalResolve0_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* ipv6Host: table 0x01000022, pipeline A, exact match, 17 key bytes (136 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv6Host_match_spec {
@@ -6632,6 +7362,8 @@ pd_status p4_pd_orbisk_switch_ipv6Host_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_ipv6Host_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_ipv6Host_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_ipv6Host_match_spec_value(const p4_pd_orbisk_switch_ipv6Host_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_ipv6Host_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ipv6Host_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -6639,6 +7371,22 @@ pd_status p4_pd_orbisk_switch_ipv6Host_get_entry_from_plcmt_data(const void *plc
 pd_status p4_pd_orbisk_switch_ipv6Host_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_ipv6Host_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_ipv6Host_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_ipv6Host_match_specs_are_equal(const p4_pd_orbisk_switch_ipv6Host_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_ipv6Host_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ipv6Host_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* ipv6ShortMaskLpm: table 0x0100002e, pipeline A, longest prefix match, 17 key bytes (136 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv6ShortMaskLpm_match_spec {
@@ -6814,6 +7562,8 @@ pd_status p4_pd_orbisk_switch_ipv6ShortMaskLpm_get_plcmt_data(pd_sess_hdl sess_h
 void p4_pd_orbisk_switch_ipv6ShortMaskLpm_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_ipv6ShortMaskLpm_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_ipv6ShortMaskLpm_match_spec_value(const p4_pd_orbisk_switch_ipv6ShortMaskLpm_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_ipv6ShortMaskLpm_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ipv6ShortMaskLpm_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -6821,6 +7571,22 @@ pd_status p4_pd_orbisk_switch_ipv6ShortMaskLpm_get_entry_from_plcmt_data(const v
 pd_status p4_pd_orbisk_switch_ipv6ShortMaskLpm_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_ipv6ShortMaskLpm_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_ipv6ShortMaskLpm_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_ipv6ShortMaskLpm_match_specs_are_equal(const p4_pd_orbisk_switch_ipv6ShortMaskLpm_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_ipv6ShortMaskLpm_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ipv6ShortMaskLpm_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* ipv6Partition: table 0x0100002d, pipeline A, longest prefix match, 17 key bytes (136 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv6Partition_match_spec {
@@ -6996,6 +7762,8 @@ pd_status p4_pd_orbisk_switch_ipv6Partition_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_ipv6Partition_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_ipv6Partition_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_ipv6Partition_match_spec_value(const p4_pd_orbisk_switch_ipv6Partition_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_ipv6Partition_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ipv6Partition_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -7003,6 +7771,22 @@ pd_status p4_pd_orbisk_switch_ipv6Partition_get_entry_from_plcmt_data(const void
 pd_status p4_pd_orbisk_switch_ipv6Partition_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_ipv6Partition_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_ipv6Partition_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_ipv6Partition_match_specs_are_equal(const p4_pd_orbisk_switch_ipv6Partition_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_ipv6Partition_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ipv6Partition_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* ipv6FinalResolve: table 0x01000031, pipeline A, partitioned longest prefix match, 18 key bytes (144 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv6FinalResolve_match_spec {
@@ -7178,6 +7962,8 @@ pd_status p4_pd_orbisk_switch_ipv6FinalResolve_get_plcmt_data(pd_sess_hdl sess_h
 void p4_pd_orbisk_switch_ipv6FinalResolve_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_ipv6FinalResolve_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_ipv6FinalResolve_match_spec_value(const p4_pd_orbisk_switch_ipv6FinalResolve_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_ipv6FinalResolve_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ipv6FinalResolve_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -7185,6 +7971,22 @@ pd_status p4_pd_orbisk_switch_ipv6FinalResolve_get_entry_from_plcmt_data(const v
 pd_status p4_pd_orbisk_switch_ipv6FinalResolve_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_ipv6FinalResolve_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_ipv6FinalResolve_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_ipv6FinalResolve_match_specs_are_equal(const p4_pd_orbisk_switch_ipv6FinalResolve_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_ipv6FinalResolve_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ipv6FinalResolve_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* ipv6LgMaskPartition0: table 0x01000023, pipeline A, longest prefix match, 17 key bytes (136 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv6LgMaskPartition0_match_spec {
@@ -7321,6 +8123,8 @@ pd_status p4_pd_orbisk_switch_ipv6LgMaskPartition0_get_plcmt_data(pd_sess_hdl se
 void p4_pd_orbisk_switch_ipv6LgMaskPartition0_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_ipv6LgMaskPartition0_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_ipv6LgMaskPartition0_match_spec_value(const p4_pd_orbisk_switch_ipv6LgMaskPartition0_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_ipv6LgMaskPartition0_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ipv6LgMaskPartition0_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -7328,6 +8132,22 @@ pd_status p4_pd_orbisk_switch_ipv6LgMaskPartition0_get_entry_from_plcmt_data(con
 pd_status p4_pd_orbisk_switch_ipv6LgMaskPartition0_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_ipv6LgMaskPartition0_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_ipv6LgMaskPartition0_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_ipv6LgMaskPartition0_match_specs_are_equal(const p4_pd_orbisk_switch_ipv6LgMaskPartition0_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_ipv6LgMaskPartition0_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ipv6LgMaskPartition0_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* ipv6LgMaskFinalResolve0: table 0x0100002c, pipeline A, partitioned longest prefix match, 18 key bytes (144 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_match_spec {
@@ -7503,6 +8323,8 @@ pd_status p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_get_plcmt_data(pd_sess_hdl
 void p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_match_spec_value(const p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -7510,6 +8332,22 @@ pd_status p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_get_entry_from_plcmt_data(
 pd_status p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_match_specs_are_equal(const p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ipv6LgMaskFinalResolve0_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* ================================================================== */
 /* Next hops and load balancing */
@@ -7623,6 +8461,8 @@ pd_status p4_pd_orbisk_switch_ecmpGroup_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_ecmpGroup_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_ecmpGroup_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_ecmpGroup_match_spec_value(const p4_pd_orbisk_switch_ecmpGroup_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_ecmpGroup_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ecmpGroup_match_spec_t *match_spec,
     pd_mbr_hdl *mbr_hdl,
@@ -7633,6 +8473,22 @@ pd_status p4_pd_orbisk_switch_ecmpGroup_get_entry_from_plcmt_data(const void *pl
 pd_status p4_pd_orbisk_switch_ecmpGroup_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_ecmpGroup_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_ecmpGroup_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_ecmpGroup_match_specs_are_equal(const p4_pd_orbisk_switch_ecmpGroup_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_ecmpGroup_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ecmpGroup_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* reservedNextHop: table 0x1101000e, pipeline B, exact match, 2 key bytes (15 bits) */
 typedef struct p4_pd_orbisk_switch_reservedNextHop_match_spec {
@@ -7733,6 +8589,8 @@ pd_status p4_pd_orbisk_switch_reservedNextHop_get_plcmt_data(pd_sess_hdl sess_hd
 void p4_pd_orbisk_switch_reservedNextHop_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_reservedNextHop_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_reservedNextHop_match_spec_value(const p4_pd_orbisk_switch_reservedNextHop_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_reservedNextHop_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_reservedNextHop_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -7740,6 +8598,22 @@ pd_status p4_pd_orbisk_switch_reservedNextHop_get_entry_from_plcmt_data(const vo
 pd_status p4_pd_orbisk_switch_reservedNextHop_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_reservedNextHop_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_reservedNextHop_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_reservedNextHop_match_specs_are_equal(const p4_pd_orbisk_switch_reservedNextHop_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_reservedNextHop_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_reservedNextHop_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* nextHop0: table 0x1101000f, pipeline B, exact match, 2 key bytes (15 bits) */
 typedef struct p4_pd_orbisk_switch_nextHop0_match_spec {
@@ -7831,6 +8705,8 @@ pd_status p4_pd_orbisk_switch_nextHop0_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_nextHop0_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_nextHop0_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_nextHop0_match_spec_value(const p4_pd_orbisk_switch_nextHop0_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_nextHop0_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_nextHop0_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -7838,6 +8714,22 @@ pd_status p4_pd_orbisk_switch_nextHop0_get_entry_from_plcmt_data(const void *plc
 pd_status p4_pd_orbisk_switch_nextHop0_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_nextHop0_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_nextHop0_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_nextHop0_match_specs_are_equal(const p4_pd_orbisk_switch_nextHop0_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_nextHop0_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_nextHop0_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* routerNextHop0: table 0x11010010, pipeline B, exact match, 2 key bytes (15 bits) */
 typedef struct p4_pd_orbisk_switch_routerNextHop0_match_spec {
@@ -7929,6 +8821,8 @@ pd_status p4_pd_orbisk_switch_routerNextHop0_get_plcmt_data(pd_sess_hdl sess_hdl
 void p4_pd_orbisk_switch_routerNextHop0_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_routerNextHop0_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_routerNextHop0_match_spec_value(const p4_pd_orbisk_switch_routerNextHop0_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_routerNextHop0_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_routerNextHop0_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -7936,6 +8830,22 @@ pd_status p4_pd_orbisk_switch_routerNextHop0_get_entry_from_plcmt_data(const voi
 pd_status p4_pd_orbisk_switch_routerNextHop0_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_routerNextHop0_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_routerNextHop0_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_routerNextHop0_match_specs_are_equal(const p4_pd_orbisk_switch_routerNextHop0_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_routerNextHop0_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_routerNextHop0_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* lagGroup: table 0x11010023, pipeline B, ternary match, 3 key bytes (20 bits), entries name a member or group of lagPortActionProfile */
 typedef struct p4_pd_orbisk_switch_lagGroup_match_spec {
@@ -8055,6 +8965,8 @@ pd_status p4_pd_orbisk_switch_lagGroup_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_lagGroup_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_lagGroup_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_lagGroup_match_spec_value(const p4_pd_orbisk_switch_lagGroup_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_lagGroup_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_lagGroup_match_spec_t *match_spec,
     uint32_t *priority,
@@ -8066,6 +8978,22 @@ pd_status p4_pd_orbisk_switch_lagGroup_get_entry_from_plcmt_data(const void *plc
 pd_status p4_pd_orbisk_switch_lagGroup_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_lagGroup_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_lagGroup_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_lagGroup_match_specs_are_equal(const p4_pd_orbisk_switch_lagGroup_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_lagGroup_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_lagGroup_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* ecmpHashSelection: table 0x01000043, pipeline A, ternary match, 9 key bytes (9 bits) */
 typedef struct p4_pd_orbisk_switch_ecmpHashSelection_match_spec {
@@ -8245,6 +9173,8 @@ pd_status p4_pd_orbisk_switch_ecmpHashSelection_get_plcmt_data(pd_sess_hdl sess_
 void p4_pd_orbisk_switch_ecmpHashSelection_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_ecmpHashSelection_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_ecmpHashSelection_match_spec_value(const p4_pd_orbisk_switch_ecmpHashSelection_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_ecmpHashSelection_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ecmpHashSelection_match_spec_t *match_spec,
     uint32_t *priority,
@@ -8253,6 +9183,22 @@ pd_status p4_pd_orbisk_switch_ecmpHashSelection_get_entry_from_plcmt_data(const 
 pd_status p4_pd_orbisk_switch_ecmpHashSelection_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_ecmpHashSelection_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_ecmpHashSelection_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_ecmpHashSelection_match_specs_are_equal(const p4_pd_orbisk_switch_ecmpHashSelection_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_ecmpHashSelection_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ecmpHashSelection_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* lagHashSelection: table 0x01000042, pipeline A, ternary match, 10 key bytes (10 bits) */
 typedef struct p4_pd_orbisk_switch_lagHashSelection_match_spec {
@@ -8447,6 +9393,8 @@ pd_status p4_pd_orbisk_switch_lagHashSelection_get_plcmt_data(pd_sess_hdl sess_h
 void p4_pd_orbisk_switch_lagHashSelection_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_lagHashSelection_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_lagHashSelection_match_spec_value(const p4_pd_orbisk_switch_lagHashSelection_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_lagHashSelection_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_lagHashSelection_match_spec_t *match_spec,
     uint32_t *priority,
@@ -8455,6 +9403,22 @@ pd_status p4_pd_orbisk_switch_lagHashSelection_get_entry_from_plcmt_data(const v
 pd_status p4_pd_orbisk_switch_lagHashSelection_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_lagHashSelection_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_lagHashSelection_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_lagHashSelection_match_specs_are_equal(const p4_pd_orbisk_switch_lagHashSelection_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_lagHashSelection_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_lagHashSelection_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* hashComputeInnerIpHdr: table 0x01000002, pipeline A, exact match, 2 key bytes (2 bits) */
 typedef struct p4_pd_orbisk_switch_hashComputeInnerIpHdr_match_spec {
@@ -8564,6 +9528,8 @@ pd_status p4_pd_orbisk_switch_hashComputeInnerIpHdr_get_plcmt_data(pd_sess_hdl s
 void p4_pd_orbisk_switch_hashComputeInnerIpHdr_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_hashComputeInnerIpHdr_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_hashComputeInnerIpHdr_match_spec_value(const p4_pd_orbisk_switch_hashComputeInnerIpHdr_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_hashComputeInnerIpHdr_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_hashComputeInnerIpHdr_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -8571,6 +9537,22 @@ pd_status p4_pd_orbisk_switch_hashComputeInnerIpHdr_get_entry_from_plcmt_data(co
 pd_status p4_pd_orbisk_switch_hashComputeInnerIpHdr_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_hashComputeInnerIpHdr_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_hashComputeInnerIpHdr_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_hashComputeInnerIpHdr_match_specs_are_equal(const p4_pd_orbisk_switch_hashComputeInnerIpHdr_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_hashComputeInnerIpHdr_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_hashComputeInnerIpHdr_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* hashComputeOuterIpv4Hdr: table 0x01000037, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_get_entry(pd_sess_hdl sess_hdl,
@@ -8632,6 +9614,19 @@ pd_status p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_get_entry_from_plcmt_data(
 pd_status p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_hashComputeOuterIpv4Hdr_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* hashComputeOuterIpv6Hdr: table 0x01000038, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_get_entry(pd_sess_hdl sess_hdl,
@@ -8693,6 +9688,19 @@ pd_status p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_get_entry_from_plcmt_data(
 pd_status p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_hashComputeOuterIpv6Hdr_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* hashComputeInnerEthHdr: table 0x01000039, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_hashComputeInnerEthHdr_get_entry(pd_sess_hdl sess_hdl,
@@ -8754,6 +9762,19 @@ pd_status p4_pd_orbisk_switch_hashComputeInnerEthHdr_get_entry_from_plcmt_data(c
 pd_status p4_pd_orbisk_switch_hashComputeInnerEthHdr_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_hashComputeInnerEthHdr_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_hashComputeInnerEthHdr_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_hashComputeInnerEthHdr_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* hashComputeIpAndL4Hdr: table 0x0100003e, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_get_entry(pd_sess_hdl sess_hdl,
@@ -8815,6 +9836,19 @@ pd_status p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_get_entry_from_plcmt_data(co
 pd_status p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_hashComputeIpAndL4Hdr_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* hashFromCpuHdr: table 0x01000041, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_hashFromCpuHdr_get_entry(pd_sess_hdl sess_hdl,
@@ -8876,6 +9910,19 @@ pd_status p4_pd_orbisk_switch_hashFromCpuHdr_get_entry_from_plcmt_data(const voi
 pd_status p4_pd_orbisk_switch_hashFromCpuHdr_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_hashFromCpuHdr_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_hashFromCpuHdr_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_hashFromCpuHdr_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* ================================================================== */
 /* Multicast */
@@ -9013,6 +10060,8 @@ pd_status p4_pd_orbisk_switch_ipv4McGroupVlan_get_plcmt_data(pd_sess_hdl sess_hd
 void p4_pd_orbisk_switch_ipv4McGroupVlan_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_ipv4McGroupVlan_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_ipv4McGroupVlan_match_spec_value(const p4_pd_orbisk_switch_ipv4McGroupVlan_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_ipv4McGroupVlan_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ipv4McGroupVlan_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -9020,6 +10069,22 @@ pd_status p4_pd_orbisk_switch_ipv4McGroupVlan_get_entry_from_plcmt_data(const vo
 pd_status p4_pd_orbisk_switch_ipv4McGroupVlan_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_ipv4McGroupVlan_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_ipv4McGroupVlan_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_ipv4McGroupVlan_match_specs_are_equal(const p4_pd_orbisk_switch_ipv4McGroupVlan_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_ipv4McGroupVlan_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ipv4McGroupVlan_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* ipv4McSourceGroupVlan: table 0x0100004e, pipeline A, exact match, 6 key bytes (48 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_ipv4McSourceGroupVlan_match_spec {
@@ -9153,6 +10218,8 @@ pd_status p4_pd_orbisk_switch_ipv4McSourceGroupVlan_get_plcmt_data(pd_sess_hdl s
 void p4_pd_orbisk_switch_ipv4McSourceGroupVlan_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_ipv4McSourceGroupVlan_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_ipv4McSourceGroupVlan_match_spec_value(const p4_pd_orbisk_switch_ipv4McSourceGroupVlan_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_ipv4McSourceGroupVlan_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ipv4McSourceGroupVlan_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -9160,6 +10227,22 @@ pd_status p4_pd_orbisk_switch_ipv4McSourceGroupVlan_get_entry_from_plcmt_data(co
 pd_status p4_pd_orbisk_switch_ipv4McSourceGroupVlan_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_ipv4McSourceGroupVlan_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_ipv4McSourceGroupVlan_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_ipv4McSourceGroupVlan_match_specs_are_equal(const p4_pd_orbisk_switch_ipv4McSourceGroupVlan_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_ipv4McSourceGroupVlan_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ipv4McSourceGroupVlan_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* l2Multicast: table 0x01000040, pipeline A, exact match, 8 key bytes (60 bits) */
 typedef struct p4_pd_orbisk_switch_l2Multicast_match_spec {
@@ -9264,6 +10347,8 @@ pd_status p4_pd_orbisk_switch_l2Multicast_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_l2Multicast_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_l2Multicast_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_l2Multicast_match_spec_value(const p4_pd_orbisk_switch_l2Multicast_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_l2Multicast_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_l2Multicast_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -9271,6 +10356,22 @@ pd_status p4_pd_orbisk_switch_l2Multicast_get_entry_from_plcmt_data(const void *
 pd_status p4_pd_orbisk_switch_l2Multicast_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_l2Multicast_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_l2Multicast_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_l2Multicast_match_specs_are_equal(const p4_pd_orbisk_switch_l2Multicast_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_l2Multicast_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_l2Multicast_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* finalizeMcResult: table 0x01000053, pipeline A, ternary match, 9 key bytes (26 bits) */
 typedef struct p4_pd_orbisk_switch_finalizeMcResult_match_spec {
@@ -9477,6 +10578,8 @@ pd_status p4_pd_orbisk_switch_finalizeMcResult_get_plcmt_data(pd_sess_hdl sess_h
 void p4_pd_orbisk_switch_finalizeMcResult_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_finalizeMcResult_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_finalizeMcResult_match_spec_value(const p4_pd_orbisk_switch_finalizeMcResult_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_finalizeMcResult_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_finalizeMcResult_match_spec_t *match_spec,
     uint32_t *priority,
@@ -9485,6 +10588,22 @@ pd_status p4_pd_orbisk_switch_finalizeMcResult_get_entry_from_plcmt_data(const v
 pd_status p4_pd_orbisk_switch_finalizeMcResult_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_finalizeMcResult_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_finalizeMcResult_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_finalizeMcResult_match_specs_are_equal(const p4_pd_orbisk_switch_finalizeMcResult_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_finalizeMcResult_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_finalizeMcResult_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* egressMcRemap: table 0x01000060, pipeline A, exact match, 2 key bytes (16 bits) */
 typedef struct p4_pd_orbisk_switch_egressMcRemap_match_spec {
@@ -9585,6 +10704,8 @@ pd_status p4_pd_orbisk_switch_egressMcRemap_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_egressMcRemap_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_egressMcRemap_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_egressMcRemap_match_spec_value(const p4_pd_orbisk_switch_egressMcRemap_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_egressMcRemap_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_egressMcRemap_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -9592,6 +10713,22 @@ pd_status p4_pd_orbisk_switch_egressMcRemap_get_entry_from_plcmt_data(const void
 pd_status p4_pd_orbisk_switch_egressMcRemap_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_egressMcRemap_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_egressMcRemap_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_egressMcRemap_match_specs_are_equal(const p4_pd_orbisk_switch_egressMcRemap_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_egressMcRemap_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_egressMcRemap_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* mcastPrune: table 0x11010028, pipeline B, ternary match, 8 key bytes (42 bits) */
 typedef struct p4_pd_orbisk_switch_mcastPrune_match_spec {
@@ -9757,6 +10894,8 @@ pd_status p4_pd_orbisk_switch_mcastPrune_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_mcastPrune_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_mcastPrune_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_mcastPrune_match_spec_value(const p4_pd_orbisk_switch_mcastPrune_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_mcastPrune_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_mcastPrune_match_spec_t *match_spec,
     uint32_t *priority,
@@ -9765,6 +10904,22 @@ pd_status p4_pd_orbisk_switch_mcastPrune_get_entry_from_plcmt_data(const void *p
 pd_status p4_pd_orbisk_switch_mcastPrune_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_mcastPrune_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_mcastPrune_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_mcastPrune_match_specs_are_equal(const p4_pd_orbisk_switch_mcastPrune_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_mcastPrune_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_mcastPrune_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* ================================================================== */
 /* VXLAN and tunnels */
@@ -9902,6 +11057,8 @@ pd_status p4_pd_orbisk_switch_tunnelTermination_get_plcmt_data(pd_sess_hdl sess_
 void p4_pd_orbisk_switch_tunnelTermination_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_tunnelTermination_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_tunnelTermination_match_spec_value(const p4_pd_orbisk_switch_tunnelTermination_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_tunnelTermination_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_tunnelTermination_match_spec_t *match_spec,
     uint32_t *priority,
@@ -9910,6 +11067,22 @@ pd_status p4_pd_orbisk_switch_tunnelTermination_get_entry_from_plcmt_data(const 
 pd_status p4_pd_orbisk_switch_tunnelTermination_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_tunnelTermination_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_tunnelTermination_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_tunnelTermination_match_specs_are_equal(const p4_pd_orbisk_switch_tunnelTermination_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_tunnelTermination_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_tunnelTermination_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* vxlanL2AintfLookup: table 0x01000008, pipeline A, exact match, 4 key bytes (32 bits) */
 typedef struct p4_pd_orbisk_switch_vxlanL2AintfLookup_match_spec {
@@ -10040,6 +11213,8 @@ pd_status p4_pd_orbisk_switch_vxlanL2AintfLookup_get_plcmt_data(pd_sess_hdl sess
 void p4_pd_orbisk_switch_vxlanL2AintfLookup_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_vxlanL2AintfLookup_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_vxlanL2AintfLookup_match_spec_value(const p4_pd_orbisk_switch_vxlanL2AintfLookup_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_vxlanL2AintfLookup_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_vxlanL2AintfLookup_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -10047,6 +11222,22 @@ pd_status p4_pd_orbisk_switch_vxlanL2AintfLookup_get_entry_from_plcmt_data(const
 pd_status p4_pd_orbisk_switch_vxlanL2AintfLookup_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_vxlanL2AintfLookup_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_vxlanL2AintfLookup_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_vxlanL2AintfLookup_match_specs_are_equal(const p4_pd_orbisk_switch_vxlanL2AintfLookup_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_vxlanL2AintfLookup_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_vxlanL2AintfLookup_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* vxlanVniResolution: table 0x01000009, pipeline A, exact match, 4 key bytes (27 bits) */
 typedef struct p4_pd_orbisk_switch_vxlanVniResolution_match_spec {
@@ -10168,6 +11359,8 @@ pd_status p4_pd_orbisk_switch_vxlanVniResolution_get_plcmt_data(pd_sess_hdl sess
 void p4_pd_orbisk_switch_vxlanVniResolution_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_vxlanVniResolution_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_vxlanVniResolution_match_spec_value(const p4_pd_orbisk_switch_vxlanVniResolution_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_vxlanVniResolution_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_vxlanVniResolution_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -10175,6 +11368,22 @@ pd_status p4_pd_orbisk_switch_vxlanVniResolution_get_entry_from_plcmt_data(const
 pd_status p4_pd_orbisk_switch_vxlanVniResolution_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_vxlanVniResolution_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_vxlanVniResolution_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_vxlanVniResolution_match_specs_are_equal(const p4_pd_orbisk_switch_vxlanVniResolution_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_vxlanVniResolution_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_vxlanVniResolution_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* vxlanVarp: table 0x01000034, pipeline A, ternary match, 8 key bytes (50 bits) */
 typedef struct p4_pd_orbisk_switch_vxlanVarp_match_spec {
@@ -10289,6 +11498,8 @@ pd_status p4_pd_orbisk_switch_vxlanVarp_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_vxlanVarp_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_vxlanVarp_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_vxlanVarp_match_spec_value(const p4_pd_orbisk_switch_vxlanVarp_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_vxlanVarp_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_vxlanVarp_match_spec_t *match_spec,
     uint32_t *priority,
@@ -10297,6 +11508,22 @@ pd_status p4_pd_orbisk_switch_vxlanVarp_get_entry_from_plcmt_data(const void *pl
 pd_status p4_pd_orbisk_switch_vxlanVarp_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_vxlanVarp_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_vxlanVarp_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_vxlanVarp_match_specs_are_equal(const p4_pd_orbisk_switch_vxlanVarp_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_vxlanVarp_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_vxlanVarp_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* vxlanArp: table 0x01000035, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_vxlanArp_get_entry(pd_sess_hdl sess_hdl,
@@ -10358,6 +11585,19 @@ pd_status p4_pd_orbisk_switch_vxlanArp_get_entry_from_plcmt_data(const void *plc
 pd_status p4_pd_orbisk_switch_vxlanArp_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_vxlanArp_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_vxlanArp_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_vxlanArp_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* tunnelDip0: table 0x0100005c, pipeline A, exact match, 4 key bytes (32 bits) */
 typedef struct p4_pd_orbisk_switch_tunnelDip0_match_spec {
@@ -10449,6 +11689,8 @@ pd_status p4_pd_orbisk_switch_tunnelDip0_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_tunnelDip0_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_tunnelDip0_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_tunnelDip0_match_spec_value(const p4_pd_orbisk_switch_tunnelDip0_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_tunnelDip0_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_tunnelDip0_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -10456,6 +11698,22 @@ pd_status p4_pd_orbisk_switch_tunnelDip0_get_entry_from_plcmt_data(const void *p
 pd_status p4_pd_orbisk_switch_tunnelDip0_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_tunnelDip0_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_tunnelDip0_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_tunnelDip0_match_specs_are_equal(const p4_pd_orbisk_switch_tunnelDip0_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_tunnelDip0_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_tunnelDip0_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* tunnelVniAndVti: table 0x0100005f, pipeline A, exact match, 2 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_tunnelVniAndVti_match_spec {
@@ -10556,6 +11814,8 @@ pd_status p4_pd_orbisk_switch_tunnelVniAndVti_get_plcmt_data(pd_sess_hdl sess_hd
 void p4_pd_orbisk_switch_tunnelVniAndVti_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_tunnelVniAndVti_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_tunnelVniAndVti_match_spec_value(const p4_pd_orbisk_switch_tunnelVniAndVti_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_tunnelVniAndVti_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_tunnelVniAndVti_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -10563,6 +11823,22 @@ pd_status p4_pd_orbisk_switch_tunnelVniAndVti_get_entry_from_plcmt_data(const vo
 pd_status p4_pd_orbisk_switch_tunnelVniAndVti_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_tunnelVniAndVti_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_tunnelVniAndVti_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_tunnelVniAndVti_match_specs_are_equal(const p4_pd_orbisk_switch_tunnelVniAndVti_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_tunnelVniAndVti_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_tunnelVniAndVti_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* tunnelL2Info: table 0x01000066, pipeline A, exact match, 4 key bytes (32 bits) */
 typedef struct p4_pd_orbisk_switch_tunnelL2Info_match_spec {
@@ -10663,6 +11939,8 @@ pd_status p4_pd_orbisk_switch_tunnelL2Info_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_tunnelL2Info_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_tunnelL2Info_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_tunnelL2Info_match_spec_value(const p4_pd_orbisk_switch_tunnelL2Info_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_tunnelL2Info_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_tunnelL2Info_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -10670,6 +11948,22 @@ pd_status p4_pd_orbisk_switch_tunnelL2Info_get_entry_from_plcmt_data(const void 
 pd_status p4_pd_orbisk_switch_tunnelL2Info_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_tunnelL2Info_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_tunnelL2Info_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_tunnelL2Info_match_specs_are_equal(const p4_pd_orbisk_switch_tunnelL2Info_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_tunnelL2Info_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_tunnelL2Info_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* tunnelResolve: table 0x1101001f, pipeline B, exact match, 2 key bytes (10 bits), entries name a member or group of tunnelMemberActionProfile */
 typedef struct p4_pd_orbisk_switch_tunnelResolve_match_spec {
@@ -10779,6 +12073,8 @@ pd_status p4_pd_orbisk_switch_tunnelResolve_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_tunnelResolve_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_tunnelResolve_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_tunnelResolve_match_spec_value(const p4_pd_orbisk_switch_tunnelResolve_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_tunnelResolve_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_tunnelResolve_match_spec_t *match_spec,
     pd_mbr_hdl *mbr_hdl,
@@ -10789,6 +12085,22 @@ pd_status p4_pd_orbisk_switch_tunnelResolve_get_entry_from_plcmt_data(const void
 pd_status p4_pd_orbisk_switch_tunnelResolve_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_tunnelResolve_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_tunnelResolve_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_tunnelResolve_match_specs_are_equal(const p4_pd_orbisk_switch_tunnelResolve_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_tunnelResolve_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_tunnelResolve_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* encapDecap: table 0x01000067, pipeline A, ternary match, 9 key bytes (41 bits) */
 typedef struct p4_pd_orbisk_switch_encapDecap_match_spec {
@@ -10996,6 +12308,8 @@ pd_status p4_pd_orbisk_switch_encapDecap_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_encapDecap_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_encapDecap_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_encapDecap_match_spec_value(const p4_pd_orbisk_switch_encapDecap_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_encapDecap_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_encapDecap_match_spec_t *match_spec,
     uint32_t *priority,
@@ -11004,6 +12318,22 @@ pd_status p4_pd_orbisk_switch_encapDecap_get_entry_from_plcmt_data(const void *p
 pd_status p4_pd_orbisk_switch_encapDecap_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_encapDecap_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_encapDecap_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_encapDecap_match_specs_are_equal(const p4_pd_orbisk_switch_encapDecap_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_encapDecap_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_encapDecap_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* decapIngress: table 0x01000049, pipeline A, exact match, 3 key bytes (5 bits) */
 typedef struct p4_pd_orbisk_switch_decapIngress_match_spec {
@@ -11145,6 +12475,8 @@ pd_status p4_pd_orbisk_switch_decapIngress_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_decapIngress_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_decapIngress_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_decapIngress_match_spec_value(const p4_pd_orbisk_switch_decapIngress_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_decapIngress_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_decapIngress_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -11152,6 +12484,22 @@ pd_status p4_pd_orbisk_switch_decapIngress_get_entry_from_plcmt_data(const void 
 pd_status p4_pd_orbisk_switch_decapIngress_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_decapIngress_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_decapIngress_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_decapIngress_match_specs_are_equal(const p4_pd_orbisk_switch_decapIngress_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_decapIngress_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_decapIngress_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* globalFields: table 0x01000064, pipeline A, ternary match, 8 key bytes (40 bits) */
 typedef struct p4_pd_orbisk_switch_globalFields_match_spec {
@@ -11303,6 +12651,8 @@ pd_status p4_pd_orbisk_switch_globalFields_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_globalFields_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_globalFields_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_globalFields_match_spec_value(const p4_pd_orbisk_switch_globalFields_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_globalFields_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_globalFields_match_spec_t *match_spec,
     uint32_t *priority,
@@ -11311,6 +12661,22 @@ pd_status p4_pd_orbisk_switch_globalFields_get_entry_from_plcmt_data(const void 
 pd_status p4_pd_orbisk_switch_globalFields_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_globalFields_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_globalFields_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_globalFields_match_specs_are_equal(const p4_pd_orbisk_switch_globalFields_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_globalFields_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_globalFields_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* ================================================================== */
 /* NAT */
@@ -11406,6 +12772,8 @@ pd_status p4_pd_orbisk_switch_ingressNatProfile_get_plcmt_data(pd_sess_hdl sess_
 void p4_pd_orbisk_switch_ingressNatProfile_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_ingressNatProfile_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_ingressNatProfile_match_spec_value(const p4_pd_orbisk_switch_ingressNatProfile_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_ingressNatProfile_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ingressNatProfile_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -11413,6 +12781,22 @@ pd_status p4_pd_orbisk_switch_ingressNatProfile_get_entry_from_plcmt_data(const 
 pd_status p4_pd_orbisk_switch_ingressNatProfile_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_ingressNatProfile_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_ingressNatProfile_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_ingressNatProfile_match_specs_are_equal(const p4_pd_orbisk_switch_ingressNatProfile_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_ingressNatProfile_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ingressNatProfile_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* staticDnatAcl: table 0x01000025, pipeline A, ternary match, 6 key bytes (41 bits) */
 typedef struct p4_pd_orbisk_switch_staticDnatAcl_match_spec {
@@ -11529,6 +12913,8 @@ pd_status p4_pd_orbisk_switch_staticDnatAcl_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_staticDnatAcl_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_staticDnatAcl_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_staticDnatAcl_match_spec_value(const p4_pd_orbisk_switch_staticDnatAcl_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_staticDnatAcl_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_staticDnatAcl_match_spec_t *match_spec,
     uint32_t *priority,
@@ -11537,6 +12923,22 @@ pd_status p4_pd_orbisk_switch_staticDnatAcl_get_entry_from_plcmt_data(const void
 pd_status p4_pd_orbisk_switch_staticDnatAcl_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_staticDnatAcl_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_staticDnatAcl_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_staticDnatAcl_match_specs_are_equal(const p4_pd_orbisk_switch_staticDnatAcl_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_staticDnatAcl_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_staticDnatAcl_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* addrPortDnat: table 0x01000026, pipeline A, exact match, 9 key bytes (68 bits), entries carry staticDnatCounters */
 typedef struct p4_pd_orbisk_switch_addrPortDnat_match_spec {
@@ -11682,6 +13084,8 @@ pd_status p4_pd_orbisk_switch_addrPortDnat_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_addrPortDnat_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_addrPortDnat_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_addrPortDnat_match_spec_value(const p4_pd_orbisk_switch_addrPortDnat_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_addrPortDnat_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_addrPortDnat_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -11689,8 +13093,24 @@ pd_status p4_pd_orbisk_switch_addrPortDnat_get_entry_from_plcmt_data(const void 
 pd_status p4_pd_orbisk_switch_addrPortDnat_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_addrPortDnat_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_addrPortDnat_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_addrPortDnat_match_specs_are_equal(const p4_pd_orbisk_switch_addrPortDnat_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_addrPortDnat_match_spec_t *hw_match_spec,
+    char *error);
 int p4_pd_orbisk_switch_addrPortDnat_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_addrPortDnat_match_spec_t *match_spec,
     char *out);
+int p4_pd_orbisk_switch_addrPortDnat_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 int p4_pd_orbisk_switch_addrPortDnat_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -11812,6 +13232,8 @@ pd_status p4_pd_orbisk_switch_addrOnlyDnat_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_addrOnlyDnat_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_addrOnlyDnat_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_addrOnlyDnat_match_spec_value(const p4_pd_orbisk_switch_addrOnlyDnat_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_addrOnlyDnat_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_addrOnlyDnat_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -11819,6 +13241,22 @@ pd_status p4_pd_orbisk_switch_addrOnlyDnat_get_entry_from_plcmt_data(const void 
 pd_status p4_pd_orbisk_switch_addrOnlyDnat_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_addrOnlyDnat_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_addrOnlyDnat_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_addrOnlyDnat_match_specs_are_equal(const p4_pd_orbisk_switch_addrOnlyDnat_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_addrOnlyDnat_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_addrOnlyDnat_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* dynamicDnat1: table 0x01000021, pipeline A, exact match, 14 key bytes (112 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_dynamicDnat1_match_spec {
@@ -11973,6 +13411,8 @@ pd_status p4_pd_orbisk_switch_dynamicDnat1_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_dynamicDnat1_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_dynamicDnat1_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_dynamicDnat1_match_spec_value(const p4_pd_orbisk_switch_dynamicDnat1_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_dynamicDnat1_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_dynamicDnat1_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -11980,6 +13420,22 @@ pd_status p4_pd_orbisk_switch_dynamicDnat1_get_entry_from_plcmt_data(const void 
 pd_status p4_pd_orbisk_switch_dynamicDnat1_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_dynamicDnat1_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_dynamicDnat1_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_dynamicDnat1_match_specs_are_equal(const p4_pd_orbisk_switch_dynamicDnat1_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_dynamicDnat1_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_dynamicDnat1_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* dynamicFullConeCompressDip: table 0x0100001f, pipeline A, exact match, 4 key bytes (32 bits) */
 typedef struct p4_pd_orbisk_switch_dynamicFullConeCompressDip_match_spec {
@@ -12071,6 +13527,8 @@ pd_status p4_pd_orbisk_switch_dynamicFullConeCompressDip_get_plcmt_data(pd_sess_
 void p4_pd_orbisk_switch_dynamicFullConeCompressDip_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_dynamicFullConeCompressDip_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_dynamicFullConeCompressDip_match_spec_value(const p4_pd_orbisk_switch_dynamicFullConeCompressDip_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_dynamicFullConeCompressDip_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_dynamicFullConeCompressDip_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -12078,6 +13536,22 @@ pd_status p4_pd_orbisk_switch_dynamicFullConeCompressDip_get_entry_from_plcmt_da
 pd_status p4_pd_orbisk_switch_dynamicFullConeCompressDip_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_dynamicFullConeCompressDip_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_dynamicFullConeCompressDip_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_dynamicFullConeCompressDip_match_specs_are_equal(const p4_pd_orbisk_switch_dynamicFullConeCompressDip_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_dynamicFullConeCompressDip_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_dynamicFullConeCompressDip_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* dynamicFullConeDnat: table 0x01000024, pipeline A, exact match, 6 key bytes (41 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_dynamicFullConeDnat_match_spec {
@@ -12215,6 +13689,8 @@ pd_status p4_pd_orbisk_switch_dynamicFullConeDnat_get_plcmt_data(pd_sess_hdl ses
 void p4_pd_orbisk_switch_dynamicFullConeDnat_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_dynamicFullConeDnat_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_dynamicFullConeDnat_match_spec_value(const p4_pd_orbisk_switch_dynamicFullConeDnat_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_dynamicFullConeDnat_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_dynamicFullConeDnat_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -12222,6 +13698,22 @@ pd_status p4_pd_orbisk_switch_dynamicFullConeDnat_get_entry_from_plcmt_data(cons
 pd_status p4_pd_orbisk_switch_dynamicFullConeDnat_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_dynamicFullConeDnat_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_dynamicFullConeDnat_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_dynamicFullConeDnat_match_specs_are_equal(const p4_pd_orbisk_switch_dynamicFullConeDnat_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_dynamicFullConeDnat_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_dynamicFullConeDnat_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* egressNatProfile: table 0x11010012, pipeline B, exact match, 2 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_egressNatProfile_match_spec {
@@ -12313,6 +13805,8 @@ pd_status p4_pd_orbisk_switch_egressNatProfile_get_plcmt_data(pd_sess_hdl sess_h
 void p4_pd_orbisk_switch_egressNatProfile_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_egressNatProfile_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_egressNatProfile_match_spec_value(const p4_pd_orbisk_switch_egressNatProfile_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_egressNatProfile_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_egressNatProfile_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -12320,6 +13814,22 @@ pd_status p4_pd_orbisk_switch_egressNatProfile_get_entry_from_plcmt_data(const v
 pd_status p4_pd_orbisk_switch_egressNatProfile_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_egressNatProfile_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_egressNatProfile_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_egressNatProfile_match_specs_are_equal(const p4_pd_orbisk_switch_egressNatProfile_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_egressNatProfile_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_egressNatProfile_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* staticSnatAcl: table 0x11010004, pipeline B, ternary match, 6 key bytes (41 bits) */
 typedef struct p4_pd_orbisk_switch_staticSnatAcl_match_spec {
@@ -12436,6 +13946,8 @@ pd_status p4_pd_orbisk_switch_staticSnatAcl_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_staticSnatAcl_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_staticSnatAcl_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_staticSnatAcl_match_spec_value(const p4_pd_orbisk_switch_staticSnatAcl_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_staticSnatAcl_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_staticSnatAcl_match_spec_t *match_spec,
     uint32_t *priority,
@@ -12444,6 +13956,22 @@ pd_status p4_pd_orbisk_switch_staticSnatAcl_get_entry_from_plcmt_data(const void
 pd_status p4_pd_orbisk_switch_staticSnatAcl_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_staticSnatAcl_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_staticSnatAcl_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_staticSnatAcl_match_specs_are_equal(const p4_pd_orbisk_switch_staticSnatAcl_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_staticSnatAcl_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_staticSnatAcl_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* addrPortSnat: table 0x11010016, pipeline B, exact match, 9 key bytes (68 bits), entries carry staticSnatCounters */
 typedef struct p4_pd_orbisk_switch_addrPortSnat_match_spec {
@@ -12563,6 +14091,8 @@ pd_status p4_pd_orbisk_switch_addrPortSnat_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_addrPortSnat_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_addrPortSnat_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_addrPortSnat_match_spec_value(const p4_pd_orbisk_switch_addrPortSnat_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_addrPortSnat_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_addrPortSnat_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -12570,8 +14100,24 @@ pd_status p4_pd_orbisk_switch_addrPortSnat_get_entry_from_plcmt_data(const void 
 pd_status p4_pd_orbisk_switch_addrPortSnat_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_addrPortSnat_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_addrPortSnat_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_addrPortSnat_match_specs_are_equal(const p4_pd_orbisk_switch_addrPortSnat_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_addrPortSnat_match_spec_t *hw_match_spec,
+    char *error);
 int p4_pd_orbisk_switch_addrPortSnat_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_addrPortSnat_match_spec_t *match_spec,
     char *out);
+int p4_pd_orbisk_switch_addrPortSnat_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 int p4_pd_orbisk_switch_addrPortSnat_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -12680,6 +14226,8 @@ pd_status p4_pd_orbisk_switch_addrOnlySnat_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_addrOnlySnat_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_addrOnlySnat_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_addrOnlySnat_match_spec_value(const p4_pd_orbisk_switch_addrOnlySnat_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_addrOnlySnat_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_addrOnlySnat_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -12687,6 +14235,22 @@ pd_status p4_pd_orbisk_switch_addrOnlySnat_get_entry_from_plcmt_data(const void 
 pd_status p4_pd_orbisk_switch_addrOnlySnat_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_addrOnlySnat_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_addrOnlySnat_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_addrOnlySnat_match_specs_are_equal(const p4_pd_orbisk_switch_addrOnlySnat_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_addrOnlySnat_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_addrOnlySnat_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* dynamicSnatAcl: table 0x11010013, pipeline B, ternary match, 14 key bytes (112 bits) */
 typedef struct p4_pd_orbisk_switch_dynamicSnatAcl_match_spec {
@@ -12809,6 +14373,8 @@ pd_status p4_pd_orbisk_switch_dynamicSnatAcl_get_plcmt_data(pd_sess_hdl sess_hdl
 void p4_pd_orbisk_switch_dynamicSnatAcl_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_dynamicSnatAcl_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_dynamicSnatAcl_match_spec_value(const p4_pd_orbisk_switch_dynamicSnatAcl_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_dynamicSnatAcl_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_dynamicSnatAcl_match_spec_t *match_spec,
     uint32_t *priority,
@@ -12817,6 +14383,22 @@ pd_status p4_pd_orbisk_switch_dynamicSnatAcl_get_entry_from_plcmt_data(const voi
 pd_status p4_pd_orbisk_switch_dynamicSnatAcl_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_dynamicSnatAcl_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_dynamicSnatAcl_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_dynamicSnatAcl_match_specs_are_equal(const p4_pd_orbisk_switch_dynamicSnatAcl_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_dynamicSnatAcl_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_dynamicSnatAcl_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* dynamicSnat1: table 0x11010015, pipeline B, exact match, 14 key bytes (112 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_dynamicSnat1_match_spec {
@@ -12971,6 +14553,8 @@ pd_status p4_pd_orbisk_switch_dynamicSnat1_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_dynamicSnat1_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_dynamicSnat1_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_dynamicSnat1_match_spec_value(const p4_pd_orbisk_switch_dynamicSnat1_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_dynamicSnat1_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_dynamicSnat1_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -12978,6 +14562,22 @@ pd_status p4_pd_orbisk_switch_dynamicSnat1_get_entry_from_plcmt_data(const void 
 pd_status p4_pd_orbisk_switch_dynamicSnat1_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_dynamicSnat1_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_dynamicSnat1_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_dynamicSnat1_match_specs_are_equal(const p4_pd_orbisk_switch_dynamicSnat1_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_dynamicSnat1_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_dynamicSnat1_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* dynamicNatCount: table 0x1101001e, pipeline B, ternary match, 5 key bytes (26 bits), entries carry dynNatCounters */
 typedef struct p4_pd_orbisk_switch_dynamicNatCount_match_spec {
@@ -13095,6 +14695,8 @@ pd_status p4_pd_orbisk_switch_dynamicNatCount_get_plcmt_data(pd_sess_hdl sess_hd
 void p4_pd_orbisk_switch_dynamicNatCount_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_dynamicNatCount_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_dynamicNatCount_match_spec_value(const p4_pd_orbisk_switch_dynamicNatCount_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_dynamicNatCount_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_dynamicNatCount_match_spec_t *match_spec,
     uint32_t *priority,
@@ -13103,8 +14705,24 @@ pd_status p4_pd_orbisk_switch_dynamicNatCount_get_entry_from_plcmt_data(const vo
 pd_status p4_pd_orbisk_switch_dynamicNatCount_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_dynamicNatCount_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_dynamicNatCount_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_dynamicNatCount_match_specs_are_equal(const p4_pd_orbisk_switch_dynamicNatCount_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_dynamicNatCount_match_spec_t *hw_match_spec,
+    char *error);
 int p4_pd_orbisk_switch_dynamicNatCount_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_dynamicNatCount_match_spec_t *match_spec,
     char *out);
+int p4_pd_orbisk_switch_dynamicNatCount_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 int p4_pd_orbisk_switch_dynamicNatCount_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -13206,6 +14824,8 @@ pd_status p4_pd_orbisk_switch_natTcpFlags_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_natTcpFlags_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_natTcpFlags_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_natTcpFlags_match_spec_value(const p4_pd_orbisk_switch_natTcpFlags_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_natTcpFlags_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_natTcpFlags_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -13213,6 +14833,22 @@ pd_status p4_pd_orbisk_switch_natTcpFlags_get_entry_from_plcmt_data(const void *
 pd_status p4_pd_orbisk_switch_natTcpFlags_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_natTcpFlags_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_natTcpFlags_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_natTcpFlags_match_specs_are_equal(const p4_pd_orbisk_switch_natTcpFlags_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_natTcpFlags_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_natTcpFlags_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* natCpuTrapAcl: table 0x11010018, pipeline B, ternary match, 16 key bytes (121 bits) */
 typedef struct p4_pd_orbisk_switch_natCpuTrapAcl_match_spec {
@@ -13374,6 +15010,8 @@ pd_status p4_pd_orbisk_switch_natCpuTrapAcl_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_natCpuTrapAcl_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_natCpuTrapAcl_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_natCpuTrapAcl_match_spec_value(const p4_pd_orbisk_switch_natCpuTrapAcl_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_natCpuTrapAcl_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_natCpuTrapAcl_match_spec_t *match_spec,
     uint32_t *priority,
@@ -13382,6 +15020,22 @@ pd_status p4_pd_orbisk_switch_natCpuTrapAcl_get_entry_from_plcmt_data(const void
 pd_status p4_pd_orbisk_switch_natCpuTrapAcl_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_natCpuTrapAcl_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_natCpuTrapAcl_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_natCpuTrapAcl_match_specs_are_equal(const p4_pd_orbisk_switch_natCpuTrapAcl_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_natCpuTrapAcl_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_natCpuTrapAcl_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* natCpuReasonCode: table 0x11010005, pipeline B, ternary match, 2 key bytes (9 bits) */
 typedef struct p4_pd_orbisk_switch_natCpuReasonCode_match_spec {
@@ -13492,6 +15146,8 @@ pd_status p4_pd_orbisk_switch_natCpuReasonCode_get_plcmt_data(pd_sess_hdl sess_h
 void p4_pd_orbisk_switch_natCpuReasonCode_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_natCpuReasonCode_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_natCpuReasonCode_match_spec_value(const p4_pd_orbisk_switch_natCpuReasonCode_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_natCpuReasonCode_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_natCpuReasonCode_match_spec_t *match_spec,
     uint32_t *priority,
@@ -13500,6 +15156,22 @@ pd_status p4_pd_orbisk_switch_natCpuReasonCode_get_entry_from_plcmt_data(const v
 pd_status p4_pd_orbisk_switch_natCpuReasonCode_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_natCpuReasonCode_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_natCpuReasonCode_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_natCpuReasonCode_match_specs_are_equal(const p4_pd_orbisk_switch_natCpuReasonCode_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_natCpuReasonCode_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_natCpuReasonCode_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* natChecksumUpdate: table 0x11010021, pipeline B, ternary match, 9 key bytes (32 bits) */
 typedef struct p4_pd_orbisk_switch_natChecksumUpdate_match_spec {
@@ -13676,6 +15348,8 @@ pd_status p4_pd_orbisk_switch_natChecksumUpdate_get_plcmt_data(pd_sess_hdl sess_
 void p4_pd_orbisk_switch_natChecksumUpdate_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_natChecksumUpdate_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_natChecksumUpdate_match_spec_value(const p4_pd_orbisk_switch_natChecksumUpdate_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_natChecksumUpdate_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_natChecksumUpdate_match_spec_t *match_spec,
     uint32_t *priority,
@@ -13684,6 +15358,22 @@ pd_status p4_pd_orbisk_switch_natChecksumUpdate_get_entry_from_plcmt_data(const 
 pd_status p4_pd_orbisk_switch_natChecksumUpdate_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_natChecksumUpdate_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_natChecksumUpdate_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_natChecksumUpdate_match_specs_are_equal(const p4_pd_orbisk_switch_natChecksumUpdate_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_natChecksumUpdate_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_natChecksumUpdate_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* egressNatCpuTrapHeader: table 0x01000070, pipeline A, exact match, 2 key bytes (2 bits) */
 typedef struct p4_pd_orbisk_switch_egressNatCpuTrapHeader_match_spec {
@@ -13803,6 +15493,8 @@ pd_status p4_pd_orbisk_switch_egressNatCpuTrapHeader_get_plcmt_data(pd_sess_hdl 
 void p4_pd_orbisk_switch_egressNatCpuTrapHeader_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_egressNatCpuTrapHeader_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_egressNatCpuTrapHeader_match_spec_value(const p4_pd_orbisk_switch_egressNatCpuTrapHeader_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_egressNatCpuTrapHeader_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_egressNatCpuTrapHeader_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -13810,6 +15502,22 @@ pd_status p4_pd_orbisk_switch_egressNatCpuTrapHeader_get_entry_from_plcmt_data(c
 pd_status p4_pd_orbisk_switch_egressNatCpuTrapHeader_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_egressNatCpuTrapHeader_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_egressNatCpuTrapHeader_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_egressNatCpuTrapHeader_match_specs_are_equal(const p4_pd_orbisk_switch_egressNatCpuTrapHeader_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_egressNatCpuTrapHeader_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_egressNatCpuTrapHeader_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* ================================================================== */
 /* Halo classification */
@@ -13916,6 +15624,8 @@ pd_status p4_pd_orbisk_switch_haloPaclCrlId_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_haloPaclCrlId_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_haloPaclCrlId_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_haloPaclCrlId_match_spec_value(const p4_pd_orbisk_switch_haloPaclCrlId_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_haloPaclCrlId_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloPaclCrlId_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -13923,6 +15633,22 @@ pd_status p4_pd_orbisk_switch_haloPaclCrlId_get_entry_from_plcmt_data(const void
 pd_status p4_pd_orbisk_switch_haloPaclCrlId_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_haloPaclCrlId_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_haloPaclCrlId_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_haloPaclCrlId_match_specs_are_equal(const p4_pd_orbisk_switch_haloPaclCrlId_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_haloPaclCrlId_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_haloPaclCrlId_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* haloRaclCrlId: table 0x01000016, pipeline A, exact match, 3 key bytes (15 bits) */
 typedef struct p4_pd_orbisk_switch_haloRaclCrlId_match_spec {
@@ -14025,6 +15751,8 @@ pd_status p4_pd_orbisk_switch_haloRaclCrlId_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_haloRaclCrlId_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_haloRaclCrlId_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_haloRaclCrlId_match_spec_value(const p4_pd_orbisk_switch_haloRaclCrlId_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_haloRaclCrlId_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloRaclCrlId_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -14032,6 +15760,22 @@ pd_status p4_pd_orbisk_switch_haloRaclCrlId_get_entry_from_plcmt_data(const void
 pd_status p4_pd_orbisk_switch_haloRaclCrlId_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_haloRaclCrlId_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_haloRaclCrlId_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_haloRaclCrlId_match_specs_are_equal(const p4_pd_orbisk_switch_haloRaclCrlId_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_haloRaclCrlId_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_haloRaclCrlId_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* haloXformIpv4Sip: table 0x0100001c, pipeline A, ternary match, 4 key bytes (32 bits) */
 typedef struct p4_pd_orbisk_switch_haloXformIpv4Sip_match_spec {
@@ -14154,6 +15898,8 @@ pd_status p4_pd_orbisk_switch_haloXformIpv4Sip_get_plcmt_data(pd_sess_hdl sess_h
 void p4_pd_orbisk_switch_haloXformIpv4Sip_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_haloXformIpv4Sip_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_haloXformIpv4Sip_match_spec_value(const p4_pd_orbisk_switch_haloXformIpv4Sip_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_haloXformIpv4Sip_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloXformIpv4Sip_match_spec_t *match_spec,
     uint32_t *priority,
@@ -14162,6 +15908,22 @@ pd_status p4_pd_orbisk_switch_haloXformIpv4Sip_get_entry_from_plcmt_data(const v
 pd_status p4_pd_orbisk_switch_haloXformIpv4Sip_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_haloXformIpv4Sip_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_haloXformIpv4Sip_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_haloXformIpv4Sip_match_specs_are_equal(const p4_pd_orbisk_switch_haloXformIpv4Sip_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_haloXformIpv4Sip_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_haloXformIpv4Sip_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* haloXformIpv4Dip: table 0x01000019, pipeline A, ternary match, 4 key bytes (32 bits) */
 typedef struct p4_pd_orbisk_switch_haloXformIpv4Dip_match_spec {
@@ -14284,6 +16046,8 @@ pd_status p4_pd_orbisk_switch_haloXformIpv4Dip_get_plcmt_data(pd_sess_hdl sess_h
 void p4_pd_orbisk_switch_haloXformIpv4Dip_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_haloXformIpv4Dip_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_haloXformIpv4Dip_match_spec_value(const p4_pd_orbisk_switch_haloXformIpv4Dip_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_haloXformIpv4Dip_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloXformIpv4Dip_match_spec_t *match_spec,
     uint32_t *priority,
@@ -14292,6 +16056,22 @@ pd_status p4_pd_orbisk_switch_haloXformIpv4Dip_get_entry_from_plcmt_data(const v
 pd_status p4_pd_orbisk_switch_haloXformIpv4Dip_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_haloXformIpv4Dip_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_haloXformIpv4Dip_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_haloXformIpv4Dip_match_specs_are_equal(const p4_pd_orbisk_switch_haloXformIpv4Dip_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_haloXformIpv4Dip_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_haloXformIpv4Dip_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* haloXformIpv6Sip: table 0x0100001b, pipeline A, ternary match, 16 key bytes (128 bits) */
 typedef struct p4_pd_orbisk_switch_haloXformIpv6Sip_match_spec {
@@ -14414,6 +16194,8 @@ pd_status p4_pd_orbisk_switch_haloXformIpv6Sip_get_plcmt_data(pd_sess_hdl sess_h
 void p4_pd_orbisk_switch_haloXformIpv6Sip_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_haloXformIpv6Sip_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_haloXformIpv6Sip_match_spec_value(const p4_pd_orbisk_switch_haloXformIpv6Sip_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_haloXformIpv6Sip_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloXformIpv6Sip_match_spec_t *match_spec,
     uint32_t *priority,
@@ -14422,6 +16204,22 @@ pd_status p4_pd_orbisk_switch_haloXformIpv6Sip_get_entry_from_plcmt_data(const v
 pd_status p4_pd_orbisk_switch_haloXformIpv6Sip_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_haloXformIpv6Sip_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_haloXformIpv6Sip_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_haloXformIpv6Sip_match_specs_are_equal(const p4_pd_orbisk_switch_haloXformIpv6Sip_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_haloXformIpv6Sip_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_haloXformIpv6Sip_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* haloXformIpv6Dip: table 0x0100001a, pipeline A, ternary match, 16 key bytes (128 bits) */
 typedef struct p4_pd_orbisk_switch_haloXformIpv6Dip_match_spec {
@@ -14544,6 +16342,8 @@ pd_status p4_pd_orbisk_switch_haloXformIpv6Dip_get_plcmt_data(pd_sess_hdl sess_h
 void p4_pd_orbisk_switch_haloXformIpv6Dip_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_haloXformIpv6Dip_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_haloXformIpv6Dip_match_spec_value(const p4_pd_orbisk_switch_haloXformIpv6Dip_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_haloXformIpv6Dip_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloXformIpv6Dip_match_spec_t *match_spec,
     uint32_t *priority,
@@ -14552,6 +16352,22 @@ pd_status p4_pd_orbisk_switch_haloXformIpv6Dip_get_entry_from_plcmt_data(const v
 pd_status p4_pd_orbisk_switch_haloXformIpv6Dip_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_haloXformIpv6Dip_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_haloXformIpv6Dip_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_haloXformIpv6Dip_match_specs_are_equal(const p4_pd_orbisk_switch_haloXformIpv6Dip_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_haloXformIpv6Dip_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_haloXformIpv6Dip_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* haloXformSrcPort: table 0x0100001e, pipeline A, ternary match, 2 key bytes (16 bits) */
 typedef struct p4_pd_orbisk_switch_haloXformSrcPort_match_spec {
@@ -14662,6 +16478,8 @@ pd_status p4_pd_orbisk_switch_haloXformSrcPort_get_plcmt_data(pd_sess_hdl sess_h
 void p4_pd_orbisk_switch_haloXformSrcPort_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_haloXformSrcPort_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_haloXformSrcPort_match_spec_value(const p4_pd_orbisk_switch_haloXformSrcPort_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_haloXformSrcPort_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloXformSrcPort_match_spec_t *match_spec,
     uint32_t *priority,
@@ -14670,6 +16488,22 @@ pd_status p4_pd_orbisk_switch_haloXformSrcPort_get_entry_from_plcmt_data(const v
 pd_status p4_pd_orbisk_switch_haloXformSrcPort_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_haloXformSrcPort_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_haloXformSrcPort_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_haloXformSrcPort_match_specs_are_equal(const p4_pd_orbisk_switch_haloXformSrcPort_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_haloXformSrcPort_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_haloXformSrcPort_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* haloXformDstPort: table 0x0100001d, pipeline A, ternary match, 2 key bytes (16 bits) */
 typedef struct p4_pd_orbisk_switch_haloXformDstPort_match_spec {
@@ -14780,6 +16614,8 @@ pd_status p4_pd_orbisk_switch_haloXformDstPort_get_plcmt_data(pd_sess_hdl sess_h
 void p4_pd_orbisk_switch_haloXformDstPort_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_haloXformDstPort_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_haloXformDstPort_match_spec_value(const p4_pd_orbisk_switch_haloXformDstPort_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_haloXformDstPort_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloXformDstPort_match_spec_t *match_spec,
     uint32_t *priority,
@@ -14788,6 +16624,22 @@ pd_status p4_pd_orbisk_switch_haloXformDstPort_get_entry_from_plcmt_data(const v
 pd_status p4_pd_orbisk_switch_haloXformDstPort_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_haloXformDstPort_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_haloXformDstPort_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_haloXformDstPort_match_specs_are_equal(const p4_pd_orbisk_switch_haloXformDstPort_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_haloXformDstPort_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_haloXformDstPort_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* haloKeyMaskForRow1Stage2: table 0x01000028, pipeline A, exact match, 1 key bytes (8 bits) */
 typedef struct p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_match_spec {
@@ -14879,6 +16731,8 @@ pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_get_plcmt_data(pd_sess_hd
 void p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_match_spec_value(const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -14886,6 +16740,22 @@ pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_get_entry_from_plcmt_data
 pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_match_specs_are_equal(const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage2_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* haloRow1Stage2: table 0x01000032, pipeline A, exact match, 14 key bytes (103 bits) */
 typedef struct p4_pd_orbisk_switch_haloRow1Stage2_match_spec {
@@ -15004,6 +16874,8 @@ pd_status p4_pd_orbisk_switch_haloRow1Stage2_get_plcmt_data(pd_sess_hdl sess_hdl
 void p4_pd_orbisk_switch_haloRow1Stage2_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_haloRow1Stage2_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_haloRow1Stage2_match_spec_value(const p4_pd_orbisk_switch_haloRow1Stage2_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_haloRow1Stage2_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloRow1Stage2_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -15011,6 +16883,22 @@ pd_status p4_pd_orbisk_switch_haloRow1Stage2_get_entry_from_plcmt_data(const voi
 pd_status p4_pd_orbisk_switch_haloRow1Stage2_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_haloRow1Stage2_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_haloRow1Stage2_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_haloRow1Stage2_match_specs_are_equal(const p4_pd_orbisk_switch_haloRow1Stage2_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_haloRow1Stage2_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_haloRow1Stage2_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* haloKeyMaskForRow1Stage3: table 0x01000033, pipeline A, exact match, 1 key bytes (8 bits) */
 typedef struct p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_match_spec {
@@ -15102,6 +16990,8 @@ pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_get_plcmt_data(pd_sess_hd
 void p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_match_spec_value(const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -15109,6 +16999,22 @@ pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_get_entry_from_plcmt_data
 pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_match_specs_are_equal(const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage3_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* haloRow1Stage3: table 0x0100003c, pipeline A, exact match, 14 key bytes (103 bits) */
 typedef struct p4_pd_orbisk_switch_haloRow1Stage3_match_spec {
@@ -15227,6 +17133,8 @@ pd_status p4_pd_orbisk_switch_haloRow1Stage3_get_plcmt_data(pd_sess_hdl sess_hdl
 void p4_pd_orbisk_switch_haloRow1Stage3_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_haloRow1Stage3_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_haloRow1Stage3_match_spec_value(const p4_pd_orbisk_switch_haloRow1Stage3_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_haloRow1Stage3_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloRow1Stage3_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -15234,6 +17142,22 @@ pd_status p4_pd_orbisk_switch_haloRow1Stage3_get_entry_from_plcmt_data(const voi
 pd_status p4_pd_orbisk_switch_haloRow1Stage3_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_haloRow1Stage3_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_haloRow1Stage3_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_haloRow1Stage3_match_specs_are_equal(const p4_pd_orbisk_switch_haloRow1Stage3_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_haloRow1Stage3_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_haloRow1Stage3_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* haloKeyMaskForRow1Stage4: table 0x0100003d, pipeline A, exact match, 1 key bytes (8 bits) */
 typedef struct p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_match_spec {
@@ -15325,6 +17249,8 @@ pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_get_plcmt_data(pd_sess_hd
 void p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_match_spec_value(const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -15332,6 +17258,22 @@ pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_get_entry_from_plcmt_data
 pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_match_specs_are_equal(const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage4_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* haloRow1Stage4: table 0x01000044, pipeline A, exact match, 14 key bytes (103 bits) */
 typedef struct p4_pd_orbisk_switch_haloRow1Stage4_match_spec {
@@ -15450,6 +17392,8 @@ pd_status p4_pd_orbisk_switch_haloRow1Stage4_get_plcmt_data(pd_sess_hdl sess_hdl
 void p4_pd_orbisk_switch_haloRow1Stage4_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_haloRow1Stage4_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_haloRow1Stage4_match_spec_value(const p4_pd_orbisk_switch_haloRow1Stage4_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_haloRow1Stage4_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloRow1Stage4_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -15457,6 +17401,22 @@ pd_status p4_pd_orbisk_switch_haloRow1Stage4_get_entry_from_plcmt_data(const voi
 pd_status p4_pd_orbisk_switch_haloRow1Stage4_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_haloRow1Stage4_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_haloRow1Stage4_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_haloRow1Stage4_match_specs_are_equal(const p4_pd_orbisk_switch_haloRow1Stage4_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_haloRow1Stage4_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_haloRow1Stage4_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* haloKeyMaskForRow1Stage5: table 0x01000045, pipeline A, exact match, 1 key bytes (8 bits) */
 typedef struct p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_match_spec {
@@ -15548,6 +17508,8 @@ pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_get_plcmt_data(pd_sess_hd
 void p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_match_spec_value(const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -15555,6 +17517,22 @@ pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_get_entry_from_plcmt_data
 pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_match_specs_are_equal(const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage5_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* haloRow1Stage5: table 0x0100004c, pipeline A, exact match, 14 key bytes (103 bits) */
 typedef struct p4_pd_orbisk_switch_haloRow1Stage5_match_spec {
@@ -15673,6 +17651,8 @@ pd_status p4_pd_orbisk_switch_haloRow1Stage5_get_plcmt_data(pd_sess_hdl sess_hdl
 void p4_pd_orbisk_switch_haloRow1Stage5_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_haloRow1Stage5_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_haloRow1Stage5_match_spec_value(const p4_pd_orbisk_switch_haloRow1Stage5_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_haloRow1Stage5_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloRow1Stage5_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -15680,6 +17660,22 @@ pd_status p4_pd_orbisk_switch_haloRow1Stage5_get_entry_from_plcmt_data(const voi
 pd_status p4_pd_orbisk_switch_haloRow1Stage5_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_haloRow1Stage5_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_haloRow1Stage5_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_haloRow1Stage5_match_specs_are_equal(const p4_pd_orbisk_switch_haloRow1Stage5_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_haloRow1Stage5_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_haloRow1Stage5_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* haloKeyMaskForRow1Stage6: table 0x0100004d, pipeline A, exact match, 1 key bytes (8 bits) */
 typedef struct p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_match_spec {
@@ -15771,6 +17767,8 @@ pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_get_plcmt_data(pd_sess_hd
 void p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_match_spec_value(const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -15778,6 +17776,22 @@ pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_get_entry_from_plcmt_data
 pd_status p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_match_specs_are_equal(const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_haloKeyMaskForRow1Stage6_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* haloRow1Stage6: table 0x01000052, pipeline A, exact match, 14 key bytes (103 bits) */
 typedef struct p4_pd_orbisk_switch_haloRow1Stage6_match_spec {
@@ -15896,6 +17910,8 @@ pd_status p4_pd_orbisk_switch_haloRow1Stage6_get_plcmt_data(pd_sess_hdl sess_hdl
 void p4_pd_orbisk_switch_haloRow1Stage6_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_haloRow1Stage6_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_haloRow1Stage6_match_spec_value(const p4_pd_orbisk_switch_haloRow1Stage6_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_haloRow1Stage6_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloRow1Stage6_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -15903,6 +17919,22 @@ pd_status p4_pd_orbisk_switch_haloRow1Stage6_get_entry_from_plcmt_data(const voi
 pd_status p4_pd_orbisk_switch_haloRow1Stage6_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_haloRow1Stage6_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_haloRow1Stage6_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_haloRow1Stage6_match_specs_are_equal(const p4_pd_orbisk_switch_haloRow1Stage6_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_haloRow1Stage6_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_haloRow1Stage6_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* haloBypass: table 0x01000051, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_haloBypass_get_entry(pd_sess_hdl sess_hdl,
@@ -15964,6 +17996,19 @@ pd_status p4_pd_orbisk_switch_haloBypass_get_entry_from_plcmt_data(const void *p
 pd_status p4_pd_orbisk_switch_haloBypass_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_haloBypass_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_haloBypass_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_haloBypass_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* haloCounters: table 0x01000059, pipeline A, exact match, 4 key bytes (32 bits), entries carry haloCount */
 typedef struct p4_pd_orbisk_switch_haloCounters_match_spec {
@@ -16051,6 +18096,8 @@ pd_status p4_pd_orbisk_switch_haloCounters_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_haloCounters_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_haloCounters_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_haloCounters_match_spec_value(const p4_pd_orbisk_switch_haloCounters_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_haloCounters_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_haloCounters_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -16058,8 +18105,24 @@ pd_status p4_pd_orbisk_switch_haloCounters_get_entry_from_plcmt_data(const void 
 pd_status p4_pd_orbisk_switch_haloCounters_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_haloCounters_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_haloCounters_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_haloCounters_match_specs_are_equal(const p4_pd_orbisk_switch_haloCounters_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_haloCounters_match_spec_t *hw_match_spec,
+    char *error);
 int p4_pd_orbisk_switch_haloCounters_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_haloCounters_match_spec_t *match_spec,
     char *out);
+int p4_pd_orbisk_switch_haloCounters_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 int p4_pd_orbisk_switch_haloCounters_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -16223,6 +18286,8 @@ pd_status p4_pd_orbisk_switch_ingressMirrorSession_get_plcmt_data(pd_sess_hdl se
 void p4_pd_orbisk_switch_ingressMirrorSession_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_ingressMirrorSession_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_ingressMirrorSession_match_spec_value(const p4_pd_orbisk_switch_ingressMirrorSession_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_ingressMirrorSession_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ingressMirrorSession_match_spec_t *match_spec,
     uint32_t *priority,
@@ -16231,6 +18296,22 @@ pd_status p4_pd_orbisk_switch_ingressMirrorSession_get_entry_from_plcmt_data(con
 pd_status p4_pd_orbisk_switch_ingressMirrorSession_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_ingressMirrorSession_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_ingressMirrorSession_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_ingressMirrorSession_match_specs_are_equal(const p4_pd_orbisk_switch_ingressMirrorSession_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_ingressMirrorSession_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ingressMirrorSession_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* ingressMirrorLagGroup: table 0x0100004b, pipeline A, exact match, 2 key bytes (10 bits), entries name a member or group of mirrorLagPortActionProfile */
 typedef struct p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec {
@@ -16340,6 +18421,8 @@ pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_get_plcmt_data(pd_sess_hdl s
 void p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_value(const p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_t *match_spec,
     pd_mbr_hdl *mbr_hdl,
@@ -16350,6 +18433,22 @@ pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_get_entry_from_plcmt_data(co
 pd_status p4_pd_orbisk_switch_ingressMirrorLagGroup_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_ingressMirrorLagGroup_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_ingressMirrorLagGroup_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_ingressMirrorLagGroup_match_specs_are_equal(const p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_ingressMirrorLagGroup_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ingressMirrorLagGroup_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* ingressMirrorRate: table 0x01000056, pipeline A, exact match, 2 key bytes (10 bits), entries carry ingressMirrorMeter */
 typedef struct p4_pd_orbisk_switch_ingressMirrorRate_match_spec {
@@ -16450,6 +18549,8 @@ pd_status p4_pd_orbisk_switch_ingressMirrorRate_get_plcmt_data(pd_sess_hdl sess_
 void p4_pd_orbisk_switch_ingressMirrorRate_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_ingressMirrorRate_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_ingressMirrorRate_match_spec_value(const p4_pd_orbisk_switch_ingressMirrorRate_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_ingressMirrorRate_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ingressMirrorRate_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -16457,6 +18558,22 @@ pd_status p4_pd_orbisk_switch_ingressMirrorRate_get_entry_from_plcmt_data(const 
 pd_status p4_pd_orbisk_switch_ingressMirrorRate_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_ingressMirrorRate_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_ingressMirrorRate_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_ingressMirrorRate_match_specs_are_equal(const p4_pd_orbisk_switch_ingressMirrorRate_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_ingressMirrorRate_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ingressMirrorRate_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* ingressMirrorResult: table 0x01000058, pipeline A, exact match, 3 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_ingressMirrorResult_match_spec {
@@ -16550,6 +18667,8 @@ pd_status p4_pd_orbisk_switch_ingressMirrorResult_get_plcmt_data(pd_sess_hdl ses
 void p4_pd_orbisk_switch_ingressMirrorResult_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_ingressMirrorResult_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_ingressMirrorResult_match_spec_value(const p4_pd_orbisk_switch_ingressMirrorResult_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_ingressMirrorResult_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ingressMirrorResult_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -16557,6 +18676,22 @@ pd_status p4_pd_orbisk_switch_ingressMirrorResult_get_entry_from_plcmt_data(cons
 pd_status p4_pd_orbisk_switch_ingressMirrorResult_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_ingressMirrorResult_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_ingressMirrorResult_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_ingressMirrorResult_match_specs_are_equal(const p4_pd_orbisk_switch_ingressMirrorResult_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_ingressMirrorResult_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ingressMirrorResult_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* egressMirrorSession: table 0x0100005e, pipeline A, ternary match, 51 key bytes (380 bits) */
 typedef struct p4_pd_orbisk_switch_egressMirrorSession_match_spec {
@@ -16699,6 +18834,8 @@ pd_status p4_pd_orbisk_switch_egressMirrorSession_get_plcmt_data(pd_sess_hdl ses
 void p4_pd_orbisk_switch_egressMirrorSession_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_egressMirrorSession_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_egressMirrorSession_match_spec_value(const p4_pd_orbisk_switch_egressMirrorSession_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_egressMirrorSession_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_egressMirrorSession_match_spec_t *match_spec,
     uint32_t *priority,
@@ -16707,6 +18844,22 @@ pd_status p4_pd_orbisk_switch_egressMirrorSession_get_entry_from_plcmt_data(cons
 pd_status p4_pd_orbisk_switch_egressMirrorSession_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_egressMirrorSession_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_egressMirrorSession_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_egressMirrorSession_match_specs_are_equal(const p4_pd_orbisk_switch_egressMirrorSession_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_egressMirrorSession_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_egressMirrorSession_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* egressMirrorLagGroup: table 0x01000063, pipeline A, exact match, 2 key bytes (10 bits), entries name a member or group of egrMirrorLagPortActionProfile */
 typedef struct p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec {
@@ -16816,6 +18969,8 @@ pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_get_plcmt_data(pd_sess_hdl se
 void p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_value(const p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_t *match_spec,
     pd_mbr_hdl *mbr_hdl,
@@ -16826,6 +18981,22 @@ pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_get_entry_from_plcmt_data(con
 pd_status p4_pd_orbisk_switch_egressMirrorLagGroup_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_egressMirrorLagGroup_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_egressMirrorLagGroup_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_egressMirrorLagGroup_match_specs_are_equal(const p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_egressMirrorLagGroup_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_egressMirrorLagGroup_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* egressMirrorRate: table 0x01000068, pipeline A, exact match, 2 key bytes (10 bits), entries carry egressMirrorMeter */
 typedef struct p4_pd_orbisk_switch_egressMirrorRate_match_spec {
@@ -16926,6 +19097,8 @@ pd_status p4_pd_orbisk_switch_egressMirrorRate_get_plcmt_data(pd_sess_hdl sess_h
 void p4_pd_orbisk_switch_egressMirrorRate_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_egressMirrorRate_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_egressMirrorRate_match_spec_value(const p4_pd_orbisk_switch_egressMirrorRate_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_egressMirrorRate_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_egressMirrorRate_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -16933,6 +19106,22 @@ pd_status p4_pd_orbisk_switch_egressMirrorRate_get_entry_from_plcmt_data(const v
 pd_status p4_pd_orbisk_switch_egressMirrorRate_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_egressMirrorRate_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_egressMirrorRate_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_egressMirrorRate_match_specs_are_equal(const p4_pd_orbisk_switch_egressMirrorRate_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_egressMirrorRate_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_egressMirrorRate_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* egressMirrorResult: table 0x01000075, pipeline A, exact match, 1 key bytes (1 bits) */
 typedef struct p4_pd_orbisk_switch_egressMirrorResult_match_spec {
@@ -17030,6 +19219,8 @@ pd_status p4_pd_orbisk_switch_egressMirrorResult_get_plcmt_data(pd_sess_hdl sess
 void p4_pd_orbisk_switch_egressMirrorResult_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_egressMirrorResult_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_egressMirrorResult_match_spec_value(const p4_pd_orbisk_switch_egressMirrorResult_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_egressMirrorResult_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_egressMirrorResult_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -17037,6 +19228,22 @@ pd_status p4_pd_orbisk_switch_egressMirrorResult_get_entry_from_plcmt_data(const
 pd_status p4_pd_orbisk_switch_egressMirrorResult_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_egressMirrorResult_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_egressMirrorResult_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_egressMirrorResult_match_specs_are_equal(const p4_pd_orbisk_switch_egressMirrorResult_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_egressMirrorResult_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_egressMirrorResult_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* mirrorPacketEncap: table 0x0100005d, pipeline A, exact match, 4 key bytes (25 bits) */
 typedef struct p4_pd_orbisk_switch_mirrorPacketEncap_match_spec {
@@ -17162,6 +19369,8 @@ pd_status p4_pd_orbisk_switch_mirrorPacketEncap_get_plcmt_data(pd_sess_hdl sess_
 void p4_pd_orbisk_switch_mirrorPacketEncap_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_mirrorPacketEncap_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_mirrorPacketEncap_match_spec_value(const p4_pd_orbisk_switch_mirrorPacketEncap_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_mirrorPacketEncap_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_mirrorPacketEncap_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -17169,6 +19378,22 @@ pd_status p4_pd_orbisk_switch_mirrorPacketEncap_get_entry_from_plcmt_data(const 
 pd_status p4_pd_orbisk_switch_mirrorPacketEncap_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_mirrorPacketEncap_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_mirrorPacketEncap_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_mirrorPacketEncap_match_specs_are_equal(const p4_pd_orbisk_switch_mirrorPacketEncap_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_mirrorPacketEncap_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_mirrorPacketEncap_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* ================================================================== */
 /* QoS and policing classes */
@@ -17264,6 +19489,8 @@ pd_status p4_pd_orbisk_switch_qosPortProperties_get_plcmt_data(pd_sess_hdl sess_
 void p4_pd_orbisk_switch_qosPortProperties_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_qosPortProperties_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_qosPortProperties_match_spec_value(const p4_pd_orbisk_switch_qosPortProperties_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_qosPortProperties_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_qosPortProperties_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -17271,6 +19498,22 @@ pd_status p4_pd_orbisk_switch_qosPortProperties_get_entry_from_plcmt_data(const 
 pd_status p4_pd_orbisk_switch_qosPortProperties_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_qosPortProperties_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_qosPortProperties_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_qosPortProperties_match_specs_are_equal(const p4_pd_orbisk_switch_qosPortProperties_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_qosPortProperties_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_qosPortProperties_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* normalizeCos: table 0x01000036, pipeline A, exact match, 4 key bytes (8 bits) */
 typedef struct p4_pd_orbisk_switch_normalizeCos_match_spec {
@@ -17403,6 +19646,8 @@ pd_status p4_pd_orbisk_switch_normalizeCos_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_normalizeCos_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_normalizeCos_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_normalizeCos_match_spec_value(const p4_pd_orbisk_switch_normalizeCos_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_normalizeCos_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_normalizeCos_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -17410,6 +19655,22 @@ pd_status p4_pd_orbisk_switch_normalizeCos_get_entry_from_plcmt_data(const void 
 pd_status p4_pd_orbisk_switch_normalizeCos_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_normalizeCos_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_normalizeCos_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_normalizeCos_match_specs_are_equal(const p4_pd_orbisk_switch_normalizeCos_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_normalizeCos_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_normalizeCos_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* normalizeDscp: table 0x01000029, pipeline A, exact match, 2 key bytes (6 bits) */
 typedef struct p4_pd_orbisk_switch_normalizeDscp_match_spec {
@@ -17564,6 +19825,8 @@ pd_status p4_pd_orbisk_switch_normalizeDscp_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_normalizeDscp_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_normalizeDscp_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_normalizeDscp_match_spec_value(const p4_pd_orbisk_switch_normalizeDscp_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_normalizeDscp_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_normalizeDscp_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -17571,6 +19834,22 @@ pd_status p4_pd_orbisk_switch_normalizeDscp_get_entry_from_plcmt_data(const void
 pd_status p4_pd_orbisk_switch_normalizeDscp_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_normalizeDscp_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_normalizeDscp_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_normalizeDscp_match_specs_are_equal(const p4_pd_orbisk_switch_normalizeDscp_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_normalizeDscp_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_normalizeDscp_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* ingressTrafficClass: table 0x0100003f, pipeline A, ternary match, 8 key bytes (23 bits) */
 typedef struct p4_pd_orbisk_switch_ingressTrafficClass_match_spec {
@@ -17691,6 +19970,8 @@ pd_status p4_pd_orbisk_switch_ingressTrafficClass_get_plcmt_data(pd_sess_hdl ses
 void p4_pd_orbisk_switch_ingressTrafficClass_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_ingressTrafficClass_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_ingressTrafficClass_match_spec_value(const p4_pd_orbisk_switch_ingressTrafficClass_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_ingressTrafficClass_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ingressTrafficClass_match_spec_t *match_spec,
     uint32_t *priority,
@@ -17699,6 +19980,22 @@ pd_status p4_pd_orbisk_switch_ingressTrafficClass_get_entry_from_plcmt_data(cons
 pd_status p4_pd_orbisk_switch_ingressTrafficClass_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_ingressTrafficClass_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_ingressTrafficClass_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_ingressTrafficClass_match_specs_are_equal(const p4_pd_orbisk_switch_ingressTrafficClass_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_ingressTrafficClass_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ingressTrafficClass_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* tcDscpMap: table 0x01000061, pipeline A, exact match, 1 key bytes (3 bits) */
 typedef struct p4_pd_orbisk_switch_tcDscpMap_match_spec {
@@ -17803,6 +20100,8 @@ pd_status p4_pd_orbisk_switch_tcDscpMap_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_tcDscpMap_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_tcDscpMap_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_tcDscpMap_match_spec_value(const p4_pd_orbisk_switch_tcDscpMap_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_tcDscpMap_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_tcDscpMap_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -17810,6 +20109,22 @@ pd_status p4_pd_orbisk_switch_tcDscpMap_get_entry_from_plcmt_data(const void *pl
 pd_status p4_pd_orbisk_switch_tcDscpMap_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_tcDscpMap_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_tcDscpMap_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_tcDscpMap_match_specs_are_equal(const p4_pd_orbisk_switch_tcDscpMap_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_tcDscpMap_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_tcDscpMap_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* qosRewriteConfig: table 0x0100000f, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_qosRewriteConfig_get_entry(pd_sess_hdl sess_hdl,
@@ -17872,6 +20187,19 @@ pd_status p4_pd_orbisk_switch_qosRewriteConfig_get_entry_from_plcmt_data(const v
 pd_status p4_pd_orbisk_switch_qosRewriteConfig_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_qosRewriteConfig_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_qosRewriteConfig_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_qosRewriteConfig_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* qosRewrite: table 0x01000048, pipeline A, exact match, 5 key bytes (10 bits) */
 typedef struct p4_pd_orbisk_switch_qosRewrite_match_spec {
@@ -18006,6 +20334,8 @@ pd_status p4_pd_orbisk_switch_qosRewrite_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_qosRewrite_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_qosRewrite_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_qosRewrite_match_spec_value(const p4_pd_orbisk_switch_qosRewrite_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_qosRewrite_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_qosRewrite_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -18013,6 +20343,22 @@ pd_status p4_pd_orbisk_switch_qosRewrite_get_entry_from_plcmt_data(const void *p
 pd_status p4_pd_orbisk_switch_qosRewrite_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_qosRewrite_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_qosRewrite_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_qosRewrite_match_specs_are_equal(const p4_pd_orbisk_switch_qosRewrite_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_qosRewrite_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_qosRewrite_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* packetDscpRewrite: table 0x0100006e, pipeline A, ternary match, 6 key bytes (10 bits) */
 typedef struct p4_pd_orbisk_switch_packetDscpRewrite_match_spec {
@@ -18207,6 +20553,8 @@ pd_status p4_pd_orbisk_switch_packetDscpRewrite_get_plcmt_data(pd_sess_hdl sess_
 void p4_pd_orbisk_switch_packetDscpRewrite_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_packetDscpRewrite_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_packetDscpRewrite_match_spec_value(const p4_pd_orbisk_switch_packetDscpRewrite_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_packetDscpRewrite_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_packetDscpRewrite_match_spec_t *match_spec,
     uint32_t *priority,
@@ -18215,6 +20563,22 @@ pd_status p4_pd_orbisk_switch_packetDscpRewrite_get_entry_from_plcmt_data(const 
 pd_status p4_pd_orbisk_switch_packetDscpRewrite_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_packetDscpRewrite_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_packetDscpRewrite_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_packetDscpRewrite_match_specs_are_equal(const p4_pd_orbisk_switch_packetDscpRewrite_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_packetDscpRewrite_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_packetDscpRewrite_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* queueCounters: table 0x0100005b, pipeline A, no key */
 pd_status p4_pd_orbisk_switch_queueCounters_get_entry(pd_sess_hdl sess_hdl,
@@ -18276,6 +20640,19 @@ pd_status p4_pd_orbisk_switch_queueCounters_get_entry_from_plcmt_data(const void
 pd_status p4_pd_orbisk_switch_queueCounters_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_queueCounters_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_queueCounters_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_queueCounters_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* pdpClassify: table 0x11010020, pipeline B, ternary match, 10 key bytes (52 bits), entries carry pdpMeter */
 typedef struct p4_pd_orbisk_switch_pdpClassify_match_spec {
@@ -18411,6 +20788,8 @@ pd_status p4_pd_orbisk_switch_pdpClassify_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_pdpClassify_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_pdpClassify_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_pdpClassify_match_spec_value(const p4_pd_orbisk_switch_pdpClassify_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_pdpClassify_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_pdpClassify_match_spec_t *match_spec,
     uint32_t *priority,
@@ -18419,6 +20798,22 @@ pd_status p4_pd_orbisk_switch_pdpClassify_get_entry_from_plcmt_data(const void *
 pd_status p4_pd_orbisk_switch_pdpClassify_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_pdpClassify_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_pdpClassify_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_pdpClassify_match_specs_are_equal(const p4_pd_orbisk_switch_pdpClassify_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_pdpClassify_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_pdpClassify_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* pdpPolicy: table 0x11010025, pipeline B, exact match, 2 key bytes (6 bits), entries carry pdpClassCount */
 typedef struct p4_pd_orbisk_switch_pdpPolicy_match_spec {
@@ -18521,6 +20916,8 @@ pd_status p4_pd_orbisk_switch_pdpPolicy_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_pdpPolicy_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_pdpPolicy_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_pdpPolicy_match_spec_value(const p4_pd_orbisk_switch_pdpPolicy_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_pdpPolicy_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_pdpPolicy_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -18528,6 +20925,22 @@ pd_status p4_pd_orbisk_switch_pdpPolicy_get_entry_from_plcmt_data(const void *pl
 pd_status p4_pd_orbisk_switch_pdpPolicy_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_pdpPolicy_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_pdpPolicy_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_pdpPolicy_match_specs_are_equal(const p4_pd_orbisk_switch_pdpPolicy_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_pdpPolicy_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_pdpPolicy_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* ================================================================== */
 /* CPU path, MTU and final drop */
@@ -18738,6 +21151,8 @@ pd_status p4_pd_orbisk_switch_trapToCpu_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_trapToCpu_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_trapToCpu_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_trapToCpu_match_spec_value(const p4_pd_orbisk_switch_trapToCpu_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_trapToCpu_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_trapToCpu_match_spec_t *match_spec,
     uint32_t *priority,
@@ -18746,8 +21161,24 @@ pd_status p4_pd_orbisk_switch_trapToCpu_get_entry_from_plcmt_data(const void *pl
 pd_status p4_pd_orbisk_switch_trapToCpu_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_trapToCpu_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_trapToCpu_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_trapToCpu_match_specs_are_equal(const p4_pd_orbisk_switch_trapToCpu_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_trapToCpu_match_spec_t *hw_match_spec,
+    char *error);
 int p4_pd_orbisk_switch_trapToCpu_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_trapToCpu_match_spec_t *match_spec,
     char *out);
+int p4_pd_orbisk_switch_trapToCpu_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 int p4_pd_orbisk_switch_trapToCpu_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -18845,6 +21276,8 @@ pd_status p4_pd_orbisk_switch_switchToCpu_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_switchToCpu_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_switchToCpu_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_switchToCpu_match_spec_value(const p4_pd_orbisk_switch_switchToCpu_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_switchToCpu_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_switchToCpu_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -18852,6 +21285,22 @@ pd_status p4_pd_orbisk_switch_switchToCpu_get_entry_from_plcmt_data(const void *
 pd_status p4_pd_orbisk_switch_switchToCpu_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_switchToCpu_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_switchToCpu_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_switchToCpu_match_specs_are_equal(const p4_pd_orbisk_switch_switchToCpu_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_switchToCpu_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_switchToCpu_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* cpuEncap: table 0x11010022, pipeline B, ternary match, 7 key bytes (14 bits) */
 typedef struct p4_pd_orbisk_switch_cpuEncap_match_spec {
@@ -19062,6 +21511,8 @@ pd_status p4_pd_orbisk_switch_cpuEncap_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_cpuEncap_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_cpuEncap_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_cpuEncap_match_spec_value(const p4_pd_orbisk_switch_cpuEncap_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_cpuEncap_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_cpuEncap_match_spec_t *match_spec,
     uint32_t *priority,
@@ -19070,6 +21521,22 @@ pd_status p4_pd_orbisk_switch_cpuEncap_get_entry_from_plcmt_data(const void *plc
 pd_status p4_pd_orbisk_switch_cpuEncap_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_cpuEncap_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_cpuEncap_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_cpuEncap_match_specs_are_equal(const p4_pd_orbisk_switch_cpuEncap_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_cpuEncap_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_cpuEncap_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* cpuEncapFields: table 0x01000069, pipeline A, exact match, 6 key bytes (15 bits) */
 typedef struct p4_pd_orbisk_switch_cpuEncapFields_match_spec {
@@ -19208,6 +21675,8 @@ pd_status p4_pd_orbisk_switch_cpuEncapFields_get_plcmt_data(pd_sess_hdl sess_hdl
 void p4_pd_orbisk_switch_cpuEncapFields_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_cpuEncapFields_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_cpuEncapFields_match_spec_value(const p4_pd_orbisk_switch_cpuEncapFields_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_cpuEncapFields_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_cpuEncapFields_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -19215,6 +21684,22 @@ pd_status p4_pd_orbisk_switch_cpuEncapFields_get_entry_from_plcmt_data(const voi
 pd_status p4_pd_orbisk_switch_cpuEncapFields_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_cpuEncapFields_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_cpuEncapFields_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_cpuEncapFields_match_specs_are_equal(const p4_pd_orbisk_switch_cpuEncapFields_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_cpuEncapFields_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_cpuEncapFields_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* ingMtu: table 0x11010003, pipeline B, ternary match, 6 key bytes (36 bits) */
 typedef struct p4_pd_orbisk_switch_ingMtu_match_spec {
@@ -19336,6 +21821,8 @@ pd_status p4_pd_orbisk_switch_ingMtu_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_ingMtu_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_ingMtu_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_ingMtu_match_spec_value(const p4_pd_orbisk_switch_ingMtu_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_ingMtu_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_ingMtu_match_spec_t *match_spec,
     uint32_t *priority,
@@ -19344,6 +21831,22 @@ pd_status p4_pd_orbisk_switch_ingMtu_get_entry_from_plcmt_data(const void *plcmt
 pd_status p4_pd_orbisk_switch_ingMtu_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_ingMtu_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_ingMtu_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_ingMtu_match_specs_are_equal(const p4_pd_orbisk_switch_ingMtu_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_ingMtu_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_ingMtu_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* mtuCheck: table 0x1101001b, pipeline B, ternary match, 7 key bytes (26 bits) */
 typedef struct p4_pd_orbisk_switch_mtuCheck_match_spec {
@@ -19465,6 +21968,8 @@ pd_status p4_pd_orbisk_switch_mtuCheck_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_mtuCheck_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_mtuCheck_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_mtuCheck_match_spec_value(const p4_pd_orbisk_switch_mtuCheck_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_mtuCheck_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_mtuCheck_match_spec_t *match_spec,
     uint32_t *priority,
@@ -19473,6 +21978,22 @@ pd_status p4_pd_orbisk_switch_mtuCheck_get_entry_from_plcmt_data(const void *plc
 pd_status p4_pd_orbisk_switch_mtuCheck_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_mtuCheck_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_mtuCheck_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_mtuCheck_match_specs_are_equal(const p4_pd_orbisk_switch_mtuCheck_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_mtuCheck_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_mtuCheck_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* finalDropControl: table 0x01000057, pipeline A, ternary match, 26 key bytes (64 bits), entries carry finalDropControlCount */
 typedef struct p4_pd_orbisk_switch_finalDropControl_match_spec {
@@ -19699,6 +22220,8 @@ pd_status p4_pd_orbisk_switch_finalDropControl_get_plcmt_data(pd_sess_hdl sess_h
 void p4_pd_orbisk_switch_finalDropControl_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_finalDropControl_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_finalDropControl_match_spec_value(const p4_pd_orbisk_switch_finalDropControl_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_finalDropControl_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_finalDropControl_match_spec_t *match_spec,
     uint32_t *priority,
@@ -19707,8 +22230,24 @@ pd_status p4_pd_orbisk_switch_finalDropControl_get_entry_from_plcmt_data(const v
 pd_status p4_pd_orbisk_switch_finalDropControl_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_finalDropControl_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_finalDropControl_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_finalDropControl_match_specs_are_equal(const p4_pd_orbisk_switch_finalDropControl_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_finalDropControl_match_spec_t *hw_match_spec,
+    char *error);
 int p4_pd_orbisk_switch_finalDropControl_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_finalDropControl_match_spec_t *match_spec,
     char *out);
+int p4_pd_orbisk_switch_finalDropControl_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 int p4_pd_orbisk_switch_finalDropControl_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -19841,6 +22380,8 @@ pd_status p4_pd_orbisk_switch_finalDropControlIB_get_plcmt_data(pd_sess_hdl sess
 void p4_pd_orbisk_switch_finalDropControlIB_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_finalDropControlIB_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_finalDropControlIB_match_spec_value(const p4_pd_orbisk_switch_finalDropControlIB_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_finalDropControlIB_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_finalDropControlIB_match_spec_t *match_spec,
     uint32_t *priority,
@@ -19849,8 +22390,24 @@ pd_status p4_pd_orbisk_switch_finalDropControlIB_get_entry_from_plcmt_data(const
 pd_status p4_pd_orbisk_switch_finalDropControlIB_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_finalDropControlIB_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_finalDropControlIB_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_finalDropControlIB_match_specs_are_equal(const p4_pd_orbisk_switch_finalDropControlIB_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_finalDropControlIB_match_spec_t *hw_match_spec,
+    char *error);
 int p4_pd_orbisk_switch_finalDropControlIB_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_finalDropControlIB_match_spec_t *match_spec,
     char *out);
+int p4_pd_orbisk_switch_finalDropControlIB_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 int p4_pd_orbisk_switch_finalDropControlIB_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -19950,6 +22507,8 @@ pd_status p4_pd_orbisk_switch_eifIngPolicy_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_eifIngPolicy_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_eifIngPolicy_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_eifIngPolicy_match_spec_value(const p4_pd_orbisk_switch_eifIngPolicy_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_eifIngPolicy_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_eifIngPolicy_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -19957,6 +22516,22 @@ pd_status p4_pd_orbisk_switch_eifIngPolicy_get_entry_from_plcmt_data(const void 
 pd_status p4_pd_orbisk_switch_eifIngPolicy_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_eifIngPolicy_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_eifIngPolicy_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_eifIngPolicy_match_specs_are_equal(const p4_pd_orbisk_switch_eifIngPolicy_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_eifIngPolicy_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_eifIngPolicy_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* eifParamsForIngress: table 0x11010014, pipeline B, no key */
 pd_status p4_pd_orbisk_switch_eifParamsForIngress_get_entry(pd_sess_hdl sess_hdl,
@@ -20018,6 +22593,19 @@ pd_status p4_pd_orbisk_switch_eifParamsForIngress_get_entry_from_plcmt_data(cons
 pd_status p4_pd_orbisk_switch_eifParamsForIngress_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_eifParamsForIngress_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_eifParamsForIngress_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_eifParamsForIngress_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* eifParamsForEgress: table 0x11010011, pipeline B, exact match, 2 key bytes (12 bits) */
 typedef struct p4_pd_orbisk_switch_eifParamsForEgress_match_spec {
@@ -20109,6 +22697,8 @@ pd_status p4_pd_orbisk_switch_eifParamsForEgress_get_plcmt_data(pd_sess_hdl sess
 void p4_pd_orbisk_switch_eifParamsForEgress_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_eifParamsForEgress_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_eifParamsForEgress_match_spec_value(const p4_pd_orbisk_switch_eifParamsForEgress_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_eifParamsForEgress_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_eifParamsForEgress_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -20116,6 +22706,22 @@ pd_status p4_pd_orbisk_switch_eifParamsForEgress_get_entry_from_plcmt_data(const
 pd_status p4_pd_orbisk_switch_eifParamsForEgress_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_eifParamsForEgress_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_eifParamsForEgress_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_eifParamsForEgress_match_specs_are_equal(const p4_pd_orbisk_switch_eifParamsForEgress_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_eifParamsForEgress_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_eifParamsForEgress_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* eifPinHole: table 0x11010019, pipeline B, exact match, 20 key bytes (160 bits) */
 typedef struct p4_pd_orbisk_switch_eifPinHole_match_spec {
@@ -20222,6 +22828,8 @@ pd_status p4_pd_orbisk_switch_eifPinHole_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_eifPinHole_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_eifPinHole_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_eifPinHole_match_spec_value(const p4_pd_orbisk_switch_eifPinHole_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_eifPinHole_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_eifPinHole_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -20229,6 +22837,22 @@ pd_status p4_pd_orbisk_switch_eifPinHole_get_entry_from_plcmt_data(const void *p
 pd_status p4_pd_orbisk_switch_eifPinHole_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_eifPinHole_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_eifPinHole_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_eifPinHole_match_specs_are_equal(const p4_pd_orbisk_switch_eifPinHole_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_eifPinHole_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_eifPinHole_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* eifPinHoleHits: table 0x1101001c, pipeline B, exact match, 2 key bytes (15 bits), idle timeout */
 typedef struct p4_pd_orbisk_switch_eifPinHoleHits_match_spec {
@@ -20347,6 +22971,8 @@ pd_status p4_pd_orbisk_switch_eifPinHoleHits_get_plcmt_data(pd_sess_hdl sess_hdl
 void p4_pd_orbisk_switch_eifPinHoleHits_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_eifPinHoleHits_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_eifPinHoleHits_match_spec_value(const p4_pd_orbisk_switch_eifPinHoleHits_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_eifPinHoleHits_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_eifPinHoleHits_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -20354,6 +22980,22 @@ pd_status p4_pd_orbisk_switch_eifPinHoleHits_get_entry_from_plcmt_data(const voi
 pd_status p4_pd_orbisk_switch_eifPinHoleHits_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_eifPinHoleHits_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_eifPinHoleHits_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_eifPinHoleHits_match_specs_are_equal(const p4_pd_orbisk_switch_eifPinHoleHits_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_eifPinHoleHits_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_eifPinHoleHits_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* eifAcl: table 0x1101001a, pipeline B, ternary match, 39 key bytes (306 bits), entries carry eifAclCount */
 typedef struct p4_pd_orbisk_switch_eifAcl_match_spec {
@@ -20514,6 +23156,8 @@ pd_status p4_pd_orbisk_switch_eifAcl_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_eifAcl_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_eifAcl_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_eifAcl_match_spec_value(const p4_pd_orbisk_switch_eifAcl_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_eifAcl_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_eifAcl_match_spec_t *match_spec,
     uint32_t *priority,
@@ -20522,8 +23166,24 @@ pd_status p4_pd_orbisk_switch_eifAcl_get_entry_from_plcmt_data(const void *plcmt
 pd_status p4_pd_orbisk_switch_eifAcl_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_eifAcl_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_eifAcl_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_eifAcl_match_specs_are_equal(const p4_pd_orbisk_switch_eifAcl_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_eifAcl_match_spec_t *hw_match_spec,
+    char *error);
 int p4_pd_orbisk_switch_eifAcl_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_eifAcl_match_spec_t *match_spec,
     char *out);
+int p4_pd_orbisk_switch_eifAcl_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 int p4_pd_orbisk_switch_eifAcl_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -20657,6 +23317,8 @@ pd_status p4_pd_orbisk_switch_eifForwardToPeerAcl_get_plcmt_data(pd_sess_hdl ses
 void p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec_value(const p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_eifForwardToPeerAcl_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec_t *match_spec,
     uint32_t *priority,
@@ -20665,8 +23327,24 @@ pd_status p4_pd_orbisk_switch_eifForwardToPeerAcl_get_entry_from_plcmt_data(cons
 pd_status p4_pd_orbisk_switch_eifForwardToPeerAcl_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_eifForwardToPeerAcl_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_eifForwardToPeerAcl_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_eifForwardToPeerAcl_match_specs_are_equal(const p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec_t *hw_match_spec,
+    char *error);
 int p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_eifForwardToPeerAcl_match_spec_t *match_spec,
     char *out);
+int p4_pd_orbisk_switch_eifForwardToPeerAcl_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 int p4_pd_orbisk_switch_eifForwardToPeerAcl_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -20796,6 +23474,8 @@ pd_status p4_pd_orbisk_switch_foldedPipeDest_get_plcmt_data(pd_sess_hdl sess_hdl
 void p4_pd_orbisk_switch_foldedPipeDest_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_foldedPipeDest_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_foldedPipeDest_match_spec_value(const p4_pd_orbisk_switch_foldedPipeDest_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_foldedPipeDest_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_foldedPipeDest_match_spec_t *match_spec,
     uint32_t *priority,
@@ -20807,6 +23487,22 @@ pd_status p4_pd_orbisk_switch_foldedPipeDest_get_entry_from_plcmt_data(const voi
 pd_status p4_pd_orbisk_switch_foldedPipeDest_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_foldedPipeDest_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_foldedPipeDest_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_foldedPipeDest_match_specs_are_equal(const p4_pd_orbisk_switch_foldedPipeDest_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_foldedPipeDest_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_foldedPipeDest_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* foldedPipeQos: table 0x0100004a, pipeline A, ternary match, 8 key bytes (41 bits) */
 typedef struct p4_pd_orbisk_switch_foldedPipeQos_match_spec {
@@ -20935,6 +23631,8 @@ pd_status p4_pd_orbisk_switch_foldedPipeQos_get_plcmt_data(pd_sess_hdl sess_hdl,
 void p4_pd_orbisk_switch_foldedPipeQos_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_foldedPipeQos_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_foldedPipeQos_match_spec_value(const p4_pd_orbisk_switch_foldedPipeQos_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_foldedPipeQos_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_foldedPipeQos_match_spec_t *match_spec,
     uint32_t *priority,
@@ -20943,6 +23641,22 @@ pd_status p4_pd_orbisk_switch_foldedPipeQos_get_entry_from_plcmt_data(const void
 pd_status p4_pd_orbisk_switch_foldedPipeQos_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_foldedPipeQos_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_foldedPipeQos_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_foldedPipeQos_match_specs_are_equal(const p4_pd_orbisk_switch_foldedPipeQos_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_foldedPipeQos_match_spec_t *hw_match_spec,
+    char *error);
+int p4_pd_orbisk_switch_foldedPipeQos_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 
 /* foldedPipeCounters: table 0x0100005a, pipeline A, exact match, 3 key bytes (14 bits), entries carry foldedPipeCount */
 typedef struct p4_pd_orbisk_switch_foldedPipeCounters_match_spec {
@@ -21032,6 +23746,8 @@ pd_status p4_pd_orbisk_switch_foldedPipeCounters_get_plcmt_data(pd_sess_hdl sess
 void p4_pd_orbisk_switch_foldedPipeCounters_match_spec_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_foldedPipeCounters_match_spec_t *match_spec);
+int p4_pd_orbisk_switch_foldedPipeCounters_match_spec_value(const p4_pd_orbisk_switch_foldedPipeCounters_match_spec_t *match_spec,
+    char *out);
 pd_status p4_pd_orbisk_switch_foldedPipeCounters_get_entry_from_plcmt_data(const void *plcmt_data,
     p4_pd_orbisk_switch_foldedPipeCounters_match_spec_t *match_spec,
     p4_pd_orbisk_switch_action_specs_t *action_spec,
@@ -21039,8 +23755,24 @@ pd_status p4_pd_orbisk_switch_foldedPipeCounters_get_entry_from_plcmt_data(const
 pd_status p4_pd_orbisk_switch_foldedPipeCounters_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_foldedPipeCounters_value(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_entry_hdl entry_hdl,
+    bool read_from_hw,
+    char *out);
+int p4_pd_orbisk_switch_foldedPipeCounters_plcmt_data_value(const void *plcmt_data,
+    char *out);
+int p4_pd_orbisk_switch_foldedPipeCounters_match_specs_are_equal(const p4_pd_orbisk_switch_foldedPipeCounters_match_spec_t *pd_match_spec,
+    const p4_pd_orbisk_switch_foldedPipeCounters_match_spec_t *hw_match_spec,
+    char *error);
 int p4_pd_orbisk_switch_foldedPipeCounters_match_spec_stringify_for_counter(const p4_pd_orbisk_switch_foldedPipeCounters_match_spec_t *match_spec,
     char *out);
+int p4_pd_orbisk_switch_foldedPipeCounters_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl,
+    uint8_t dev_id,
+    pd_tbl_hdl tbl_hdl,
+    pd_entry_hdl entry_hdl,
+    const void *plcmt_data,
+    char *error);
 int p4_pd_orbisk_switch_foldedPipeCounters_stringify_counter_match_spec(pd_sess_hdl sess_hdl,
     uint8_t dev_id,
     pd_entry_hdl entry_hdl,
@@ -21195,6 +23927,8 @@ pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_get_full_member_info
 pd_status p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_adt_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_egrMirrorLagPortActionProfile_plcmt_data_value(const void *plcmt_data,
+    char *out);
 
 /* mirrorLagPortActionProfile: action data table 0x0200001d, selector table 0x03000001;
  * entries of ingressMirrorLagGroup name its members and groups.
@@ -21341,6 +24075,8 @@ pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_get_full_member_info_fr
 pd_status p4_pd_orbisk_switch_mirrorLagPortActionProfile_adt_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_mirrorLagPortActionProfile_plcmt_data_value(const void *plcmt_data,
+    char *out);
 
 /* foldedPipeActionProfile: action data table 0x02000021, selector table 0x03000002;
  * entries of foldedPipeDest name its members and groups.
@@ -21487,6 +24223,8 @@ pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_get_full_member_info_from_
 pd_status p4_pd_orbisk_switch_foldedPipeActionProfile_adt_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_foldedPipeActionProfile_plcmt_data_value(const void *plcmt_data,
+    char *out);
 
 /* ecmpMemberActionProfile: action data table 0x12010003, selector table 0x13010001;
  * entries of ecmpGroup name its members and groups.
@@ -21633,6 +24371,8 @@ pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_get_full_member_info_from_
 pd_status p4_pd_orbisk_switch_ecmpMemberActionProfile_adt_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_ecmpMemberActionProfile_plcmt_data_value(const void *plcmt_data,
+    char *out);
 
 /* tunnelMemberActionProfile: action data table 0x1201000c, selector table 0x13010002;
  * entries of tunnelResolve name its members and groups.
@@ -21779,6 +24519,8 @@ pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_get_full_member_info_fro
 pd_status p4_pd_orbisk_switch_tunnelMemberActionProfile_adt_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_tunnelMemberActionProfile_plcmt_data_value(const void *plcmt_data,
+    char *out);
 
 /* lagPortActionProfile: action data table 0x1201000e, selector table 0x13010003;
  * entries of lagGroup name its members and groups.
@@ -21944,6 +24686,8 @@ pd_status p4_pd_orbisk_switch_lagPortActionProfile_get_full_member_info_from_plc
 pd_status p4_pd_orbisk_switch_lagPortActionProfile_adt_plcmt_data_print(int fd,
     int indent,
     const void *plcmt_data);
+int p4_pd_orbisk_switch_lagPortActionProfile_plcmt_data_value(const void *plcmt_data,
+    char *out);
 
 /* ------------------------------------------------------------------ */
 /* counters, meters and registers */
@@ -22491,522 +25235,965 @@ pd_status p4_pd_orbisk_switch_register_write_all_indirect(pd_sess_hdl sess_hdl,
 
 /* ------------------------------------ action data read back --- */
 
+int p4_pd_orbisk_switch_setPhase0_action_specs_are_equal(const p4_pd_orbisk_switch_setPhase0_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setPhase0_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setPhase0_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setPhase0_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setPhase0_schema(void);
 void unbuild_action_spec_setPhase0(const pd_action_record *act,
     p4_pd_orbisk_switch_setPhase0_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setPhase0_value(const p4_pd_orbisk_switch_setPhase0_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_NoAction_schema(void);
+int p4_pd_orbisk_switch_NoAction_value(char *out);
 const char *p4_pd_orbisk_switch_hashComputeInnerIpv4HdrAction_schema(void);
+int p4_pd_orbisk_switch_hashComputeInnerIpv4HdrAction_value(char *out);
 const char *p4_pd_orbisk_switch_hashComputeInnerIpv6HdrAction_schema(void);
+int p4_pd_orbisk_switch_hashComputeInnerIpv6HdrAction_value(char *out);
 const char *p4_pd_orbisk_switch_setTunnelTerminationTypeNoneIpv4AndL2_schema(void);
+int p4_pd_orbisk_switch_setTunnelTerminationTypeNoneIpv4AndL2_value(char *out);
+int p4_pd_orbisk_switch_setTunnelTerminationTypeVxlan_action_specs_are_equal(const p4_pd_orbisk_switch_setTunnelTerminationTypeVxlan_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setTunnelTerminationTypeVxlan_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setTunnelTerminationTypeVxlan_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setTunnelTerminationTypeVxlan_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTunnelTerminationTypeVxlan_schema(void);
 void unbuild_action_spec_setTunnelTerminationTypeVxlan(const pd_action_record *act,
     p4_pd_orbisk_switch_setTunnelTerminationTypeVxlan_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setTunnelTerminationTypeVxlan_value(const p4_pd_orbisk_switch_setTunnelTerminationTypeVxlan_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_setTunnelTerminationTypeNoneIpv6_schema(void);
+int p4_pd_orbisk_switch_setTunnelTerminationTypeNoneIpv6_value(char *out);
+int p4_pd_orbisk_switch_setL2DomainUntagged_action_specs_are_equal(const p4_pd_orbisk_switch_setL2DomainUntagged_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setL2DomainUntagged_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setL2DomainUntagged_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setL2DomainUntagged_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setL2DomainUntagged_schema(void);
 void unbuild_action_spec_setL2DomainUntagged(const pd_action_record *act,
     p4_pd_orbisk_switch_setL2DomainUntagged_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setL2DomainUntagged_value(const p4_pd_orbisk_switch_setL2DomainUntagged_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setL2DomainVlanXlate_action_specs_are_equal(const p4_pd_orbisk_switch_setL2DomainVlanXlate_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setL2DomainVlanXlate_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setL2DomainVlanXlate_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setL2DomainVlanXlate_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setL2DomainVlanXlate_schema(void);
 void unbuild_action_spec_setL2DomainVlanXlate(const pd_action_record *act,
     p4_pd_orbisk_switch_setL2DomainVlanXlate_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setL2DomainVlanXlate_value(const p4_pd_orbisk_switch_setL2DomainVlanXlate_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setL2DomainTagged_action_specs_are_equal(const p4_pd_orbisk_switch_setL2DomainTagged_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setL2DomainTagged_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setL2DomainTagged_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setL2DomainTagged_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setL2DomainTagged_schema(void);
 void unbuild_action_spec_setL2DomainTagged(const pd_action_record *act,
     p4_pd_orbisk_switch_setL2DomainTagged_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setL2DomainTagged_value(const p4_pd_orbisk_switch_setL2DomainTagged_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_onMiss_schema(void);
+int p4_pd_orbisk_switch_onMiss_value(char *out);
+int p4_pd_orbisk_switch_setVrfPropertiesTaggedXlatePkt_action_specs_are_equal(const p4_pd_orbisk_switch_setVrfPropertiesTaggedXlatePkt_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setVrfPropertiesTaggedXlatePkt_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setVrfPropertiesTaggedXlatePkt_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setVrfPropertiesTaggedXlatePkt_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setVrfPropertiesTaggedXlatePkt_schema(void);
 void unbuild_action_spec_setVrfPropertiesTaggedXlatePkt(const pd_action_record *act,
     p4_pd_orbisk_switch_setVrfPropertiesTaggedXlatePkt_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setVrfPropertiesTaggedXlatePkt_value(const p4_pd_orbisk_switch_setVrfPropertiesTaggedXlatePkt_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_setVrfPropertiesTaggedPktDefault_schema(void);
+int p4_pd_orbisk_switch_setVrfPropertiesTaggedPktDefault_value(char *out);
+int p4_pd_orbisk_switch_setVrfPropertiesTaggedPkt_action_specs_are_equal(const p4_pd_orbisk_switch_setVrfPropertiesTaggedPkt_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setVrfPropertiesTaggedPkt_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setVrfPropertiesTaggedPkt_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setVrfPropertiesTaggedPkt_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setVrfPropertiesTaggedPkt_schema(void);
 void unbuild_action_spec_setVrfPropertiesTaggedPkt(const pd_action_record *act,
     p4_pd_orbisk_switch_setVrfPropertiesTaggedPkt_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setVrfPropertiesTaggedPkt_value(const p4_pd_orbisk_switch_setVrfPropertiesTaggedPkt_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_setVrfPropertiesUntaggedPktDefault_schema(void);
+int p4_pd_orbisk_switch_setVrfPropertiesUntaggedPktDefault_value(char *out);
+int p4_pd_orbisk_switch_setVrfPropertiesUntaggedPkt_action_specs_are_equal(const p4_pd_orbisk_switch_setVrfPropertiesUntaggedPkt_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setVrfPropertiesUntaggedPkt_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setVrfPropertiesUntaggedPkt_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setVrfPropertiesUntaggedPkt_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setVrfPropertiesUntaggedPkt_schema(void);
 void unbuild_action_spec_setVrfPropertiesUntaggedPkt(const pd_action_record *act,
     p4_pd_orbisk_switch_setVrfPropertiesUntaggedPkt_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setVrfPropertiesUntaggedPkt_value(const p4_pd_orbisk_switch_setVrfPropertiesUntaggedPkt_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setVxlanL2AintfLookupFields_action_specs_are_equal(const p4_pd_orbisk_switch_setVxlanL2AintfLookupFields_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setVxlanL2AintfLookupFields_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setVxlanL2AintfLookupFields_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setVxlanL2AintfLookupFields_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setVxlanL2AintfLookupFields_schema(void);
 void unbuild_action_spec_setVxlanL2AintfLookupFields(const pd_action_record *act,
     p4_pd_orbisk_switch_setVxlanL2AintfLookupFields_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setVxlanL2AintfLookupFields_value(const p4_pd_orbisk_switch_setVxlanL2AintfLookupFields_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_setVxlanL2AintfInvalidTunnel_schema(void);
+int p4_pd_orbisk_switch_setVxlanL2AintfInvalidTunnel_value(char *out);
 const char *p4_pd_orbisk_switch_setvxlanL2AintfLookupMissVtepLearn_schema(void);
+int p4_pd_orbisk_switch_setvxlanL2AintfLookupMissVtepLearn_value(char *out);
 const char *p4_pd_orbisk_switch_setvxlanL2AintfLookupMissSkipVtepLearn_schema(void);
+int p4_pd_orbisk_switch_setvxlanL2AintfLookupMissSkipVtepLearn_value(char *out);
+int p4_pd_orbisk_switch_vxlanVniResolutionHit_action_specs_are_equal(const p4_pd_orbisk_switch_vxlanVniResolutionHit_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_vxlanVniResolutionHit_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_vxlanVniResolutionHit_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_vxlanVniResolutionHit_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_vxlanVniResolutionHit_schema(void);
 void unbuild_action_spec_vxlanVniResolutionHit(const pd_action_record *act,
     p4_pd_orbisk_switch_vxlanVniResolutionHit_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_vxlanVniResolutionHit_value(const p4_pd_orbisk_switch_vxlanVniResolutionHit_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_vxlanVniResolutionMiss_schema(void);
+int p4_pd_orbisk_switch_vxlanVniResolutionMiss_value(char *out);
 const char *p4_pd_orbisk_switch_setUcast_schema(void);
+int p4_pd_orbisk_switch_setUcast_value(char *out);
+int p4_pd_orbisk_switch_setL2ControlFrame_action_specs_are_equal(const p4_pd_orbisk_switch_setL2ControlFrame_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setL2ControlFrame_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setL2ControlFrame_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setL2ControlFrame_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setL2ControlFrame_schema(void);
 void unbuild_action_spec_setL2ControlFrame(const pd_action_record *act,
     p4_pd_orbisk_switch_setL2ControlFrame_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setL2ControlFrame_value(const p4_pd_orbisk_switch_setL2ControlFrame_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_setIllegalDmac_schema(void);
+int p4_pd_orbisk_switch_setIllegalDmac_value(char *out);
 const char *p4_pd_orbisk_switch_setMcast_schema(void);
+int p4_pd_orbisk_switch_setMcast_value(char *out);
 const char *p4_pd_orbisk_switch_setBcast_schema(void);
+int p4_pd_orbisk_switch_setBcast_value(char *out);
 const char *p4_pd_orbisk_switch_setIpMcast_schema(void);
+int p4_pd_orbisk_switch_setIpMcast_value(char *out);
+int p4_pd_orbisk_switch_classifyL2ControlFrame_action_specs_are_equal(const p4_pd_orbisk_switch_classifyL2ControlFrame_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_classifyL2ControlFrame_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_classifyL2ControlFrame_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_classifyL2ControlFrame_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_classifyL2ControlFrame_schema(void);
 void unbuild_action_spec_classifyL2ControlFrame(const pd_action_record *act,
     p4_pd_orbisk_switch_classifyL2ControlFrame_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_classifyL2ControlFrame_value(const p4_pd_orbisk_switch_classifyL2ControlFrame_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_ingStpAction_schema(void);
+int p4_pd_orbisk_switch_ingStpAction_value(char *out);
 const char *p4_pd_orbisk_switch_ingVlanAction_schema(void);
+int p4_pd_orbisk_switch_ingVlanAction_value(char *out);
 const char *p4_pd_orbisk_switch_setIllegalSmac_schema(void);
+int p4_pd_orbisk_switch_setIllegalSmac_value(char *out);
+int p4_pd_orbisk_switch_setQosPortProperties_action_specs_are_equal(const p4_pd_orbisk_switch_setQosPortProperties_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setQosPortProperties_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setQosPortProperties_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setQosPortProperties_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setQosPortProperties_schema(void);
 void unbuild_action_spec_setQosPortProperties(const pd_action_record *act,
     p4_pd_orbisk_switch_setQosPortProperties_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setQosPortProperties_value(const p4_pd_orbisk_switch_setQosPortProperties_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setQosRewriteConfiguration_action_specs_are_equal(const p4_pd_orbisk_switch_setQosRewriteConfiguration_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setQosRewriteConfiguration_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setQosRewriteConfiguration_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setQosRewriteConfiguration_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setQosRewriteConfiguration_schema(void);
 void unbuild_action_spec_setQosRewriteConfiguration(const pd_action_record *act,
     p4_pd_orbisk_switch_setQosRewriteConfiguration_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setQosRewriteConfiguration_value(const p4_pd_orbisk_switch_setQosRewriteConfiguration_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_setDrop_schema(void);
+int p4_pd_orbisk_switch_setDrop_value(char *out);
 const char *p4_pd_orbisk_switch_setDropSmac_schema(void);
+int p4_pd_orbisk_switch_setDropSmac_value(char *out);
 const char *p4_pd_orbisk_switch_setL2LearningLookupMiss_schema(void);
+int p4_pd_orbisk_switch_setL2LearningLookupMiss_value(char *out);
 const char *p4_pd_orbisk_switch_noOp_schema(void);
+int p4_pd_orbisk_switch_noOp_value(char *out);
 const char *p4_pd_orbisk_switch_ignoreIngL3DmacValid_schema(void);
+int p4_pd_orbisk_switch_ignoreIngL3DmacValid_value(char *out);
 const char *p4_pd_orbisk_switch_setIngL3DmacValid_schema(void);
+int p4_pd_orbisk_switch_setIngL3DmacValid_value(char *out);
+int p4_pd_orbisk_switch_setHaloCrlId2_action_specs_are_equal(const p4_pd_orbisk_switch_setHaloCrlId2_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setHaloCrlId2_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setHaloCrlId2_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setHaloCrlId2_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setHaloCrlId2_schema(void);
 void unbuild_action_spec_setHaloCrlId2(const pd_action_record *act,
     p4_pd_orbisk_switch_setHaloCrlId2_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setHaloCrlId2_value(const p4_pd_orbisk_switch_setHaloCrlId2_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setHaloCrlId_action_specs_are_equal(const p4_pd_orbisk_switch_setHaloCrlId_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setHaloCrlId_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setHaloCrlId_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setHaloCrlId_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setHaloCrlId_schema(void);
 void unbuild_action_spec_setHaloCrlId(const pd_action_record *act,
     p4_pd_orbisk_switch_setHaloCrlId_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setHaloCrlId_value(const p4_pd_orbisk_switch_setHaloCrlId_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_l2ForwardParamsSet_action_specs_are_equal(const p4_pd_orbisk_switch_l2ForwardParamsSet_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_l2ForwardParamsSet_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_l2ForwardParamsSet_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_l2ForwardParamsSet_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_l2ForwardParamsSet_schema(void);
 void unbuild_action_spec_l2ForwardParamsSet(const pd_action_record *act,
     p4_pd_orbisk_switch_l2ForwardParamsSet_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_l2ForwardParamsSet_value(const p4_pd_orbisk_switch_l2ForwardParamsSet_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setVlanProperties_action_specs_are_equal(const p4_pd_orbisk_switch_setVlanProperties_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setVlanProperties_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setVlanProperties_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setVlanProperties_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setVlanProperties_schema(void);
 void unbuild_action_spec_setVlanProperties(const pd_action_record *act,
     p4_pd_orbisk_switch_setVlanProperties_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setVlanProperties_value(const p4_pd_orbisk_switch_setVlanProperties_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setHaloXformDip_action_specs_are_equal(const p4_pd_orbisk_switch_setHaloXformDip_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setHaloXformDip_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setHaloXformDip_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setHaloXformDip_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setHaloXformDip_schema(void);
 void unbuild_action_spec_setHaloXformDip(const pd_action_record *act,
     p4_pd_orbisk_switch_setHaloXformDip_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setHaloXformDip_value(const p4_pd_orbisk_switch_setHaloXformDip_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_setHaloInvalidDip_schema(void);
+int p4_pd_orbisk_switch_setHaloInvalidDip_value(char *out);
+int p4_pd_orbisk_switch_setHaloXformIpv4Sip_action_specs_are_equal(const p4_pd_orbisk_switch_setHaloXformIpv4Sip_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setHaloXformIpv4Sip_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setHaloXformIpv4Sip_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setHaloXformIpv4Sip_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setHaloXformIpv4Sip_schema(void);
 void unbuild_action_spec_setHaloXformIpv4Sip(const pd_action_record *act,
     p4_pd_orbisk_switch_setHaloXformIpv4Sip_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setHaloXformIpv4Sip_value(const p4_pd_orbisk_switch_setHaloXformIpv4Sip_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_setHaloInvalidSip_schema(void);
+int p4_pd_orbisk_switch_setHaloInvalidSip_value(char *out);
 const char *p4_pd_orbisk_switch_setHaloIpv4Common_schema(void);
+int p4_pd_orbisk_switch_setHaloIpv4Common_value(char *out);
+int p4_pd_orbisk_switch_setHaloXformIpv6Sip_action_specs_are_equal(const p4_pd_orbisk_switch_setHaloXformIpv6Sip_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setHaloXformIpv6Sip_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setHaloXformIpv6Sip_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setHaloXformIpv6Sip_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setHaloXformIpv6Sip_schema(void);
 void unbuild_action_spec_setHaloXformIpv6Sip(const pd_action_record *act,
     p4_pd_orbisk_switch_setHaloXformIpv6Sip_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setHaloXformIpv6Sip_value(const p4_pd_orbisk_switch_setHaloXformIpv6Sip_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_setHaloIpv6Common_schema(void);
+int p4_pd_orbisk_switch_setHaloIpv6Common_value(char *out);
+int p4_pd_orbisk_switch_setHaloXformDstPort_action_specs_are_equal(const p4_pd_orbisk_switch_setHaloXformDstPort_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setHaloXformDstPort_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setHaloXformDstPort_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setHaloXformDstPort_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setHaloXformDstPort_schema(void);
 void unbuild_action_spec_setHaloXformDstPort(const pd_action_record *act,
     p4_pd_orbisk_switch_setHaloXformDstPort_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setHaloXformDstPort_value(const p4_pd_orbisk_switch_setHaloXformDstPort_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setHaloXformSrcPort_action_specs_are_equal(const p4_pd_orbisk_switch_setHaloXformSrcPort_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setHaloXformSrcPort_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setHaloXformSrcPort_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setHaloXformSrcPort_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setHaloXformSrcPort_schema(void);
 void unbuild_action_spec_setHaloXformSrcPort(const pd_action_record *act,
     p4_pd_orbisk_switch_setHaloXformSrcPort_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setHaloXformSrcPort_value(const p4_pd_orbisk_switch_setHaloXformSrcPort_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setFullConeDipRangeId_action_specs_are_equal(const p4_pd_orbisk_switch_setFullConeDipRangeId_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setFullConeDipRangeId_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setFullConeDipRangeId_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setFullConeDipRangeId_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setFullConeDipRangeId_schema(void);
 void unbuild_action_spec_setFullConeDipRangeId(const pd_action_record *act,
     p4_pd_orbisk_switch_setFullConeDipRangeId_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setFullConeDipRangeId_value(const p4_pd_orbisk_switch_setFullConeDipRangeId_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setIngNatProfile_action_specs_are_equal(const p4_pd_orbisk_switch_setIngNatProfile_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setIngNatProfile_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setIngNatProfile_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setIngNatProfile_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIngNatProfile_schema(void);
 void unbuild_action_spec_setIngNatProfile(const pd_action_record *act,
     p4_pd_orbisk_switch_setIngNatProfile_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setIngNatProfile_value(const p4_pd_orbisk_switch_setIngNatProfile_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setEcmp_action_specs_are_equal(const p4_pd_orbisk_switch_setEcmp_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setEcmp_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setEcmp_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setEcmp_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEcmp_schema(void);
 void unbuild_action_spec_setEcmp(const pd_action_record *act,
     p4_pd_orbisk_switch_setEcmp_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setEcmp_value(const p4_pd_orbisk_switch_setEcmp_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setNextHop_action_specs_are_equal(const p4_pd_orbisk_switch_setNextHop_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setNextHop_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setNextHop_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setNextHop_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNextHop_schema(void);
 void unbuild_action_spec_setNextHop(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHop_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setNextHop_value(const p4_pd_orbisk_switch_setNextHop_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setNextHop2_action_specs_are_equal(const p4_pd_orbisk_switch_setNextHop2_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setNextHop2_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setNextHop2_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setNextHop2_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNextHop2_schema(void);
 void unbuild_action_spec_setNextHop2(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHop2_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setNextHop2_value(const p4_pd_orbisk_switch_setNextHop2_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setNextHop3_action_specs_are_equal(const p4_pd_orbisk_switch_setNextHop3_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setNextHop3_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setNextHop3_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setNextHop3_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNextHop3_schema(void);
 void unbuild_action_spec_setNextHop3(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHop3_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setNextHop3_value(const p4_pd_orbisk_switch_setNextHop3_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setIpv6PrtResultXFirst_action_specs_are_equal(const p4_pd_orbisk_switch_setIpv6PrtResultXFirst_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setIpv6PrtResultXFirst_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setIpv6PrtResultXFirst_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setIpv6PrtResultXFirst_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIpv6PrtResultXFirst_schema(void);
 void unbuild_action_spec_setIpv6PrtResultXFirst(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpv6PrtResultXFirst_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setIpv6PrtResultXFirst_value(const p4_pd_orbisk_switch_setIpv6PrtResultXFirst_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setTranslatedDipNextHop_action_specs_are_equal(const p4_pd_orbisk_switch_setTranslatedDipNextHop_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setTranslatedDipNextHop_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setTranslatedDipNextHop_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setTranslatedDipNextHop_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedDipNextHop_schema(void);
 void unbuild_action_spec_setTranslatedDipNextHop(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipNextHop_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setTranslatedDipNextHop_value(const p4_pd_orbisk_switch_setTranslatedDipNextHop_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setTranslatedDipPortNextHopDynamic_action_specs_are_equal(const p4_pd_orbisk_switch_setTranslatedDipPortNextHopDynamic_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setTranslatedDipPortNextHopDynamic_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setTranslatedDipPortNextHopDynamic_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setTranslatedDipPortNextHopDynamic_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedDipPortNextHopDynamic_schema(void);
 void unbuild_action_spec_setTranslatedDipPortNextHopDynamic(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipPortNextHopDynamic_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setTranslatedDipPortNextHopDynamic_value(const p4_pd_orbisk_switch_setTranslatedDipPortNextHopDynamic_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setTranslatedDipPort_action_specs_are_equal(const p4_pd_orbisk_switch_setTranslatedDipPort_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setTranslatedDipPort_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setTranslatedDipPort_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setTranslatedDipPort_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedDipPort_schema(void);
 void unbuild_action_spec_setTranslatedDipPort(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipPort_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setTranslatedDipPort_value(const p4_pd_orbisk_switch_setTranslatedDipPort_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setDnatAclId_action_specs_are_equal(const p4_pd_orbisk_switch_setDnatAclId_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setDnatAclId_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setDnatAclId_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setDnatAclId_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setDnatAclId_schema(void);
 void unbuild_action_spec_setDnatAclId(const pd_action_record *act,
     p4_pd_orbisk_switch_setDnatAclId_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setDnatAclId_value(const p4_pd_orbisk_switch_setDnatAclId_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_resetDnatAclId_schema(void);
+int p4_pd_orbisk_switch_resetDnatAclId_value(char *out);
 const char *p4_pd_orbisk_switch_countEgressQueue_schema(void);
+int p4_pd_orbisk_switch_countEgressQueue_value(char *out);
+int p4_pd_orbisk_switch_setTunnelDip_action_specs_are_equal(const p4_pd_orbisk_switch_setTunnelDip_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setTunnelDip_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setTunnelDip_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setTunnelDip_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTunnelDip_schema(void);
 void unbuild_action_spec_setTunnelDip(const pd_action_record *act,
     p4_pd_orbisk_switch_setTunnelDip_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setTunnelDip_value(const p4_pd_orbisk_switch_setTunnelDip_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setEgressMirrorSession_action_specs_are_equal(const p4_pd_orbisk_switch_setEgressMirrorSession_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setEgressMirrorSession_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setEgressMirrorSession_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setEgressMirrorSession_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEgressMirrorSession_schema(void);
 void unbuild_action_spec_setEgressMirrorSession(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgressMirrorSession_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setEgressMirrorSession_value(const p4_pd_orbisk_switch_setEgressMirrorSession_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setVxlanVniAndVti_action_specs_are_equal(const p4_pd_orbisk_switch_setVxlanVniAndVti_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setVxlanVniAndVti_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setVxlanVniAndVti_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setVxlanVniAndVti_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setVxlanVniAndVti_schema(void);
 void unbuild_action_spec_setVxlanVniAndVti(const pd_action_record *act,
     p4_pd_orbisk_switch_setVxlanVniAndVti_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setVxlanVniAndVti_value(const p4_pd_orbisk_switch_setVxlanVniAndVti_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_setInvalidVni_schema(void);
+int p4_pd_orbisk_switch_setInvalidVni_value(char *out);
+int p4_pd_orbisk_switch_setL2DomainReplicated_action_specs_are_equal(const p4_pd_orbisk_switch_setL2DomainReplicated_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setL2DomainReplicated_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setL2DomainReplicated_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setL2DomainReplicated_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setL2DomainReplicated_schema(void);
 void unbuild_action_spec_setL2DomainReplicated(const pd_action_record *act,
     p4_pd_orbisk_switch_setL2DomainReplicated_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setL2DomainReplicated_value(const p4_pd_orbisk_switch_setL2DomainReplicated_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_egressMirrorDrop_schema(void);
+int p4_pd_orbisk_switch_egressMirrorDrop_value(char *out);
 const char *p4_pd_orbisk_switch_setMirrorPacketEncapNone_schema(void);
+int p4_pd_orbisk_switch_setMirrorPacketEncapNone_value(char *out);
+int p4_pd_orbisk_switch_setMirrorPacketEncapCpu_action_specs_are_equal(const p4_pd_orbisk_switch_setMirrorPacketEncapCpu_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setMirrorPacketEncapCpu_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setMirrorPacketEncapCpu_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setMirrorPacketEncapCpu_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setMirrorPacketEncapCpu_schema(void);
 void unbuild_action_spec_setMirrorPacketEncapCpu(const pd_action_record *act,
     p4_pd_orbisk_switch_setMirrorPacketEncapCpu_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setMirrorPacketEncapCpu_value(const p4_pd_orbisk_switch_setMirrorPacketEncapCpu_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setMirrorPacketEncapGreIpv4_action_specs_are_equal(const p4_pd_orbisk_switch_setMirrorPacketEncapGreIpv4_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setMirrorPacketEncapGreIpv4_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setMirrorPacketEncapGreIpv4_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setMirrorPacketEncapGreIpv4_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setMirrorPacketEncapGreIpv4_schema(void);
 void unbuild_action_spec_setMirrorPacketEncapGreIpv4(const pd_action_record *act,
     p4_pd_orbisk_switch_setMirrorPacketEncapGreIpv4_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setMirrorPacketEncapGreIpv4_value(const p4_pd_orbisk_switch_setMirrorPacketEncapGreIpv4_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setTcDscp_action_specs_are_equal(const p4_pd_orbisk_switch_setTcDscp_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setTcDscp_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setTcDscp_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setTcDscp_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTcDscp_schema(void);
 void unbuild_action_spec_setTcDscp(const pd_action_record *act,
     p4_pd_orbisk_switch_setTcDscp_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setTcDscp_value(const p4_pd_orbisk_switch_setTcDscp_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setTranslatedDipNextHopAndCount_action_specs_are_equal(const p4_pd_orbisk_switch_setTranslatedDipNextHopAndCount_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setTranslatedDipNextHopAndCount_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setTranslatedDipNextHopAndCount_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setTranslatedDipNextHopAndCount_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedDipNextHopAndCount_schema(void);
 void unbuild_action_spec_setTranslatedDipNextHopAndCount(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipNextHopAndCount_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setTranslatedDipNextHopAndCount_value(const p4_pd_orbisk_switch_setTranslatedDipNextHopAndCount_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setTranslatedDipPortNextHopAndCount_action_specs_are_equal(const p4_pd_orbisk_switch_setTranslatedDipPortNextHopAndCount_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setTranslatedDipPortNextHopAndCount_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setTranslatedDipPortNextHopAndCount_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setTranslatedDipPortNextHopAndCount_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedDipPortNextHopAndCount_schema(void);
 void unbuild_action_spec_setTranslatedDipPortNextHopAndCount(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipPortNextHopAndCount_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setTranslatedDipPortNextHopAndCount_value(const p4_pd_orbisk_switch_setTranslatedDipPortNextHopAndCount_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setTranslatedDipNextHopEcmpAndCount_action_specs_are_equal(const p4_pd_orbisk_switch_setTranslatedDipNextHopEcmpAndCount_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setTranslatedDipNextHopEcmpAndCount_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setTranslatedDipNextHopEcmpAndCount_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setTranslatedDipNextHopEcmpAndCount_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedDipNextHopEcmpAndCount_schema(void);
 void unbuild_action_spec_setTranslatedDipNextHopEcmpAndCount(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipNextHopEcmpAndCount_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setTranslatedDipNextHopEcmpAndCount_value(const p4_pd_orbisk_switch_setTranslatedDipNextHopEcmpAndCount_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setTranslatedDipPortNextHopEcmpAndCount_action_specs_are_equal(const p4_pd_orbisk_switch_setTranslatedDipPortNextHopEcmpAndCount_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setTranslatedDipPortNextHopEcmpAndCount_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setTranslatedDipPortNextHopEcmpAndCount_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setTranslatedDipPortNextHopEcmpAndCount_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedDipPortNextHopEcmpAndCount_schema(void);
 void unbuild_action_spec_setTranslatedDipPortNextHopEcmpAndCount(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipPortNextHopEcmpAndCount_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setTranslatedDipPortNextHopEcmpAndCount_value(const p4_pd_orbisk_switch_setTranslatedDipPortNextHopEcmpAndCount_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setTranslatedDipNextHopEcmp_action_specs_are_equal(const p4_pd_orbisk_switch_setTranslatedDipNextHopEcmp_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setTranslatedDipNextHopEcmp_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setTranslatedDipNextHopEcmp_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setTranslatedDipNextHopEcmp_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedDipNextHopEcmp_schema(void);
 void unbuild_action_spec_setTranslatedDipNextHopEcmp(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedDipNextHopEcmp_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setTranslatedDipNextHopEcmp_value(const p4_pd_orbisk_switch_setTranslatedDipNextHopEcmp_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_haloKeyMaskedRow1Stage2_action_specs_are_equal(const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage2_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage2_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_haloKeyMaskedRow1Stage2_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage2_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_haloKeyMaskedRow1Stage2_schema(void);
 void unbuild_action_spec_haloKeyMaskedRow1Stage2(const pd_action_record *act,
     p4_pd_orbisk_switch_haloKeyMaskedRow1Stage2_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_haloKeyMaskedRow1Stage2_value(const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage2_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_setDscpForNonIpPkt_schema(void);
+int p4_pd_orbisk_switch_setDscpForNonIpPkt_value(char *out);
 const char *p4_pd_orbisk_switch_setDscpForTTNonIpPkt_schema(void);
+int p4_pd_orbisk_switch_setDscpForTTNonIpPkt_value(char *out);
 const char *p4_pd_orbisk_switch_setDscpForIpv4Pkt_schema(void);
+int p4_pd_orbisk_switch_setDscpForIpv4Pkt_value(char *out);
 const char *p4_pd_orbisk_switch_setDscpForIpv4OptionsPkt_schema(void);
+int p4_pd_orbisk_switch_setDscpForIpv4OptionsPkt_value(char *out);
 const char *p4_pd_orbisk_switch_setDscpForIpv6Pkt_schema(void);
+int p4_pd_orbisk_switch_setDscpForIpv6Pkt_value(char *out);
 const char *p4_pd_orbisk_switch_setInvalidEgressPort_schema(void);
+int p4_pd_orbisk_switch_setInvalidEgressPort_value(char *out);
+int p4_pd_orbisk_switch_setEgressPort_action_specs_are_equal(const p4_pd_orbisk_switch_setEgressPort_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setEgressPort_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setEgressPort_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setEgressPort_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEgressPort_schema(void);
 void unbuild_action_spec_setEgressPort(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgressPort_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setEgressPort_value(const p4_pd_orbisk_switch_setEgressPort_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_setDecapTypeVlan_schema(void);
+int p4_pd_orbisk_switch_setDecapTypeVlan_value(char *out);
 const char *p4_pd_orbisk_switch_removeOrbiskHdrs_schema(void);
+int p4_pd_orbisk_switch_removeOrbiskHdrs_value(char *out);
+int p4_pd_orbisk_switch_setEifIngPolicy_action_specs_are_equal(const p4_pd_orbisk_switch_setEifIngPolicy_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setEifIngPolicy_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setEifIngPolicy_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setEifIngPolicy_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEifIngPolicy_schema(void);
 void unbuild_action_spec_setEifIngPolicy(const pd_action_record *act,
     p4_pd_orbisk_switch_setEifIngPolicy_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setEifIngPolicy_value(const p4_pd_orbisk_switch_setEifIngPolicy_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_ipv6LgMaskFinalResolveDefaultFirst_schema(void);
+int p4_pd_orbisk_switch_ipv6LgMaskFinalResolveDefaultFirst_value(char *out);
+int p4_pd_orbisk_switch_setV6NextHop0First_action_specs_are_equal(const p4_pd_orbisk_switch_setV6NextHop0First_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setV6NextHop0First_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setV6NextHop0First_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setV6NextHop0First_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setV6NextHop0First_schema(void);
 void unbuild_action_spec_setV6NextHop0First(const pd_action_record *act,
     p4_pd_orbisk_switch_setV6NextHop0First_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setV6NextHop0First_value(const p4_pd_orbisk_switch_setV6NextHop0First_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setV6NextHop2First_action_specs_are_equal(const p4_pd_orbisk_switch_setV6NextHop2First_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setV6NextHop2First_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setV6NextHop2First_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setV6NextHop2First_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setV6NextHop2First_schema(void);
 void unbuild_action_spec_setV6NextHop2First(const pd_action_record *act,
     p4_pd_orbisk_switch_setV6NextHop2First_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setV6NextHop2First_value(const p4_pd_orbisk_switch_setV6NextHop2First_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setV6NextHop3First_action_specs_are_equal(const p4_pd_orbisk_switch_setV6NextHop3First_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setV6NextHop3First_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setV6NextHop3First_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setV6NextHop3First_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setV6NextHop3First_schema(void);
 void unbuild_action_spec_setV6NextHop3First(const pd_action_record *act,
     p4_pd_orbisk_switch_setV6NextHop3First_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setV6NextHop3First_value(const p4_pd_orbisk_switch_setV6NextHop3First_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setV6NextHop1First_action_specs_are_equal(const p4_pd_orbisk_switch_setV6NextHop1First_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setV6NextHop1First_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setV6NextHop1First_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setV6NextHop1First_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setV6NextHop1First_schema(void);
 void unbuild_action_spec_setV6NextHop1First(const pd_action_record *act,
     p4_pd_orbisk_switch_setV6NextHop1First_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setV6NextHop1First_value(const p4_pd_orbisk_switch_setV6NextHop1First_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setIpv6PrtIdxNextHop_action_specs_are_equal(const p4_pd_orbisk_switch_setIpv6PrtIdxNextHop_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setIpv6PrtIdxNextHop_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setIpv6PrtIdxNextHop_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setIpv6PrtIdxNextHop_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIpv6PrtIdxNextHop_schema(void);
 void unbuild_action_spec_setIpv6PrtIdxNextHop(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpv6PrtIdxNextHop_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setIpv6PrtIdxNextHop_value(const p4_pd_orbisk_switch_setIpv6PrtIdxNextHop_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setIpv6PrtIdxNextHop2_action_specs_are_equal(const p4_pd_orbisk_switch_setIpv6PrtIdxNextHop2_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setIpv6PrtIdxNextHop2_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setIpv6PrtIdxNextHop2_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setIpv6PrtIdxNextHop2_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIpv6PrtIdxNextHop2_schema(void);
 void unbuild_action_spec_setIpv6PrtIdxNextHop2(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpv6PrtIdxNextHop2_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setIpv6PrtIdxNextHop2_value(const p4_pd_orbisk_switch_setIpv6PrtIdxNextHop2_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setIpv6PrtIdxNextHop3_action_specs_are_equal(const p4_pd_orbisk_switch_setIpv6PrtIdxNextHop3_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setIpv6PrtIdxNextHop3_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setIpv6PrtIdxNextHop3_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setIpv6PrtIdxNextHop3_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIpv6PrtIdxNextHop3_schema(void);
 void unbuild_action_spec_setIpv6PrtIdxNextHop3(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpv6PrtIdxNextHop3_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setIpv6PrtIdxNextHop3_value(const p4_pd_orbisk_switch_setIpv6PrtIdxNextHop3_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setIpv6PrtIdxEcmp_action_specs_are_equal(const p4_pd_orbisk_switch_setIpv6PrtIdxEcmp_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setIpv6PrtIdxEcmp_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setIpv6PrtIdxEcmp_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setIpv6PrtIdxEcmp_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIpv6PrtIdxEcmp_schema(void);
 void unbuild_action_spec_setIpv6PrtIdxEcmp(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpv6PrtIdxEcmp_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setIpv6PrtIdxEcmp_value(const p4_pd_orbisk_switch_setIpv6PrtIdxEcmp_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_setFibMiss_schema(void);
+int p4_pd_orbisk_switch_setFibMiss_value(char *out);
+int p4_pd_orbisk_switch_setEgrLagMemberSelector_action_specs_are_equal(const p4_pd_orbisk_switch_setEgrLagMemberSelector_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setEgrLagMemberSelector_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setEgrLagMemberSelector_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setEgrLagMemberSelector_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEgrLagMemberSelector_schema(void);
 void unbuild_action_spec_setEgrLagMemberSelector(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrLagMemberSelector_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setEgrLagMemberSelector_value(const p4_pd_orbisk_switch_setEgrLagMemberSelector_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelCommon_action_specs_are_equal(const p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelCommon_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelCommon_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelCommon_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelCommon_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelCommon_schema(void);
 void unbuild_action_spec_setGlobalFieldsForVxlanTunnelCommon(const pd_action_record *act,
     p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelCommon_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelCommon_value(const p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelCommon_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4_action_specs_are_equal(const p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4_schema(void);
 void unbuild_action_spec_setGlobalFieldsForVxlanTunnelIpv4(const pd_action_record *act,
     p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4_value(const p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_action_specs_are_equal(const p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_schema(void);
 void unbuild_action_spec_setGlobalFieldsForVxlanTunnelIpv4UseDipB(const pd_action_record *act,
     p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_value(const p4_pd_orbisk_switch_setGlobalFieldsForVxlanTunnelIpv4UseDipB_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_setTunnelL2InfoDefault_schema(void);
+int p4_pd_orbisk_switch_setTunnelL2InfoDefault_value(char *out);
+int p4_pd_orbisk_switch_setTunnelL2Info_action_specs_are_equal(const p4_pd_orbisk_switch_setTunnelL2Info_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setTunnelL2Info_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setTunnelL2Info_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setTunnelL2Info_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTunnelL2Info_schema(void);
 void unbuild_action_spec_setTunnelL2Info(const pd_action_record *act,
     p4_pd_orbisk_switch_setTunnelL2Info_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setTunnelL2Info_value(const p4_pd_orbisk_switch_setTunnelL2Info_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_l2LookupKnownUcast_action_specs_are_equal(const p4_pd_orbisk_switch_l2LookupKnownUcast_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_l2LookupKnownUcast_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_l2LookupKnownUcast_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_l2LookupKnownUcast_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_l2LookupKnownUcast_schema(void);
 void unbuild_action_spec_l2LookupKnownUcast(const pd_action_record *act,
     p4_pd_orbisk_switch_l2LookupKnownUcast_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_l2LookupKnownUcast_value(const p4_pd_orbisk_switch_l2LookupKnownUcast_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_l2LookupKnownMcast_action_specs_are_equal(const p4_pd_orbisk_switch_l2LookupKnownMcast_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_l2LookupKnownMcast_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_l2LookupKnownMcast_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_l2LookupKnownMcast_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_l2LookupKnownMcast_schema(void);
 void unbuild_action_spec_l2LookupKnownMcast(const pd_action_record *act,
     p4_pd_orbisk_switch_l2LookupKnownMcast_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_l2LookupKnownMcast_value(const p4_pd_orbisk_switch_l2LookupKnownMcast_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_l2LookupKnownUcastTunnel_action_specs_are_equal(const p4_pd_orbisk_switch_l2LookupKnownUcastTunnel_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_l2LookupKnownUcastTunnel_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_l2LookupKnownUcastTunnel_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_l2LookupKnownUcastTunnel_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_l2LookupKnownUcastTunnel_schema(void);
 void unbuild_action_spec_l2LookupKnownUcastTunnel(const pd_action_record *act,
     p4_pd_orbisk_switch_l2LookupKnownUcastTunnel_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_l2LookupKnownUcastTunnel_value(const p4_pd_orbisk_switch_l2LookupKnownUcastTunnel_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_l2LookupDrop_schema(void);
+int p4_pd_orbisk_switch_l2LookupDrop_value(char *out);
 const char *p4_pd_orbisk_switch_l2LookupBcastHit_schema(void);
+int p4_pd_orbisk_switch_l2LookupBcastHit_value(char *out);
 const char *p4_pd_orbisk_switch_l2LookupUnknownMcastAction_schema(void);
+int p4_pd_orbisk_switch_l2LookupUnknownMcastAction_value(char *out);
 const char *p4_pd_orbisk_switch_l2LookupUnknownUcastAction_schema(void);
+int p4_pd_orbisk_switch_l2LookupUnknownUcastAction_value(char *out);
 const char *p4_pd_orbisk_switch_nop_schema(void);
+int p4_pd_orbisk_switch_nop_value(char *out);
+int p4_pd_orbisk_switch_haloSetBestResultRow1_action_specs_are_equal(const p4_pd_orbisk_switch_haloSetBestResultRow1_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_haloSetBestResultRow1_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_haloSetBestResultRow1_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_haloSetBestResultRow1_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_haloSetBestResultRow1_schema(void);
 void unbuild_action_spec_haloSetBestResultRow1(const pd_action_record *act,
     p4_pd_orbisk_switch_haloSetBestResultRow1_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_haloSetBestResultRow1_value(const p4_pd_orbisk_switch_haloSetBestResultRow1_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_haloKeyMaskedRow1Stage3_action_specs_are_equal(const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage3_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage3_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_haloKeyMaskedRow1Stage3_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage3_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_haloKeyMaskedRow1Stage3_schema(void);
 void unbuild_action_spec_haloKeyMaskedRow1Stage3(const pd_action_record *act,
     p4_pd_orbisk_switch_haloKeyMaskedRow1Stage3_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_haloKeyMaskedRow1Stage3_value(const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage3_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_setDropVarpVxlan_schema(void);
+int p4_pd_orbisk_switch_setDropVarpVxlan_value(char *out);
 const char *p4_pd_orbisk_switch_cancelVxlanDecap_schema(void);
+int p4_pd_orbisk_switch_cancelVxlanDecap_value(char *out);
+int p4_pd_orbisk_switch_setCosFromDefault_action_specs_are_equal(const p4_pd_orbisk_switch_setCosFromDefault_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setCosFromDefault_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setCosFromDefault_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setCosFromDefault_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setCosFromDefault_schema(void);
 void unbuild_action_spec_setCosFromDefault(const pd_action_record *act,
     p4_pd_orbisk_switch_setCosFromDefault_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setCosFromDefault_value(const p4_pd_orbisk_switch_setCosFromDefault_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setCosFromPacket_action_specs_are_equal(const p4_pd_orbisk_switch_setCosFromPacket_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setCosFromPacket_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setCosFromPacket_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setCosFromPacket_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setCosFromPacket_schema(void);
 void unbuild_action_spec_setCosFromPacket(const pd_action_record *act,
     p4_pd_orbisk_switch_setCosFromPacket_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setCosFromPacket_value(const p4_pd_orbisk_switch_setCosFromPacket_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setCosFromPacketWithInner_action_specs_are_equal(const p4_pd_orbisk_switch_setCosFromPacketWithInner_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setCosFromPacketWithInner_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setCosFromPacketWithInner_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setCosFromPacketWithInner_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setCosFromPacketWithInner_schema(void);
 void unbuild_action_spec_setCosFromPacketWithInner(const pd_action_record *act,
     p4_pd_orbisk_switch_setCosFromPacketWithInner_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setCosFromPacketWithInner_value(const p4_pd_orbisk_switch_setCosFromPacketWithInner_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_hashComputeOuterIpv4HdrAction_schema(void);
+int p4_pd_orbisk_switch_hashComputeOuterIpv4HdrAction_value(char *out);
 const char *p4_pd_orbisk_switch_hashComputeOuterIpv6HdrAction_schema(void);
+int p4_pd_orbisk_switch_hashComputeOuterIpv6HdrAction_value(char *out);
 const char *p4_pd_orbisk_switch_hashComputeInnerEthHdrAction_schema(void);
+int p4_pd_orbisk_switch_hashComputeInnerEthHdrAction_value(char *out);
 const char *p4_pd_orbisk_switch_dropDatalink_schema(void);
+int p4_pd_orbisk_switch_dropDatalink_value(char *out);
+int p4_pd_orbisk_switch_setIngressMirrorSession_action_specs_are_equal(const p4_pd_orbisk_switch_setIngressMirrorSession_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setIngressMirrorSession_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setIngressMirrorSession_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setIngressMirrorSession_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIngressMirrorSession_schema(void);
 void unbuild_action_spec_setIngressMirrorSession(const pd_action_record *act,
     p4_pd_orbisk_switch_setIngressMirrorSession_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setIngressMirrorSession_value(const p4_pd_orbisk_switch_setIngressMirrorSession_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_noDecapNoEncapRouteIpv4_action_specs_are_equal(const p4_pd_orbisk_switch_noDecapNoEncapRouteIpv4_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_noDecapNoEncapRouteIpv4_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_noDecapNoEncapRouteIpv4_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_noDecapNoEncapRouteIpv4_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_noDecapNoEncapRouteIpv4_schema(void);
 void unbuild_action_spec_noDecapNoEncapRouteIpv4(const pd_action_record *act,
     p4_pd_orbisk_switch_noDecapNoEncapRouteIpv4_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_noDecapNoEncapRouteIpv4_value(const p4_pd_orbisk_switch_noDecapNoEncapRouteIpv4_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_noDecapNoEncapRouteIpv6_action_specs_are_equal(const p4_pd_orbisk_switch_noDecapNoEncapRouteIpv6_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_noDecapNoEncapRouteIpv6_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_noDecapNoEncapRouteIpv6_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_noDecapNoEncapRouteIpv6_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_noDecapNoEncapRouteIpv6_schema(void);
 void unbuild_action_spec_noDecapNoEncapRouteIpv6(const pd_action_record *act,
     p4_pd_orbisk_switch_noDecapNoEncapRouteIpv6_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_noDecapNoEncapRouteIpv6_value(const p4_pd_orbisk_switch_noDecapNoEncapRouteIpv6_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_noDecapNoEncapBridge_schema(void);
+int p4_pd_orbisk_switch_noDecapNoEncapBridge_value(char *out);
 const char *p4_pd_orbisk_switch_decapPPIPktFromCpu_schema(void);
+int p4_pd_orbisk_switch_decapPPIPktFromCpu_value(char *out);
+int p4_pd_orbisk_switch_encapVxlanRouteIpv4_action_specs_are_equal(const p4_pd_orbisk_switch_encapVxlanRouteIpv4_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_encapVxlanRouteIpv4_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_encapVxlanRouteIpv4_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_encapVxlanRouteIpv4_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_encapVxlanRouteIpv4_schema(void);
 void unbuild_action_spec_encapVxlanRouteIpv4(const pd_action_record *act,
     p4_pd_orbisk_switch_encapVxlanRouteIpv4_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_encapVxlanRouteIpv4_value(const p4_pd_orbisk_switch_encapVxlanRouteIpv4_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_encapVxlanRouteIpv6_action_specs_are_equal(const p4_pd_orbisk_switch_encapVxlanRouteIpv6_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_encapVxlanRouteIpv6_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_encapVxlanRouteIpv6_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_encapVxlanRouteIpv6_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_encapVxlanRouteIpv6_schema(void);
 void unbuild_action_spec_encapVxlanRouteIpv6(const pd_action_record *act,
     p4_pd_orbisk_switch_encapVxlanRouteIpv6_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_encapVxlanRouteIpv6_value(const p4_pd_orbisk_switch_encapVxlanRouteIpv6_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_noDecapEncapVxlanL2_action_specs_are_equal(const p4_pd_orbisk_switch_noDecapEncapVxlanL2_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_noDecapEncapVxlanL2_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_noDecapEncapVxlanL2_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_noDecapEncapVxlanL2_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_noDecapEncapVxlanL2_schema(void);
 void unbuild_action_spec_noDecapEncapVxlanL2(const pd_action_record *act,
     p4_pd_orbisk_switch_noDecapEncapVxlanL2_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_noDecapEncapVxlanL2_value(const p4_pd_orbisk_switch_noDecapEncapVxlanL2_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_normalizeEthHdr_schema(void);
+int p4_pd_orbisk_switch_normalizeEthHdr_value(char *out);
+int p4_pd_orbisk_switch_setEgressMirrorColor_action_specs_are_equal(const p4_pd_orbisk_switch_setEgressMirrorColor_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setEgressMirrorColor_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setEgressMirrorColor_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setEgressMirrorColor_action_spec_t *action_spec);
@@ -23015,236 +26202,441 @@ void unbuild_action_spec_setEgressMirrorColor(const pd_action_record *act,
     const pd_resource_index *resources,
     uint32_t num_resources,
     p4_pd_orbisk_switch_setEgressMirrorColor_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setEgressMirrorColor_value(const p4_pd_orbisk_switch_setEgressMirrorColor_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_setEgressMirrorColorRed_schema(void);
+int p4_pd_orbisk_switch_setEgressMirrorColorRed_value(char *out);
 const char *p4_pd_orbisk_switch_generateMacLearningDigest_schema(void);
+int p4_pd_orbisk_switch_generateMacLearningDigest_value(char *out);
 const char *p4_pd_orbisk_switch_generateVtepLearningDigest_schema(void);
+int p4_pd_orbisk_switch_generateVtepLearningDigest_value(char *out);
 const char *p4_pd_orbisk_switch_dot1xTrap_schema(void);
+int p4_pd_orbisk_switch_dot1xTrap_value(char *out);
 const char *p4_pd_orbisk_switch_dot1xDrop_schema(void);
+int p4_pd_orbisk_switch_dot1xDrop_value(char *out);
 const char *p4_pd_orbisk_switch_resetApplicationId_schema(void);
+int p4_pd_orbisk_switch_resetApplicationId_value(char *out);
+int p4_pd_orbisk_switch_haloKeyMaskedRow1Stage4_action_specs_are_equal(const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage4_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage4_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_haloKeyMaskedRow1Stage4_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage4_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_haloKeyMaskedRow1Stage4_schema(void);
 void unbuild_action_spec_haloKeyMaskedRow1Stage4(const pd_action_record *act,
     p4_pd_orbisk_switch_haloKeyMaskedRow1Stage4_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_haloKeyMaskedRow1Stage4_value(const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage4_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_hashComputeIpAndL4HdrAction_schema(void);
+int p4_pd_orbisk_switch_hashComputeIpAndL4HdrAction_value(char *out);
+int p4_pd_orbisk_switch_setTrafficClassAndEgressQid_action_specs_are_equal(const p4_pd_orbisk_switch_setTrafficClassAndEgressQid_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setTrafficClassAndEgressQid_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setTrafficClassAndEgressQid_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setTrafficClassAndEgressQid_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTrafficClassAndEgressQid_schema(void);
 void unbuild_action_spec_setTrafficClassAndEgressQid(const pd_action_record *act,
     p4_pd_orbisk_switch_setTrafficClassAndEgressQid_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setTrafficClassAndEgressQid_value(const p4_pd_orbisk_switch_setTrafficClassAndEgressQid_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setL2McResult_action_specs_are_equal(const p4_pd_orbisk_switch_setL2McResult_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setL2McResult_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setL2McResult_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setL2McResult_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setL2McResult_schema(void);
 void unbuild_action_spec_setL2McResult(const pd_action_record *act,
     p4_pd_orbisk_switch_setL2McResult_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setL2McResult_value(const p4_pd_orbisk_switch_setL2McResult_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_copyHashFromCpuHdr_schema(void);
+int p4_pd_orbisk_switch_copyHashFromCpuHdr_value(char *out);
+int p4_pd_orbisk_switch_setEgrVlan_action_specs_are_equal(const p4_pd_orbisk_switch_setEgrVlan_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setEgrVlan_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setEgrVlan_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setEgrVlan_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEgrVlan_schema(void);
 void unbuild_action_spec_setEgrVlan(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrVlan_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setEgrVlan_value(const p4_pd_orbisk_switch_setEgrVlan_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setEgrVlanSubIntf_action_specs_are_equal(const p4_pd_orbisk_switch_setEgrVlanSubIntf_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setEgrVlanSubIntf_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setEgrVlanSubIntf_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setEgrVlanSubIntf_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEgrVlanSubIntf_schema(void);
 void unbuild_action_spec_setEgrVlanSubIntf(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrVlanSubIntf_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setEgrVlanSubIntf_value(const p4_pd_orbisk_switch_setEgrVlanSubIntf_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_noXlate_schema(void);
+int p4_pd_orbisk_switch_noXlate_value(char *out);
+int p4_pd_orbisk_switch_setEncapSmac_action_specs_are_equal(const p4_pd_orbisk_switch_setEncapSmac_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setEncapSmac_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setEncapSmac_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setEncapSmac_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEncapSmac_schema(void);
 void unbuild_action_spec_setEncapSmac(const pd_action_record *act,
     p4_pd_orbisk_switch_setEncapSmac_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setEncapSmac_value(const p4_pd_orbisk_switch_setEncapSmac_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_encapPktToCpu_action_specs_are_equal(const p4_pd_orbisk_switch_encapPktToCpu_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_encapPktToCpu_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_encapPktToCpu_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_encapPktToCpu_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_encapPktToCpu_schema(void);
 void unbuild_action_spec_encapPktToCpu(const pd_action_record *act,
     p4_pd_orbisk_switch_encapPktToCpu_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_encapPktToCpu_value(const p4_pd_orbisk_switch_encapPktToCpu_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_encapPktToDpdk_action_specs_are_equal(const p4_pd_orbisk_switch_encapPktToDpdk_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_encapPktToDpdk_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_encapPktToDpdk_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_encapPktToDpdk_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_encapPktToDpdk_schema(void);
 void unbuild_action_spec_encapPktToDpdk(const pd_action_record *act,
     p4_pd_orbisk_switch_encapPktToDpdk_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_encapPktToDpdk_value(const p4_pd_orbisk_switch_encapPktToDpdk_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_egressSamePortBridgingTestDrop_schema(void);
+int p4_pd_orbisk_switch_egressSamePortBridgingTestDrop_value(char *out);
+int p4_pd_orbisk_switch_setOvoIntfDetails_action_specs_are_equal(const p4_pd_orbisk_switch_setOvoIntfDetails_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setOvoIntfDetails_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setOvoIntfDetails_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setOvoIntfDetails_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setOvoIntfDetails_schema(void);
 void unbuild_action_spec_setOvoIntfDetails(const pd_action_record *act,
     p4_pd_orbisk_switch_setOvoIntfDetails_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setOvoIntfDetails_value(const p4_pd_orbisk_switch_setOvoIntfDetails_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_setEgrIntfInfo_schema(void);
+int p4_pd_orbisk_switch_setEgrIntfInfo_value(char *out);
 const char *p4_pd_orbisk_switch_noTunnelIpv4_schema(void);
+int p4_pd_orbisk_switch_noTunnelIpv4_value(char *out);
 const char *p4_pd_orbisk_switch_noTunnelIpv6_schema(void);
+int p4_pd_orbisk_switch_noTunnelIpv6_value(char *out);
 const char *p4_pd_orbisk_switch_onlyDecapInnerIpv4_schema(void);
+int p4_pd_orbisk_switch_onlyDecapInnerIpv4_value(char *out);
 const char *p4_pd_orbisk_switch_onlyDecapInnerIpv6_schema(void);
+int p4_pd_orbisk_switch_onlyDecapInnerIpv6_value(char *out);
 const char *p4_pd_orbisk_switch_encapOuterIpv4_schema(void);
+int p4_pd_orbisk_switch_encapOuterIpv4_value(char *out);
 const char *p4_pd_orbisk_switch_encapOuterIpv4InnerIpv4_schema(void);
+int p4_pd_orbisk_switch_encapOuterIpv4InnerIpv4_value(char *out);
 const char *p4_pd_orbisk_switch_encapOuterIpv4InnerIpv6_schema(void);
+int p4_pd_orbisk_switch_encapOuterIpv4InnerIpv6_value(char *out);
 const char *p4_pd_orbisk_switch_setHashValuesLagOuterEthHdr_schema(void);
+int p4_pd_orbisk_switch_setHashValuesLagOuterEthHdr_value(char *out);
 const char *p4_pd_orbisk_switch_setHashValuesLagOuterIpHdr_schema(void);
+int p4_pd_orbisk_switch_setHashValuesLagOuterIpHdr_value(char *out);
 const char *p4_pd_orbisk_switch_setHashValuesLagOuterL4Hdr_schema(void);
+int p4_pd_orbisk_switch_setHashValuesLagOuterL4Hdr_value(char *out);
 const char *p4_pd_orbisk_switch_setHashValuesLagInnerEthHdr_schema(void);
+int p4_pd_orbisk_switch_setHashValuesLagInnerEthHdr_value(char *out);
 const char *p4_pd_orbisk_switch_setHashValuesLagInnerIpHdr_schema(void);
+int p4_pd_orbisk_switch_setHashValuesLagInnerIpHdr_value(char *out);
 const char *p4_pd_orbisk_switch_setHashValuesLagInnerL4Hdr_schema(void);
+int p4_pd_orbisk_switch_setHashValuesLagInnerL4Hdr_value(char *out);
 const char *p4_pd_orbisk_switch_setHashValuesEcmpOuterIpHdr_schema(void);
+int p4_pd_orbisk_switch_setHashValuesEcmpOuterIpHdr_value(char *out);
 const char *p4_pd_orbisk_switch_setHashValuesEcmpOuterL4Hdr_schema(void);
+int p4_pd_orbisk_switch_setHashValuesEcmpOuterL4Hdr_value(char *out);
 const char *p4_pd_orbisk_switch_setHashValuesEcmpInnerIpHdr_schema(void);
+int p4_pd_orbisk_switch_setHashValuesEcmpInnerIpHdr_value(char *out);
 const char *p4_pd_orbisk_switch_setHashValuesEcmpInnerL4Hdr_schema(void);
+int p4_pd_orbisk_switch_setHashValuesEcmpInnerL4Hdr_value(char *out);
 const char *p4_pd_orbisk_switch_setHashValuesEcmpInnerEthHdr_schema(void);
+int p4_pd_orbisk_switch_setHashValuesEcmpInnerEthHdr_value(char *out);
+int p4_pd_orbisk_switch_haloKeyMaskedRow1Stage5_action_specs_are_equal(const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage5_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage5_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_haloKeyMaskedRow1Stage5_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage5_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_haloKeyMaskedRow1Stage5_schema(void);
 void unbuild_action_spec_haloKeyMaskedRow1Stage5(const pd_action_record *act,
     p4_pd_orbisk_switch_haloKeyMaskedRow1Stage5_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_haloKeyMaskedRow1Stage5_value(const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage5_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setIpv4GroupVlanIndex_action_specs_are_equal(const p4_pd_orbisk_switch_setIpv4GroupVlanIndex_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setIpv4GroupVlanIndex_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setIpv4GroupVlanIndex_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setIpv4GroupVlanIndex_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIpv4GroupVlanIndex_schema(void);
 void unbuild_action_spec_setIpv4GroupVlanIndex(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpv4GroupVlanIndex_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setIpv4GroupVlanIndex_value(const p4_pd_orbisk_switch_setIpv4GroupVlanIndex_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_trapPacket_action_specs_are_equal(const p4_pd_orbisk_switch_trapPacket_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_trapPacket_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_trapPacket_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_trapPacket_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_trapPacket_schema(void);
 void unbuild_action_spec_trapPacket(const pd_action_record *act,
     p4_pd_orbisk_switch_trapPacket_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_trapPacket_value(const p4_pd_orbisk_switch_trapPacket_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_copyPacket_action_specs_are_equal(const p4_pd_orbisk_switch_copyPacket_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_copyPacket_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_copyPacket_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_copyPacket_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_copyPacket_schema(void);
 void unbuild_action_spec_copyPacket(const pd_action_record *act,
     p4_pd_orbisk_switch_copyPacket_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_copyPacket_value(const p4_pd_orbisk_switch_copyPacket_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_setLlm_schema(void);
+int p4_pd_orbisk_switch_setLlm_value(char *out);
+int p4_pd_orbisk_switch_copyCosRewriteDscp_action_specs_are_equal(const p4_pd_orbisk_switch_copyCosRewriteDscp_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_copyCosRewriteDscp_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_copyCosRewriteDscp_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_copyCosRewriteDscp_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_copyCosRewriteDscp_schema(void);
 void unbuild_action_spec_copyCosRewriteDscp(const pd_action_record *act,
     p4_pd_orbisk_switch_copyCosRewriteDscp_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_copyCosRewriteDscp_value(const p4_pd_orbisk_switch_copyCosRewriteDscp_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_rewriteCosCopyDscp_action_specs_are_equal(const p4_pd_orbisk_switch_rewriteCosCopyDscp_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_rewriteCosCopyDscp_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_rewriteCosCopyDscp_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_rewriteCosCopyDscp_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_rewriteCosCopyDscp_schema(void);
 void unbuild_action_spec_rewriteCosCopyDscp(const pd_action_record *act,
     p4_pd_orbisk_switch_rewriteCosCopyDscp_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_rewriteCosCopyDscp_value(const p4_pd_orbisk_switch_rewriteCosCopyDscp_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_rewriteCosRewriteDscp_action_specs_are_equal(const p4_pd_orbisk_switch_rewriteCosRewriteDscp_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_rewriteCosRewriteDscp_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_rewriteCosRewriteDscp_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_rewriteCosRewriteDscp_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_rewriteCosRewriteDscp_schema(void);
 void unbuild_action_spec_rewriteCosRewriteDscp(const pd_action_record *act,
     p4_pd_orbisk_switch_rewriteCosRewriteDscp_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_rewriteCosRewriteDscp_value(const p4_pd_orbisk_switch_rewriteCosRewriteDscp_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_egrStpAction_schema(void);
+int p4_pd_orbisk_switch_egrStpAction_value(char *out);
 const char *p4_pd_orbisk_switch_egrVlanAction_schema(void);
+int p4_pd_orbisk_switch_egrVlanAction_value(char *out);
 const char *p4_pd_orbisk_switch_decapIngressDefault_schema(void);
+int p4_pd_orbisk_switch_decapIngressDefault_value(char *out);
 const char *p4_pd_orbisk_switch_removeOuterIpv4Hdr_schema(void);
+int p4_pd_orbisk_switch_removeOuterIpv4Hdr_value(char *out);
 const char *p4_pd_orbisk_switch_removeOuterIpv6Hdr_schema(void);
+int p4_pd_orbisk_switch_removeOuterIpv6Hdr_value(char *out);
 const char *p4_pd_orbisk_switch_saveOuterIpv4Ecn_schema(void);
+int p4_pd_orbisk_switch_saveOuterIpv4Ecn_value(char *out);
 const char *p4_pd_orbisk_switch_saveOuterIpv6Ecn_schema(void);
+int p4_pd_orbisk_switch_saveOuterIpv6Ecn_value(char *out);
 const char *p4_pd_orbisk_switch_decapIngressVxlan_schema(void);
+int p4_pd_orbisk_switch_decapIngressVxlan_value(char *out);
+int p4_pd_orbisk_switch_setEgrPortVlan_action_specs_are_equal(const p4_pd_orbisk_switch_setEgrPortVlan_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setEgrPortVlan_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setEgrPortVlan_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setEgrPortVlan_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEgrPortVlan_schema(void);
 void unbuild_action_spec_setEgrPortVlan(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrPortVlan_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setEgrPortVlan_value(const p4_pd_orbisk_switch_setEgrPortVlan_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setEgrPortVlanKernel_action_specs_are_equal(const p4_pd_orbisk_switch_setEgrPortVlanKernel_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setEgrPortVlanKernel_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setEgrPortVlanKernel_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setEgrPortVlanKernel_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEgrPortVlanKernel_schema(void);
 void unbuild_action_spec_setEgrPortVlanKernel(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrPortVlanKernel_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setEgrPortVlanKernel_value(const p4_pd_orbisk_switch_setEgrPortVlanKernel_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setEgrPortL2Domain_action_specs_are_equal(const p4_pd_orbisk_switch_setEgrPortL2Domain_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setEgrPortL2Domain_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setEgrPortL2Domain_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setEgrPortL2Domain_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEgrPortL2Domain_schema(void);
 void unbuild_action_spec_setEgrPortL2Domain(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrPortL2Domain_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setEgrPortL2Domain_value(const p4_pd_orbisk_switch_setEgrPortL2Domain_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setEgrPortL2DomainKernel_action_specs_are_equal(const p4_pd_orbisk_switch_setEgrPortL2DomainKernel_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setEgrPortL2DomainKernel_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setEgrPortL2DomainKernel_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setEgrPortL2DomainKernel_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEgrPortL2DomainKernel_schema(void);
 void unbuild_action_spec_setEgrPortL2DomainKernel(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrPortL2DomainKernel_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setEgrPortL2DomainKernel_value(const p4_pd_orbisk_switch_setEgrPortL2DomainKernel_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_setDefaultEgrPortVlan_schema(void);
+int p4_pd_orbisk_switch_setDefaultEgrPortVlan_value(char *out);
 const char *p4_pd_orbisk_switch_setNatCpuHeaderSnat_schema(void);
+int p4_pd_orbisk_switch_setNatCpuHeaderSnat_value(char *out);
 const char *p4_pd_orbisk_switch_setNatCpuHeaderDnat_schema(void);
+int p4_pd_orbisk_switch_setNatCpuHeaderDnat_value(char *out);
 const char *p4_pd_orbisk_switch_setNatCpuHeaderTwice_schema(void);
+int p4_pd_orbisk_switch_setNatCpuHeaderTwice_value(char *out);
+int p4_pd_orbisk_switch_setFoldedPipeQid_action_specs_are_equal(const p4_pd_orbisk_switch_setFoldedPipeQid_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setFoldedPipeQid_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setFoldedPipeQid_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setFoldedPipeQid_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setFoldedPipeQid_schema(void);
 void unbuild_action_spec_setFoldedPipeQid(const pd_action_record *act,
     p4_pd_orbisk_switch_setFoldedPipeQid_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setFoldedPipeQid_value(const p4_pd_orbisk_switch_setFoldedPipeQid_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setLagMemberSelector_action_specs_are_equal(const p4_pd_orbisk_switch_setLagMemberSelector_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setLagMemberSelector_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setLagMemberSelector_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setLagMemberSelector_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setLagMemberSelector_schema(void);
 void unbuild_action_spec_setLagMemberSelector(const pd_action_record *act,
     p4_pd_orbisk_switch_setLagMemberSelector_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setLagMemberSelector_value(const p4_pd_orbisk_switch_setLagMemberSelector_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_haloKeyMaskedRow1Stage6_action_specs_are_equal(const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage6_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage6_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_haloKeyMaskedRow1Stage6_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage6_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_haloKeyMaskedRow1Stage6_schema(void);
 void unbuild_action_spec_haloKeyMaskedRow1Stage6(const pd_action_record *act,
     p4_pd_orbisk_switch_haloKeyMaskedRow1Stage6_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_haloKeyMaskedRow1Stage6_value(const p4_pd_orbisk_switch_haloKeyMaskedRow1Stage6_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setIpmcResult_action_specs_are_equal(const p4_pd_orbisk_switch_setIpmcResult_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setIpmcResult_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setIpmcResult_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setIpmcResult_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIpmcResult_schema(void);
 void unbuild_action_spec_setIpmcResult(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpmcResult_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setIpmcResult_value(const p4_pd_orbisk_switch_setIpmcResult_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_samePortBridgingTestAction_schema(void);
+int p4_pd_orbisk_switch_samePortBridgingTestAction_value(char *out);
 const char *p4_pd_orbisk_switch_setMlagPrune_schema(void);
+int p4_pd_orbisk_switch_setMlagPrune_value(char *out);
 const char *p4_pd_orbisk_switch_setEgressDrop_schema(void);
+int p4_pd_orbisk_switch_setEgressDrop_value(char *out);
 const char *p4_pd_orbisk_switch_egressMirrorAction_schema(void);
+int p4_pd_orbisk_switch_egressMirrorAction_value(char *out);
 const char *p4_pd_orbisk_switch_noVlanEncap_schema(void);
+int p4_pd_orbisk_switch_noVlanEncap_value(char *out);
 const char *p4_pd_orbisk_switch_needVlanEncap_schema(void);
+int p4_pd_orbisk_switch_needVlanEncap_value(char *out);
 const char *p4_pd_orbisk_switch_discardHaloResult_schema(void);
+int p4_pd_orbisk_switch_discardHaloResult_value(char *out);
+int p4_pd_orbisk_switch_finalizeMcResultIpmc_action_specs_are_equal(const p4_pd_orbisk_switch_finalizeMcResultIpmc_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_finalizeMcResultIpmc_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_finalizeMcResultIpmc_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_finalizeMcResultIpmc_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_finalizeMcResultIpmc_schema(void);
 void unbuild_action_spec_finalizeMcResultIpmc(const pd_action_record *act,
     p4_pd_orbisk_switch_finalizeMcResultIpmc_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_finalizeMcResultIpmc_value(const p4_pd_orbisk_switch_finalizeMcResultIpmc_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_finalizeMcResultL2mc_action_specs_are_equal(const p4_pd_orbisk_switch_finalizeMcResultL2mc_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_finalizeMcResultL2mc_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_finalizeMcResultL2mc_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_finalizeMcResultL2mc_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_finalizeMcResultL2mc_schema(void);
 void unbuild_action_spec_finalizeMcResultL2mc(const pd_action_record *act,
     p4_pd_orbisk_switch_finalizeMcResultL2mc_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_finalizeMcResultL2mc_value(const p4_pd_orbisk_switch_finalizeMcResultL2mc_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_finalizeMcResultL2mcFlood_action_specs_are_equal(const p4_pd_orbisk_switch_finalizeMcResultL2mcFlood_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_finalizeMcResultL2mcFlood_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_finalizeMcResultL2mcFlood_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_finalizeMcResultL2mcFlood_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_finalizeMcResultL2mcFlood_schema(void);
 void unbuild_action_spec_finalizeMcResultL2mcFlood(const pd_action_record *act,
     p4_pd_orbisk_switch_finalizeMcResultL2mcFlood_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_finalizeMcResultL2mcFlood_value(const p4_pd_orbisk_switch_finalizeMcResultL2mcFlood_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_finalizeMcResultCancel_action_specs_are_equal(const p4_pd_orbisk_switch_finalizeMcResultCancel_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_finalizeMcResultCancel_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_finalizeMcResultCancel_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_finalizeMcResultCancel_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_finalizeMcResultCancel_schema(void);
 void unbuild_action_spec_finalizeMcResultCancel(const pd_action_record *act,
     p4_pd_orbisk_switch_finalizeMcResultCancel_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_finalizeMcResultCancel_value(const p4_pd_orbisk_switch_finalizeMcResultCancel_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_finalizeMcResultFlood_action_specs_are_equal(const p4_pd_orbisk_switch_finalizeMcResultFlood_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_finalizeMcResultFlood_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_finalizeMcResultFlood_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_finalizeMcResultFlood_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_finalizeMcResultFlood_schema(void);
 void unbuild_action_spec_finalizeMcResultFlood(const pd_action_record *act,
     p4_pd_orbisk_switch_finalizeMcResultFlood_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_finalizeMcResultFlood_value(const p4_pd_orbisk_switch_finalizeMcResultFlood_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_finalizeMcResultL3Rpf_schema(void);
+int p4_pd_orbisk_switch_finalizeMcResultL3Rpf_value(char *out);
+int p4_pd_orbisk_switch_setFoldedPipePort_action_specs_are_equal(const p4_pd_orbisk_switch_setFoldedPipePort_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setFoldedPipePort_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setFoldedPipePort_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setFoldedPipePort_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setFoldedPipePort_schema(void);
 void unbuild_action_spec_setFoldedPipePort(const pd_action_record *act,
     p4_pd_orbisk_switch_setFoldedPipePort_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setFoldedPipePort_value(const p4_pd_orbisk_switch_setFoldedPipePort_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setIngressMirrorColor_action_specs_are_equal(const p4_pd_orbisk_switch_setIngressMirrorColor_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setIngressMirrorColor_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setIngressMirrorColor_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setIngressMirrorColor_action_spec_t *action_spec);
@@ -23253,265 +26645,491 @@ void unbuild_action_spec_setIngressMirrorColor(const pd_action_record *act,
     const pd_resource_index *resources,
     uint32_t num_resources,
     p4_pd_orbisk_switch_setIngressMirrorColor_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setIngressMirrorColor_value(const p4_pd_orbisk_switch_setIngressMirrorColor_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_setIngressMirrorColorRed_schema(void);
+int p4_pd_orbisk_switch_setIngressMirrorColorRed_value(char *out);
 const char *p4_pd_orbisk_switch_accept_schema(void);
+int p4_pd_orbisk_switch_accept_value(char *out);
+int p4_pd_orbisk_switch_acceptLog_action_specs_are_equal(const p4_pd_orbisk_switch_acceptLog_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_acceptLog_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_acceptLog_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_acceptLog_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_acceptLog_schema(void);
 void unbuild_action_spec_acceptLog(const pd_action_record *act,
     p4_pd_orbisk_switch_acceptLog_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_acceptLog_value(const p4_pd_orbisk_switch_acceptLog_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_dropCount_schema(void);
+int p4_pd_orbisk_switch_dropCount_value(char *out);
+int p4_pd_orbisk_switch_dropCountAndLog_action_specs_are_equal(const p4_pd_orbisk_switch_dropCountAndLog_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_dropCountAndLog_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_dropCountAndLog_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_dropCountAndLog_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_dropCountAndLog_schema(void);
 void unbuild_action_spec_dropCountAndLog(const pd_action_record *act,
     p4_pd_orbisk_switch_dropCountAndLog_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_dropCountAndLog_value(const p4_pd_orbisk_switch_dropCountAndLog_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_finalDrop_schema(void);
+int p4_pd_orbisk_switch_finalDrop_value(char *out);
+int p4_pd_orbisk_switch_ingressMirrorAction_action_specs_are_equal(const p4_pd_orbisk_switch_ingressMirrorAction_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_ingressMirrorAction_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_ingressMirrorAction_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_ingressMirrorAction_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_ingressMirrorAction_schema(void);
 void unbuild_action_spec_ingressMirrorAction(const pd_action_record *act,
     p4_pd_orbisk_switch_ingressMirrorAction_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_ingressMirrorAction_value(const p4_pd_orbisk_switch_ingressMirrorAction_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_updateFoldedPipeCount_schema(void);
+int p4_pd_orbisk_switch_updateFoldedPipeCount_value(char *out);
+int p4_pd_orbisk_switch_setMinMtuId_action_specs_are_equal(const p4_pd_orbisk_switch_setMinMtuId_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setMinMtuId_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setMinMtuId_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setMinMtuId_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setMinMtuId_schema(void);
 void unbuild_action_spec_setMinMtuId(const pd_action_record *act,
     p4_pd_orbisk_switch_setMinMtuId_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setMinMtuId_value(const p4_pd_orbisk_switch_setMinMtuId_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_setIngMtuFailed_schema(void);
+int p4_pd_orbisk_switch_setIngMtuFailed_value(char *out);
+int p4_pd_orbisk_switch_setSnatAclId_action_specs_are_equal(const p4_pd_orbisk_switch_setSnatAclId_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setSnatAclId_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setSnatAclId_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setSnatAclId_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setSnatAclId_schema(void);
 void unbuild_action_spec_setSnatAclId(const pd_action_record *act,
     p4_pd_orbisk_switch_setSnatAclId_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setSnatAclId_value(const p4_pd_orbisk_switch_setSnatAclId_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_resetSnatAclId_schema(void);
+int p4_pd_orbisk_switch_resetSnatAclId_value(char *out);
 const char *p4_pd_orbisk_switch_setTcpFlagsCpuReasonCode_schema(void);
+int p4_pd_orbisk_switch_setTcpFlagsCpuReasonCode_value(char *out);
 const char *p4_pd_orbisk_switch_setCpuReasonCodeDefault_schema(void);
+int p4_pd_orbisk_switch_setCpuReasonCodeDefault_value(char *out);
 const char *p4_pd_orbisk_switch_setNatTcpFlags_schema(void);
+int p4_pd_orbisk_switch_setNatTcpFlags_value(char *out);
+int p4_pd_orbisk_switch_setL2XId_action_specs_are_equal(const p4_pd_orbisk_switch_setL2XId_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setL2XId_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setL2XId_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setL2XId_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setL2XId_schema(void);
 void unbuild_action_spec_setL2XId(const pd_action_record *act,
     p4_pd_orbisk_switch_setL2XId_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setL2XId_value(const p4_pd_orbisk_switch_setL2XId_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setIpv4PrtResultXFirst_action_specs_are_equal(const p4_pd_orbisk_switch_setIpv4PrtResultXFirst_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setIpv4PrtResultXFirst_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setIpv4PrtResultXFirst_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setIpv4PrtResultXFirst_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setIpv4PrtResultXFirst_schema(void);
 void unbuild_action_spec_setIpv4PrtResultXFirst(const pd_action_record *act,
     p4_pd_orbisk_switch_setIpv4PrtResultXFirst_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setIpv4PrtResultXFirst_value(const p4_pd_orbisk_switch_setIpv4PrtResultXFirst_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setSwitchToCpu_action_specs_are_equal(const p4_pd_orbisk_switch_setSwitchToCpu_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setSwitchToCpu_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setSwitchToCpu_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setSwitchToCpu_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setSwitchToCpu_schema(void);
 void unbuild_action_spec_setSwitchToCpu(const pd_action_record *act,
     p4_pd_orbisk_switch_setSwitchToCpu_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setSwitchToCpu_value(const p4_pd_orbisk_switch_setSwitchToCpu_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_setDefaultVrf_schema(void);
+int p4_pd_orbisk_switch_setDefaultVrf_value(char *out);
+int p4_pd_orbisk_switch_setNextHop0First_action_specs_are_equal(const p4_pd_orbisk_switch_setNextHop0First_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setNextHop0First_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setNextHop0First_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setNextHop0First_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNextHop0First_schema(void);
 void unbuild_action_spec_setNextHop0First(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHop0First_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setNextHop0First_value(const p4_pd_orbisk_switch_setNextHop0First_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setNextHop2First_action_specs_are_equal(const p4_pd_orbisk_switch_setNextHop2First_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setNextHop2First_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setNextHop2First_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setNextHop2First_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNextHop2First_schema(void);
 void unbuild_action_spec_setNextHop2First(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHop2First_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setNextHop2First_value(const p4_pd_orbisk_switch_setNextHop2First_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setNextHop3First_action_specs_are_equal(const p4_pd_orbisk_switch_setNextHop3First_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setNextHop3First_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setNextHop3First_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setNextHop3First_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNextHop3First_schema(void);
 void unbuild_action_spec_setNextHop3First(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHop3First_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setNextHop3First_value(const p4_pd_orbisk_switch_setNextHop3First_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setNextHop1First_action_specs_are_equal(const p4_pd_orbisk_switch_setNextHop1First_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setNextHop1First_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setNextHop1First_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setNextHop1First_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNextHop1First_schema(void);
 void unbuild_action_spec_setNextHop1First(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHop1First_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setNextHop1First_value(const p4_pd_orbisk_switch_setNextHop1First_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_ipv4ShortMaskLpmMiss_schema(void);
+int p4_pd_orbisk_switch_ipv4ShortMaskLpmMiss_value(char *out);
+int p4_pd_orbisk_switch_setEcmpNextHop_action_specs_are_equal(const p4_pd_orbisk_switch_setEcmpNextHop_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setEcmpNextHop_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setEcmpNextHop_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setEcmpNextHop_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEcmpNextHop_schema(void);
 void unbuild_action_spec_setEcmpNextHop(const pd_action_record *act,
     p4_pd_orbisk_switch_setEcmpNextHop_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setEcmpNextHop_value(const p4_pd_orbisk_switch_setEcmpNextHop_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setNextHopToCpu_action_specs_are_equal(const p4_pd_orbisk_switch_setNextHopToCpu_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setNextHopToCpu_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setNextHopToCpu_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setNextHopToCpu_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNextHopToCpu_schema(void);
 void unbuild_action_spec_setNextHopToCpu(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHopToCpu_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setNextHopToCpu_value(const p4_pd_orbisk_switch_setNextHopToCpu_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setNextHopDetails_action_specs_are_equal(const p4_pd_orbisk_switch_setNextHopDetails_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setNextHopDetails_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setNextHopDetails_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setNextHopDetails_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNextHopDetails_schema(void);
 void unbuild_action_spec_setNextHopDetails(const pd_action_record *act,
     p4_pd_orbisk_switch_setNextHopDetails_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setNextHopDetails_value(const p4_pd_orbisk_switch_setNextHopDetails_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setRouterNextHopDetails_action_specs_are_equal(const p4_pd_orbisk_switch_setRouterNextHopDetails_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setRouterNextHopDetails_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setRouterNextHopDetails_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setRouterNextHopDetails_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setRouterNextHopDetails_schema(void);
 void unbuild_action_spec_setRouterNextHopDetails(const pd_action_record *act,
     p4_pd_orbisk_switch_setRouterNextHopDetails_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setRouterNextHopDetails_value(const p4_pd_orbisk_switch_setRouterNextHopDetails_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_eifParamEgressing_action_specs_are_equal(const p4_pd_orbisk_switch_eifParamEgressing_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_eifParamEgressing_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_eifParamEgressing_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_eifParamEgressing_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_eifParamEgressing_schema(void);
 void unbuild_action_spec_eifParamEgressing(const pd_action_record *act,
     p4_pd_orbisk_switch_eifParamEgressing_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_eifParamEgressing_value(const p4_pd_orbisk_switch_eifParamEgressing_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setEgrNatProfile_action_specs_are_equal(const p4_pd_orbisk_switch_setEgrNatProfile_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setEgrNatProfile_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setEgrNatProfile_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setEgrNatProfile_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEgrNatProfile_schema(void);
 void unbuild_action_spec_setEgrNatProfile(const pd_action_record *act,
     p4_pd_orbisk_switch_setEgrNatProfile_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setEgrNatProfile_value(const p4_pd_orbisk_switch_setEgrNatProfile_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_setDip_schema(void);
+int p4_pd_orbisk_switch_setDip_value(char *out);
 const char *p4_pd_orbisk_switch_clearDip_schema(void);
+int p4_pd_orbisk_switch_clearDip_value(char *out);
 const char *p4_pd_orbisk_switch_eifParamIngressing_schema(void);
+int p4_pd_orbisk_switch_eifParamIngressing_value(char *out);
+int p4_pd_orbisk_switch_setTranslatedSip_action_specs_are_equal(const p4_pd_orbisk_switch_setTranslatedSip_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setTranslatedSip_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setTranslatedSip_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setTranslatedSip_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedSip_schema(void);
 void unbuild_action_spec_setTranslatedSip(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedSip_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setTranslatedSip_value(const p4_pd_orbisk_switch_setTranslatedSip_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setTranslatedSipPortDynamic_action_specs_are_equal(const p4_pd_orbisk_switch_setTranslatedSipPortDynamic_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setTranslatedSipPortDynamic_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setTranslatedSipPortDynamic_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setTranslatedSipPortDynamic_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedSipPortDynamic_schema(void);
 void unbuild_action_spec_setTranslatedSipPortDynamic(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedSipPortDynamic_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setTranslatedSipPortDynamic_value(const p4_pd_orbisk_switch_setTranslatedSipPortDynamic_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setTranslatedSipAndCount_action_specs_are_equal(const p4_pd_orbisk_switch_setTranslatedSipAndCount_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setTranslatedSipAndCount_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setTranslatedSipAndCount_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setTranslatedSipAndCount_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedSipAndCount_schema(void);
 void unbuild_action_spec_setTranslatedSipAndCount(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedSipAndCount_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setTranslatedSipAndCount_value(const p4_pd_orbisk_switch_setTranslatedSipAndCount_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setTranslatedSipPortAndCount_action_specs_are_equal(const p4_pd_orbisk_switch_setTranslatedSipPortAndCount_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setTranslatedSipPortAndCount_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setTranslatedSipPortAndCount_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setTranslatedSipPortAndCount_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTranslatedSipPortAndCount_schema(void);
 void unbuild_action_spec_setTranslatedSipPortAndCount(const pd_action_record *act,
     p4_pd_orbisk_switch_setTranslatedSipPortAndCount_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setTranslatedSipPortAndCount_value(const p4_pd_orbisk_switch_setTranslatedSipPortAndCount_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setEifMatched_action_specs_are_equal(const p4_pd_orbisk_switch_setEifMatched_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setEifMatched_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setEifMatched_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setEifMatched_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEifMatched_schema(void);
 void unbuild_action_spec_setEifMatched(const pd_action_record *act,
     p4_pd_orbisk_switch_setEifMatched_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setEifMatched_value(const p4_pd_orbisk_switch_setEifMatched_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_setEifTrap_schema(void);
+int p4_pd_orbisk_switch_setEifTrap_value(char *out);
 const char *p4_pd_orbisk_switch_setEifTrapReverse_schema(void);
+int p4_pd_orbisk_switch_setEifTrapReverse_value(char *out);
 const char *p4_pd_orbisk_switch_setEifDrop_schema(void);
+int p4_pd_orbisk_switch_setEifDrop_value(char *out);
 const char *p4_pd_orbisk_switch_updateEifAclCount_schema(void);
+int p4_pd_orbisk_switch_updateEifAclCount_value(char *out);
+int p4_pd_orbisk_switch_setNatCpuTrap_action_specs_are_equal(const p4_pd_orbisk_switch_setNatCpuTrap_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setNatCpuTrap_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setNatCpuTrap_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setNatCpuTrap_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNatCpuTrap_schema(void);
 void unbuild_action_spec_setNatCpuTrap(const pd_action_record *act,
     p4_pd_orbisk_switch_setNatCpuTrap_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setNatCpuTrap_value(const p4_pd_orbisk_switch_setNatCpuTrap_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setNatCpuTrapReverse_action_specs_are_equal(const p4_pd_orbisk_switch_setNatCpuTrapReverse_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setNatCpuTrapReverse_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setNatCpuTrapReverse_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setNatCpuTrapReverse_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setNatCpuTrapReverse_schema(void);
 void unbuild_action_spec_setNatCpuTrapReverse(const pd_action_record *act,
     p4_pd_orbisk_switch_setNatCpuTrapReverse_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setNatCpuTrapReverse_value(const p4_pd_orbisk_switch_setNatCpuTrapReverse_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_forwardToPeer_action_specs_are_equal(const p4_pd_orbisk_switch_forwardToPeer_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_forwardToPeer_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_forwardToPeer_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_forwardToPeer_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_forwardToPeer_schema(void);
 void unbuild_action_spec_forwardToPeer(const pd_action_record *act,
     p4_pd_orbisk_switch_forwardToPeer_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_forwardToPeer_value(const p4_pd_orbisk_switch_forwardToPeer_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setEifForwardToPeer_action_specs_are_equal(const p4_pd_orbisk_switch_setEifForwardToPeer_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setEifForwardToPeer_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setEifForwardToPeer_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setEifForwardToPeer_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setEifForwardToPeer_schema(void);
 void unbuild_action_spec_setEifForwardToPeer(const pd_action_record *act,
     p4_pd_orbisk_switch_setEifForwardToPeer_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setEifForwardToPeer_value(const p4_pd_orbisk_switch_setEifForwardToPeer_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_updateEifForwardToPeerAclCount_schema(void);
+int p4_pd_orbisk_switch_updateEifForwardToPeerAclCount_value(char *out);
+int p4_pd_orbisk_switch_mtuCheckFailed_action_specs_are_equal(const p4_pd_orbisk_switch_mtuCheckFailed_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_mtuCheckFailed_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_mtuCheckFailed_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_mtuCheckFailed_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_mtuCheckFailed_schema(void);
 void unbuild_action_spec_mtuCheckFailed(const pd_action_record *act,
     p4_pd_orbisk_switch_mtuCheckFailed_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_mtuCheckFailed_value(const p4_pd_orbisk_switch_mtuCheckFailed_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_mtuCheckPassed_schema(void);
+int p4_pd_orbisk_switch_mtuCheckPassed_value(char *out);
 const char *p4_pd_orbisk_switch_countDynamicNat_schema(void);
+int p4_pd_orbisk_switch_countDynamicNat_value(char *out);
+int p4_pd_orbisk_switch_setTunnelEgressInfo_action_specs_are_equal(const p4_pd_orbisk_switch_setTunnelEgressInfo_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setTunnelEgressInfo_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setTunnelEgressInfo_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setTunnelEgressInfo_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setTunnelEgressInfo_schema(void);
 void unbuild_action_spec_setTunnelEgressInfo(const pd_action_record *act,
     p4_pd_orbisk_switch_setTunnelEgressInfo_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setTunnelEgressInfo_value(const p4_pd_orbisk_switch_setTunnelEgressInfo_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setPdpClass_action_specs_are_equal(const p4_pd_orbisk_switch_setPdpClass_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setPdpClass_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setPdpClass_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setPdpClass_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setPdpClass_schema(void);
 void unbuild_action_spec_setPdpClass(const pd_action_record *act,
     p4_pd_orbisk_switch_setPdpClass_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setPdpClass_value(const p4_pd_orbisk_switch_setPdpClass_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_meterPdpClass_action_specs_are_equal(const p4_pd_orbisk_switch_meterPdpClass_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_meterPdpClass_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_meterPdpClass_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_meterPdpClass_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_meterPdpClass_schema(void);
 void unbuild_action_spec_meterPdpClass(const pd_action_record *act,
     p4_pd_orbisk_switch_meterPdpClass_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_meterPdpClass_value(const p4_pd_orbisk_switch_meterPdpClass_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_updateV4_schema(void);
+int p4_pd_orbisk_switch_updateV4_value(char *out);
 const char *p4_pd_orbisk_switch_updateV4AndPort_schema(void);
+int p4_pd_orbisk_switch_updateV4AndPort_value(char *out);
 const char *p4_pd_orbisk_switch_updateV4AndUdp_schema(void);
+int p4_pd_orbisk_switch_updateV4AndUdp_value(char *out);
 const char *p4_pd_orbisk_switch_updateV4AndTcp_schema(void);
+int p4_pd_orbisk_switch_updateV4AndTcp_value(char *out);
+int p4_pd_orbisk_switch_trapPktToCpuUntagged_action_specs_are_equal(const p4_pd_orbisk_switch_trapPktToCpuUntagged_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_trapPktToCpuUntagged_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_trapPktToCpuUntagged_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_trapPktToCpuUntagged_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_trapPktToCpuUntagged_schema(void);
 void unbuild_action_spec_trapPktToCpuUntagged(const pd_action_record *act,
     p4_pd_orbisk_switch_trapPktToCpuUntagged_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_trapPktToCpuUntagged_value(const p4_pd_orbisk_switch_trapPktToCpuUntagged_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_copyPktToCpuUntagged_action_specs_are_equal(const p4_pd_orbisk_switch_copyPktToCpuUntagged_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_copyPktToCpuUntagged_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_copyPktToCpuUntagged_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_copyPktToCpuUntagged_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_copyPktToCpuUntagged_schema(void);
 void unbuild_action_spec_copyPktToCpuUntagged(const pd_action_record *act,
     p4_pd_orbisk_switch_copyPktToCpuUntagged_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_copyPktToCpuUntagged_value(const p4_pd_orbisk_switch_copyPktToCpuUntagged_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_trapPktToCpuTagged_action_specs_are_equal(const p4_pd_orbisk_switch_trapPktToCpuTagged_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_trapPktToCpuTagged_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_trapPktToCpuTagged_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_trapPktToCpuTagged_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_trapPktToCpuTagged_schema(void);
 void unbuild_action_spec_trapPktToCpuTagged(const pd_action_record *act,
     p4_pd_orbisk_switch_trapPktToCpuTagged_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_trapPktToCpuTagged_value(const p4_pd_orbisk_switch_trapPktToCpuTagged_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_copyPktToCpuTagged_action_specs_are_equal(const p4_pd_orbisk_switch_copyPktToCpuTagged_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_copyPktToCpuTagged_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_copyPktToCpuTagged_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_copyPktToCpuTagged_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_copyPktToCpuTagged_schema(void);
 void unbuild_action_spec_copyPktToCpuTagged(const pd_action_record *act,
     p4_pd_orbisk_switch_copyPktToCpuTagged_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_copyPktToCpuTagged_value(const p4_pd_orbisk_switch_copyPktToCpuTagged_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_trapPktToCpuSubintf_action_specs_are_equal(const p4_pd_orbisk_switch_trapPktToCpuSubintf_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_trapPktToCpuSubintf_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_trapPktToCpuSubintf_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_trapPktToCpuSubintf_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_trapPktToCpuSubintf_schema(void);
 void unbuild_action_spec_trapPktToCpuSubintf(const pd_action_record *act,
     p4_pd_orbisk_switch_trapPktToCpuSubintf_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_trapPktToCpuSubintf_value(const p4_pd_orbisk_switch_trapPktToCpuSubintf_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_copyPktToCpuSubintf_action_specs_are_equal(const p4_pd_orbisk_switch_copyPktToCpuSubintf_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_copyPktToCpuSubintf_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_copyPktToCpuSubintf_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_copyPktToCpuSubintf_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_copyPktToCpuSubintf_schema(void);
 void unbuild_action_spec_copyPktToCpuSubintf(const pd_action_record *act,
     p4_pd_orbisk_switch_copyPktToCpuSubintf_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_copyPktToCpuSubintf_value(const p4_pd_orbisk_switch_copyPktToCpuSubintf_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setLagPort_action_specs_are_equal(const p4_pd_orbisk_switch_setLagPort_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setLagPort_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setLagPort_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setLagPort_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setLagPort_schema(void);
 void unbuild_action_spec_setLagPort(const pd_action_record *act,
     p4_pd_orbisk_switch_setLagPort_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setLagPort_value(const p4_pd_orbisk_switch_setLagPort_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_setPhysicalPort_schema(void);
+int p4_pd_orbisk_switch_setPhysicalPort_value(char *out);
 const char *p4_pd_orbisk_switch_setTunnelInfo_schema(void);
+int p4_pd_orbisk_switch_setTunnelInfo_value(char *out);
 const char *p4_pd_orbisk_switch_invalidateUcastEgressPort_schema(void);
+int p4_pd_orbisk_switch_invalidateUcastEgressPort_value(char *out);
 const char *p4_pd_orbisk_switch_fixL2SubintfAlignment_schema(void);
+int p4_pd_orbisk_switch_fixL2SubintfAlignment_value(char *out);
 const char *p4_pd_orbisk_switch_add_header_for_EA_schema(void);
+int p4_pd_orbisk_switch_add_header_for_EA_value(char *out);
+int p4_pd_orbisk_switch_setPdpClassCount_action_specs_are_equal(const p4_pd_orbisk_switch_setPdpClassCount_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setPdpClassCount_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setPdpClassCount_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setPdpClassCount_action_spec_t *action_spec);
@@ -23520,29 +27138,51 @@ void unbuild_action_spec_setPdpClassCount(const pd_action_record *act,
     const pd_resource_index *resources,
     uint32_t num_resources,
     p4_pd_orbisk_switch_setPdpClassCount_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setPdpClassCount_value(const p4_pd_orbisk_switch_setPdpClassCount_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_removeVlanHdr_schema(void);
+int p4_pd_orbisk_switch_removeVlanHdr_value(char *out);
 const char *p4_pd_orbisk_switch_acceptIB_schema(void);
+int p4_pd_orbisk_switch_acceptIB_value(char *out);
 const char *p4_pd_orbisk_switch_finalDropIB_schema(void);
+int p4_pd_orbisk_switch_finalDropIB_value(char *out);
+int p4_pd_orbisk_switch_setPruneParams_action_specs_are_equal(const p4_pd_orbisk_switch_setPruneParams_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setPruneParams_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setPruneParams_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setPruneParams_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setPruneParams_schema(void);
 void unbuild_action_spec_setPruneParams(const pd_action_record *act,
     p4_pd_orbisk_switch_setPruneParams_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setPruneParams_value(const p4_pd_orbisk_switch_setPruneParams_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setPruneParamsForL2Flood_action_specs_are_equal(const p4_pd_orbisk_switch_setPruneParamsForL2Flood_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setPruneParamsForL2Flood_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setPruneParamsForL2Flood_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setPruneParamsForL2Flood_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setPruneParamsForL2Flood_schema(void);
 void unbuild_action_spec_setPruneParamsForL2Flood(const pd_action_record *act,
     p4_pd_orbisk_switch_setPruneParamsForL2Flood_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setPruneParamsForL2Flood_value(const p4_pd_orbisk_switch_setPruneParamsForL2Flood_action_spec_t *action_spec,
+    char *out);
+int p4_pd_orbisk_switch_setPruneParamsForL3Only_action_specs_are_equal(const p4_pd_orbisk_switch_setPruneParamsForL3Only_action_spec_t *pd_action_spec,
+    const p4_pd_orbisk_switch_setPruneParamsForL3Only_action_spec_t *hw_action_spec,
+    char *error);
 void p4_pd_orbisk_switch_setPruneParamsForL3Only_print(int fd,
     int indent,
     const p4_pd_orbisk_switch_setPruneParamsForL3Only_action_spec_t *action_spec);
 const char *p4_pd_orbisk_switch_setPruneParamsForL3Only_schema(void);
 void unbuild_action_spec_setPruneParamsForL3Only(const pd_action_record *act,
     p4_pd_orbisk_switch_setPruneParamsForL3Only_action_spec_t *action_spec);
+int p4_pd_orbisk_switch_setPruneParamsForL3Only_value(const p4_pd_orbisk_switch_setPruneParamsForL3Only_action_spec_t *action_spec,
+    char *out);
 const char *p4_pd_orbisk_switch_l3FloodEgressL2Aintf_schema(void);
+int p4_pd_orbisk_switch_l3FloodEgressL2Aintf_value(char *out);
 const char *p4_pd_orbisk_switch_setPruneParamsUnused_schema(void);
+int p4_pd_orbisk_switch_setPruneParamsUnused_value(char *out);
 
 /* --------------------------------------------- learning digests --- */
 
