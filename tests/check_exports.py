@@ -210,6 +210,12 @@ def main(lib, root):
              "plcmt_data_print": 154, "adt_plcmt_data_print": 6,
              "plcmt_data": 154, "plcmt_decode": 154, "profile_plcmt": 24}
     failed = False
+    # The whole boundary: the families' rules give 7,683 functions, and the
+    # two exported objects stand beside them.
+    if sum(known.values()) != 7683 + 2:
+        print("families add up to %d names, expected 7,683 functions and 2 objects"
+              % sum(known.values()))
+        failed = True
     for k, v in known.items():
         if len(fam.get(k, ())) != v:
             print("family %s: catalogue yields %d, expected %d" % (k, len(fam.get(k, ())), v))
