@@ -22,7 +22,10 @@
  * device's state is logged, removed and restored, the route still resolving
  * to the same group and members. It computes the ECMP hash of a flow and asks
  * the group which member the hash selects, and prints a MAC learning digest
- * the driver delivers, then acknowledges it. A failed status ends the
+ * the driver delivers, then acknowledges it. Last it walks the whole program
+ * from handles alone, as a generic inspector would: every table and profile,
+ * each non-empty one printed with its schema and its entries as value text,
+ * each entry verified against the chip. A failed status ends the
  * program at once, and any difference makes it end with status 1; either is
  * explained on stderr.
  *
@@ -786,6 +789,100 @@ static void count_drops(void) {
        "ingressPortDropCheck delete");
 }
 
+/* ------------------------------------------------------------- the walk --- */
+
+/* The whole program walked from handles alone, as a generic inspector that
+ * knows nothing of this program would: every handle of the header's runs is
+ * tried, and the schema text tells a table from a gap; each table that holds
+ * entries is printed with its schema and its entries as value text, and each
+ * entry is checked against the chip through its placement data; then each
+ * profile's members as value text. Any entry the chip holds otherwise is an
+ * error. */
+static void walk_program(void) {
+  static const struct {
+    pd_tbl_hdl first, last;
+  } kRuns[] = {
+      {P4_PD_ORBISK_SWITCH_TABLES_A_FIRST, P4_PD_ORBISK_SWITCH_TABLES_A_LAST},
+      {P4_PD_ORBISK_SWITCH_TABLES_B_FIRST, P4_PD_ORBISK_SWITCH_TABLES_B_LAST},
+  };
+  static const pd_tbl_hdl kProfiles[] = P4_PD_ORBISK_SWITCH_PROFILE_HANDLES;
+  static char schema[P4_PD_ORBISK_SWITCH_SCHEMA_MAX];
+  static char value[P4_PD_ORBISK_SWITCH_VALUE_MAX];
+  static uint8_t plcmt[ORBISK_MODEL_PLACEMENT_MAX_BYTES];
+  char message[128];
+  unsigned tables = 0, entries = 0, agree = 0, members = 0;
+
+  for (size_t r = 0; r < sizeof kRuns / sizeof kRuns[0]; ++r) {
+    for (pd_tbl_hdl tbl = kRuns[r].first; tbl <= kRuns[r].last; ++tbl) {
+      if (p4_pd_orbisk_switch_cli_schema(tbl, schema) == 2) continue; /* "()": no table */
+      ++tables;
+      pd_entry_hdl hdl = 0xffffffffu;
+      if (p4_pd_orbisk_switch_entry_hdl_first(SESS, kTarget, tbl, &hdl) != BF_SUCCESS) continue;
+      printf("walk: table 0x%08" PRIx32 "\n    schema %s\n", tbl, schema);
+      while (hdl != 0xffffffffu) {
+        ++entries;
+        if (p4_pd_orbisk_switch_entry_value(SESS, DEVICE, tbl, hdl, false, value) == 0) {
+          fprintf(stderr, "orbisk_demo: error: table 0x%08" PRIx32 ": entry %" PRIu32
+                  " has no value text\n", tbl, hdl);
+          ++g_failures;
+        }
+        uint32_t size = sizeof plcmt;
+        must(pipe_mgr_plcmt_mat_data_get(SESS, kTarget, tbl, hdl, plcmt, &size),
+             "placement data of a walked entry");
+        if (p4_pd_orbisk_switch_plcmt_data_eq_to_hw(SESS, DEVICE, tbl, hdl, plcmt, size,
+                                                    message)) {
+          ++agree;
+          printf("    entry %" PRIu32 ": %s  (as the chip holds it)\n", hdl, value);
+        } else {
+          fprintf(stderr, "orbisk_demo: error: table 0x%08" PRIx32 ": entry %" PRIu32
+                  ": the chip differs: %s\n", tbl, hdl, message);
+          ++g_failures;
+        }
+        pd_entry_hdl next = 0xffffffffu;
+        if (p4_pd_orbisk_switch_entry_hdl_next(SESS, kTarget, tbl, hdl, 1, &next) != BF_SUCCESS) {
+          break;
+        }
+        hdl = next;
+      }
+    }
+  }
+
+  for (size_t i = 0; i < sizeof kProfiles / sizeof kProfiles[0]; ++i) {
+    pd_mbr_hdl mbr = 0xffffffffu;
+    if (p4_pd_orbisk_switch_member_hdl_first(SESS, kTarget, kProfiles[i], &mbr) != BF_SUCCESS) {
+      continue;
+    }
+    p4_pd_orbisk_switch_cli_schema(kProfiles[i], schema);
+    printf("walk: profile 0x%08" PRIx32 "\n    schema %s\n", kProfiles[i], schema);
+    while (mbr != 0xffffffffu) {
+      ++members;
+      uint32_t size = sizeof plcmt;
+      must(pipe_mgr_plcmt_adt_data_get(SESS, kTarget, kProfiles[i], mbr, plcmt, &size),
+           "placement data of a walked member");
+      if (p4_pd_orbisk_switch_adt_plcmt_data_value(kProfiles[i], plcmt, value) == 0) {
+        fprintf(stderr, "orbisk_demo: error: profile 0x%08" PRIx32 ": member %" PRIu32
+                " does not decode\n", kProfiles[i], mbr);
+        ++g_failures;
+      } else {
+        printf("    member 0x%08" PRIx32 ": %s\n", mbr, value);
+      }
+      pd_mbr_hdl next = 0xffffffffu;
+      if (p4_pd_orbisk_switch_member_hdl_next(SESS, kTarget, kProfiles[i], mbr, 1, &next) !=
+          BF_SUCCESS) {
+        break;
+      }
+      mbr = next;
+    }
+  }
+  printf("walked %u tables and %zu profiles from handles alone: %u entries, %u as the chip "
+         "holds them; %u members\n",
+         tables, sizeof kProfiles / sizeof kProfiles[0], entries, agree, members);
+  if (tables != 154) {
+    fprintf(stderr, "orbisk_demo: error: the walk found %u tables, not 154\n", tables);
+    ++g_failures;
+  }
+}
+
 int main(void) {
   p4_pd_orbisk_switch_init();
   printf("registered with the driver as client %" PRIu32 "\n", bf_drv_hdl);
@@ -827,6 +924,7 @@ int main(void) {
   ecmp_route(&ecmp);
   ecmp_hash(&ecmp);
   learn_mac();
+  walk_program();
 
   must(p4_pd_orbisk_switch_cleanup(), "cleanup");
 

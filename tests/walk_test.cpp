@@ -69,6 +69,14 @@ TEST_F(Walk, EveryDispatcherOverEveryHandle) {
       {p4_pd_orbisk_switch_member_hdl_first, nullptr, "_get_first_member", false, kInvalid},
       {nullptr, p4_pd_orbisk_switch_member_hdl_next, "_get_next_members", false, kInvalid},
   };
+  // The runs the header offers a walker are the ranges the dispatchers take.
+  static_assert(P4_PD_ORBISK_SWITCH_TABLES_A_FIRST == 0x01000001u);
+  static_assert(P4_PD_ORBISK_SWITCH_TABLES_A_LAST == 0x01000075u);
+  static_assert(P4_PD_ORBISK_SWITCH_TABLES_B_FIRST == 0x11010003u);
+  static_assert(P4_PD_ORBISK_SWITCH_TABLES_B_LAST == 0x11010028u);
+  const uint32_t offered[] = P4_PD_ORBISK_SWITCH_PROFILE_HANDLES;
+  ASSERT_EQ(kNumProfiles, std::size(offered));
+  for (std::size_t i = 0; i < kNumProfiles; ++i) EXPECT_EQ(kProfiles[i].adt_hdl, offered[i]);
   std::vector<uint32_t> handles = {0, kInvalid, 0x02000000, 0x12010000, 0x04000001};
   for (uint32_t h = 0x01000000; h <= 0x01000076; ++h) handles.push_back(h);
   for (uint32_t h = 0x11010002; h <= 0x11010029; ++h) handles.push_back(h);

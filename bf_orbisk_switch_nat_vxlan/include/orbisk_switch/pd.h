@@ -734,6 +734,17 @@ PD_STATIC_ASSERT(sizeof(p4_pd_orbisk_switch_snapshot_record_t) == 794, "the snap
  * entry_value writes, its final zero included. */
 #define P4_PD_ORBISK_SWITCH_VALUE_MAX 331
 
+/* The handles the dispatchers take, for a tool that walks the program from
+ * handles alone: the match tables of each pipeline as a run from FIRST to
+ * LAST (a handle inside a run that names no table gets each dispatcher's
+ * answer for a miss), and the action data tables of the profiles. */
+#define P4_PD_ORBISK_SWITCH_TABLES_A_FIRST 0x01000001u
+#define P4_PD_ORBISK_SWITCH_TABLES_A_LAST 0x01000075u
+#define P4_PD_ORBISK_SWITCH_TABLES_B_FIRST 0x11010003u
+#define P4_PD_ORBISK_SWITCH_TABLES_B_LAST 0x11010028u
+#define P4_PD_ORBISK_SWITCH_NUM_PROFILES 6
+#define P4_PD_ORBISK_SWITCH_PROFILE_HANDLES {0x02000026u, 0x0200001du, 0x02000021u, 0x12010003u, 0x1201000cu, 0x1201000eu}
+
 /* Full action names, with the prefix, in enum order. */
 extern const char *const p4_pd_orbisk_switch_action_name_strings[296];
 

@@ -31,3 +31,21 @@ FAMILIES = [
                              Arg("pd_mbr_hdl *", "next_mbr_hdls", "out handles")],
          "Up to n members after this one; for a handle of no profile 0xffffffff and status 0xffffffff."),
 ]
+
+
+def header_lines(prog):
+    """The handles a walk tries: each pipeline's match tables as one run
+    (a handle inside a run that names no table takes each dispatcher's miss
+    answer), and the action data tables of the profiles."""
+    out = ["/* The handles the dispatchers take, for a tool that walks the program from",
+           " * handles alone: the match tables of each pipeline as a run from FIRST to",
+           " * LAST (a handle inside a run that names no table gets each dispatcher's",
+           " * answer for a miss), and the action data tables of the profiles. */"]
+    for p in sorted({t.pipeline for t in prog.tables}):
+        hs = [t.handle for t in prog.tables if t.pipeline == p]
+        out += ["#define P4_PD_ORBISK_SWITCH_TABLES_%s_FIRST 0x%08xu" % (p, min(hs)),
+                "#define P4_PD_ORBISK_SWITCH_TABLES_%s_LAST 0x%08xu" % (p, max(hs))]
+    out += ["#define P4_PD_ORBISK_SWITCH_NUM_PROFILES %d" % len(prog.profiles),
+            "#define P4_PD_ORBISK_SWITCH_PROFILE_HANDLES {%s}"
+            % ", ".join("0x%08xu" % r.adt for r in prog.profiles), ""]
+    return out
