@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "export.h"
+#include "pd_handles.h"
 #include "orbisk_switch/pd.h"
 
 namespace orbisk::pd {
@@ -69,10 +70,8 @@ int write_profile_schema(unsigned profile, char *out) {
 using namespace orbisk::pd;
 
 PD_EXPORT int p4_pd_orbisk_switch_cli_schema(pd_tbl_hdl tbl_hdl, char *out) {
-  if (const TableDesc *t = find_table(tbl_hdl)) return write_table_schema(unsigned(t - kTables), out);
-  if (const ProfileDesc *r = find_profile(tbl_hdl)) {
-    return write_profile_schema(unsigned(r - kProfiles), out);
-  }
+  if (const unsigned t = table_slot(tbl_hdl); t != kNoSlot) return write_table_schema(t, out);
+  if (const unsigned r = profile_slot(tbl_hdl); r != kNoSlot) return write_profile_schema(r, out);
   // Any other handle: an empty tuple, told from a text by its length.
   return end_text(out, put(out, "()"));
 }

@@ -4,6 +4,7 @@
 #include <cstring>
 
 #include "assertions.h"
+#include "dispatch.h"
 #include "export.h"
 #include "placement.h"
 #include "profiles.h"
@@ -151,13 +152,13 @@ using namespace orbisk::pd;
 
 PD_EXPORT int p4_pd_orbisk_switch_plcmt_data_value(pd_tbl_hdl tbl_hdl, const void *plcmt_data,
                                                    char *out) {
-  const TableDesc *t = find_table(tbl_hdl);
+  const TableDesc *t = table_of(tbl_hdl);
   return t ? placement_value(*t, plcmt_data, out) : 0;
 }
 
 PD_EXPORT int p4_pd_orbisk_switch_adt_plcmt_data_value(pd_tbl_hdl tbl_hdl, const void *plcmt_data,
                                                        char *out) {
-  const ProfileDesc *p = find_profile(tbl_hdl);
+  const ProfileDesc *p = profile_of(tbl_hdl);
   return p ? member_placement_value(*p, plcmt_data, out) : 0;
 }
 
@@ -167,7 +168,7 @@ PD_EXPORT int p4_pd_orbisk_switch_plcmt_data_eq_to_hw(pd_sess_hdl sess_hdl, uint
                                                       uint32_t plcmt_data_size, char *error) {
   // The record tells its own length: its size is not needed.
   (void)plcmt_data_size;
-  const TableDesc *t = find_table(tbl_hdl);
+  const TableDesc *t = table_of(tbl_hdl);
   if (!t) {
     pd_hard_assert_failed_in(kTextSourcePath, "false && \"unknown table\"", __func__, __LINE__);
   }

@@ -3,6 +3,7 @@
 #include "value_text.h"
 
 #include "assertions.h"
+#include "dispatch.h"
 #include "elements.h"
 #include "export.h"
 #include "profiles.h"
@@ -130,6 +131,6 @@ using namespace orbisk::pd;
 PD_EXPORT int p4_pd_orbisk_switch_entry_value(pd_sess_hdl sess_hdl, uint8_t dev_id,
                                               pd_tbl_hdl tbl_hdl, pd_entry_hdl entry_hdl,
                                               bool read_from_hw, char *out) {
-  const TableDesc *t = find_table(tbl_hdl);
+  const TableDesc *t = table_of(tbl_hdl);
   return t ? entry_value(*t, sess_hdl, dev_id, entry_hdl, read_from_hw, out) : 0;
 }
