@@ -7,7 +7,7 @@ from orbisk.valuetext import parse_entry, parse_member, parse_placement
 
 ENTRIES = [
     ("ecmpGroup", "((( 0x0012,),('setMbrHdl',(0x5,))),(0,True))", dict(match={"nextHop": 0x12}, member=5)),
-    ("ecmpGroup", "(((),),(0,True))", dict()),
+    ("ecmpGroup", "(((),),(0,True))", dict(is_default=True)),
     ("ipv4Host", "((( 0x01,0x0a000001,),('setNextHop',(0x00000007,)),),(0,True))",
      dict(match={"vrfId": 1, "dip": "10.0.0.1"}, action="setNextHop", params={"nextHop": 7})),
     ("vlanDecap", "(((),('removeVlanHdr',()),),(0,True))", dict(action="removeVlanHdr")),
