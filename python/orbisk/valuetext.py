@@ -61,7 +61,9 @@ def parse_entry(table, text, handle=None):
     e = Entry(table.name, handle)
     _body(table, body, e)
     if table.shape.has_priority:
-        e.priority = priority
+        # The text prints the priority as a signed number: one of 2**31 or
+        # more comes out negative, and is the unsigned 32-bit priority here.
+        e.priority = priority & 0xFFFFFFFF
     return e
 
 
