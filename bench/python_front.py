@@ -1,6 +1,7 @@
-"""The Python front's costs: start-up over all tables, and adds per second
+"""The Python front's costs: start-up over all tables, adds per second
 through the front against the C entry point called directly from Python,
-both on the driver model with its call log off.
+and reads per second from value text and from records, on the driver model
+with its call log off.
 
     python3 bench/python_front.py [--lib build/.../libob_bf_pd_nat_vxlan.so] [-n 20000]
 """
@@ -60,6 +61,15 @@ def main():
     direct = n / (time.perf_counter() - t0)
     print("adds per second, %d l2Lookup entries: front %.0f, C entry point from Python %.0f, ratio %.2f" %
           (n, front, direct, direct / front))
+
+    # Reads of the same entries: from value text (get) and from the
+    # library's records (get_record, what a dump reads).
+    handles = t.handles()
+    for read in (t.get, t.get_record):
+        t0 = time.perf_counter()
+        for h in handles:
+            read(h)
+        print("reads per second by %s: %.0f" % (read.__name__, len(handles) / (time.perf_counter() - t0)))
 
 
 if __name__ == "__main__":

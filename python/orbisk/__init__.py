@@ -11,6 +11,8 @@ schema text at run time; see README.md."""
 from .switch import Switch, diff
 from .tables import Entry
 from .profiles import Group, Member
+from .resources import Count, HashAttribute, Meter
 from .values import DriverError, OrbiskError
 
-__all__ = ["Switch", "diff", "Entry", "Member", "Group", "DriverError", "OrbiskError"]
+__all__ = ["Switch", "diff", "Entry", "Member", "Group", "Count", "Meter", "HashAttribute", "DriverError",
+           "OrbiskError"]

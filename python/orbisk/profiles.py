@@ -4,7 +4,7 @@ import ctypes
 from dataclasses import dataclass, field as dc_field
 
 from ._native import DevTarget
-from .tables import ANY_SPEC_ROOM, PLACEMENT_ROOM, P_U32, U32, WALK_BATCH, fill_params, read_params
+from .tables import ANY_SPEC_ROOM, PLACEMENT_ROOM, P_U32, TEXT_ROOM, U32, WALK_BATCH, fill_params, read_params
 from .values import OrbiskError
 
 
@@ -73,22 +73,55 @@ class Profile:
     def del_member(self, member):
         self._call("del_member", [U32, U32, U32], [self.switch.session, self.switch.device, member])
 
-    def get_member(self, member, hw=False):
+    def _read_member(self, member, hw):
+        """The library's read of a member: its action and parameter record."""
         room = (ctypes.c_uint64 * (ANY_SPEC_ROOM // 8 + 1))()
         self._call("get_member", [U32, U32, U32, ctypes.c_bool, ctypes.c_void_p],
                    [self.switch.session, self.switch.device, member, bool(hw), room])
         name = self.switch._action_name(ctypes.c_uint32.from_buffer(room).value)
         a = self.shape.actions.get(name) or self.switch._actions.get(self._native, name)
-        params = read_params(a, a.record.from_buffer(room, 4)) if a.record is not None else {}
-        return Member(self.name, member, name, params)
+        return a, (a.record.from_buffer(room, 4) if a.record is not None else None)
+
+    def get_member(self, member, hw=False):
+        """A member, built from value text paired with the schema: the text
+        of its placement data (<profile>_plcmt_data_value), or with hw=True
+        the text its action writes (<a>_value) of the member read from
+        hardware."""
+        from .valuetext import parse_member
+        if hw:
+            a, spec = self._read_member(member, True)
+            buf = ctypes.create_string_buffer(TEXT_ROOM)
+            if spec is None:
+                n = self._native.fn(a.name + "_value", [ctypes.c_char_p], ctypes.c_int)(buf)
+            else:
+                n = self._native.fn(a.name + "_value", [ctypes.c_void_p, ctypes.c_char_p], ctypes.c_int)(
+                    ctypes.byref(spec), buf)
+            text = buf.raw[:n].decode()
+        else:
+            text = self.placement_text(self.placement(member))
+        return parse_member(self, text, member)
+
+    def get_member_record(self, member, hw=False):
+        """A member as the library's read gives its record (what a dump
+        reads)."""
+        a, spec = self._read_member(member, hw)
+        return Member(self.name, member, a.name, read_params(a, spec) if spec is not None else {})
+
+    def _placement(self, suffix, handle):
+        room = ctypes.create_string_buffer(PLACEMENT_ROOM)
+        size = U32(PLACEMENT_ROOM)
+        self._call(suffix, [U32, DevTarget, U32, U32, ctypes.c_void_p, P_U32],
+                   [self.switch.session, self.switch.target, self.shape.handle, handle, room, ctypes.byref(size)])
+        return room.raw[:size.value]
 
     def placement(self, member):
         """The driver's placement data of a member: bytes, opaque here."""
-        room = ctypes.create_string_buffer(PLACEMENT_ROOM)
-        size = U32(PLACEMENT_ROOM)
-        self._call("get_plcmt_data", [U32, DevTarget, U32, U32, ctypes.c_void_p, P_U32],
-                   [self.switch.session, self.switch.target, self.shape.handle, member, room, ctypes.byref(size)])
-        return room.raw[:size.value]
+        return self._placement("get_plcmt_data", member)
+
+    def group_placement(self, group):
+        """The driver's placement data of a group: bytes, which the library
+        offers no decoder of."""
+        return self._placement("sel_get_plcmt_data", group)
 
     def from_placement(self, data):
         """A member as placement data says it is (its handle unknown: None)."""
@@ -104,7 +137,7 @@ class Profile:
         name = "%s_plcmt_data_value" % self.name
         if not self._native.has(name):
             raise OrbiskError("%s: the library writes no placement text" % self.name)
-        buf = ctypes.create_string_buffer(1 << 12)
+        buf = ctypes.create_string_buffer(TEXT_ROOM)
         raw = ctypes.create_string_buffer(bytes(data), max(len(data), PLACEMENT_ROOM))
         n = self._native.fn(name, [ctypes.c_void_p, ctypes.c_char_p], ctypes.c_int)(raw, buf)
         if n == 0:
@@ -133,9 +166,12 @@ class Profile:
         return self._walk("get_first_member", "get_next_members", "get_act_prof_entry_count",
                           [self.switch.session, self.switch.target], [U32, DevTarget])
 
-    def members(self, hw=False):
+    def members(self, hw=False, records=False):
+        """Every member in walk order, read as get_member() reads it (as
+        get_member_record() does with records=True)."""
+        read = self.get_member_record if records else self.get_member
         for h in self.member_handles():
-            yield self.get_member(h, hw)
+            yield read(h, hw)
 
     def create_group(self, max_size=64):
         out = U32()
@@ -163,6 +199,8 @@ class Profile:
                           [self.switch.session, self.switch.device, group], [U32, U32, U32])
 
     def groups(self):
+        """Every group and its members' handles. A group has no value text
+        (its placement data has no decoder): the read is the walks'."""
         for g in self.group_handles():
             yield Group(self.name, g, self.group_members(g))
 

@@ -6,7 +6,7 @@ import ctypes
 from collections import namedtuple
 
 from ._native import CounterValue, MeterSpec
-from .values import OrbiskError
+from .values import OrbiskError, parse_scalar
 
 Count = namedtuple("Count", "packets bytes")
 Meter = namedtuple("Meter", "cir cburst pir pburst meter_type")
@@ -102,38 +102,84 @@ class _Attr(ctypes.Structure):
     _fields_ = [("input_field", ctypes.c_uint32), ("attr_type", ctypes.c_uint32), ("value", ctypes.c_uint64)]
 
 
+HashAttribute = namedtuple("HashAttribute", "input_field attr_type value")
+U32 = ctypes.c_uint32
+P_U32 = ctypes.POINTER(ctypes.c_uint32)
+# The driver keeps the low 32 bits of an attribute's value (its record has
+# no more room in use): a wider value is refused rather than cut.
+ATTR_VALUE_BITS = 32
+
+
 class Hash(Resource):
-    """A hash calculation: its seed, and the value it gives for fields."""
+    """A hash calculation: its input field list and algorithm (0 is the
+    calculation's own, the only ones the program has), its seed, the
+    attributes of its input fields, and the value it gives for fields."""
     kind = "hash_calc"
 
-    def _fn(self, what, types, restype=ctypes.c_uint32):
-        return self._native.fn("hash_calc_%s_%s" % (self.name, what), types, restype)
-
-    def _status(self, what, st):
+    def _run(self, what, types, *args):
+        name = "hash_calc_%s_%s" % (self.name, what)
+        st = self._native.fn(name, [U32, U32] + types)(self.switch.session, self.switch.device, *args)
         if st:
-            raise self.switch._error("hash_calc_%s_%s" % (self.name, what), st)
+            raise self.switch._error(name, st)
 
-    @property
-    def seed(self):
-        out = ctypes.c_uint64()
-        self._status("seed_get", self._fn("seed_get", [ctypes.c_uint32, ctypes.c_uint32,
-                                                       ctypes.POINTER(ctypes.c_uint64)])(
-            self.switch.session, self.switch.device, ctypes.byref(out)))
+    def _get(self, what, ctype=U32):
+        out = ctype()
+        self._run(what + "_get", [ctypes.POINTER(ctype)], ctypes.byref(out))
         return out.value
 
-    @seed.setter
-    def seed(self, value):
-        self._status("seed_set", self._fn("seed_set", [ctypes.c_uint32, ctypes.c_uint32, ctypes.c_uint64])(
-            self.switch.session, self.switch.device, value))
+    def _set(self, what, value, width=32, ctype=U32):
+        self._run(what + "_set", [ctype], parse_scalar(value, width, None, self.name, what))
+
+    input = property(lambda self: self._get("input"), lambda self, v: self._set("input", v),
+                     doc="The input field list: 0 is the calculation's own.")
+    algorithm = property(lambda self: self._get("algorithm"), lambda self, v: self._set("algorithm", v),
+                         doc="The algorithm: 0 is the calculation's own.")
+    seed = property(lambda self: self._get("seed", ctypes.c_uint64),
+                    lambda self, v: self._set("seed", v, 64, ctypes.c_uint64))
+
+    def set_attributes(self, attributes, input=0):
+        """Sets the attributes of the input's fields, each (input field,
+        attribute type, value); an empty list clears them."""
+        attributes = list(attributes)
+        recs = (_Attr * max(len(attributes), 1))()
+        for i, a in enumerate(attributes):
+            if len(a) != 3:
+                raise OrbiskError("%s: an attribute is (input_field, attr_type, value), not %r" % (self.name, a))
+            recs[i] = _Attr(parse_scalar(a[0], 32, None, self.name, "input_field"),
+                            parse_scalar(a[1], 32, None, self.name, "attr_type"),
+                            parse_scalar(a[2], ATTR_VALUE_BITS, None, self.name, "attribute value"))
+        self._run("input_field_attribute_set", [U32, U32, ctypes.c_void_p],
+                   parse_scalar(input, 32, None, self.name, "input"), len(attributes), recs)
+
+    def attribute_count(self, input=0):
+        out = U32()
+        self._run("input_field_attribute_count_get", [U32, P_U32], input, ctypes.byref(out))
+        return out.value
+
+    def attributes(self, input=0):
+        """The attributes of the input's fields, as HashAttribute records."""
+        room = self.attribute_count(input)
+        recs, out = (_Attr * max(room, 1))(), U32()
+        self._run("input_field_attribute_get", [U32, U32, ctypes.c_void_p, P_U32], input, room, recs,
+                   ctypes.byref(out))
+        return [HashAttribute(r.input_field, r.attr_type, r.value) for r in recs[:out.value]]
 
     def calculate(self, fields, length=4):
         """The hash of fields given as (value, width in bits), first field
-        first, as the driver computes it: length bytes."""
+        first, as the driver computes it: length bytes. A value wider than
+        its width is refused (the library would spill it into the field
+        before)."""
         n = len(fields)
         keep = []
         attrs = (_Attr * max(n, 1))()
         widths = (ctypes.c_uint32 * max(n, 1))()
-        for i, (value, width) in enumerate(fields):
+        for i, f in enumerate(fields):
+            if len(f) != 2:
+                raise OrbiskError("%s: a field is (value, width in bits), not %r" % (self.name, f))
+            value, width = f
+            if not isinstance(width, int) or width <= 0:
+                raise OrbiskError("%s: field %d: width %r is not a positive number of bits" % (self.name, i, width))
+            value = parse_scalar(value, width, None, self.name, "field %d" % i)
             if width > 32:
                 buf = ctypes.create_string_buffer(value.to_bytes((width + 7) // 8, "big"), (width + 7) // 8)
                 keep.append(buf)
@@ -141,9 +187,8 @@ class Hash(Resource):
             attrs[i] = _Attr(i, 0, value)
             widths[i] = width
         out = (ctypes.c_uint8 * length)()
-        self._status("calculate_hash_value", self._fn("calculate_hash_value", [
-            ctypes.c_uint32, ctypes.c_uint32, ctypes.c_uint32, ctypes.c_void_p, ctypes.c_void_p, ctypes.c_void_p,
-            ctypes.c_uint32])(self.switch.session, self.switch.device, n, attrs, widths, out, length))
+        self._run("calculate_hash_value", [U32, ctypes.c_void_p, ctypes.c_void_p, ctypes.c_void_p, U32],
+                   n, attrs, widths, out, length)
         return bytes(out)
 
 

@@ -102,9 +102,13 @@ class TableShape:
         self.is_ternary = self.has_priority
         self.is_prefix = any(f.kind == "prefix" for f in self.fields)
         # An ordinary table lists its actions; a selector table names members
-        # and groups of a profile instead.
+        # and groups of a profile instead, by its two fixed pairs (the first
+        # names a member, the second a group), which its value text uses too.
         self.actions = {}
-        if not self.selector:
+        self.selection = {}
+        if self.selector:
+            self.selection = {acts[0][0]: "member", acts[1][0]: "group"}
+        else:
             for text_pair in acts:
                 a_name = text_pair[0]
                 self.actions[a_name] = actions.get(native, a_name)

@@ -117,20 +117,23 @@ class Switch:
 
     def dump(self, defaults=False):
         """Every non-empty table and profile of the device as a Python literal
-        (text) that load() replays: members and groups first, then entries."""
+        (text) that load() replays: members and groups first, then entries.
+        A dump reads the library's records, not value text (which shows a
+        key field only through the schema's mask), so that it replays to
+        the same driver bytes."""
         state = {"profiles": {}, "tables": {}}
         for p in self.profiles:
-            members = [[m.handle, m.action, m.params] for m in p.members()]
+            members = [[m.handle, m.action, m.params] for m in p.members(records=True)]
             groups = [[g.handle, g.members] for g in p.groups()]
             if members or groups:
                 state["profiles"][p.name] = {"members": members, "groups": groups}
         for t in self.tables:
-            rows = [e.spec() for e in t.entries()]
+            rows = [e.spec() for e in t.entries(records=True)]
             if rows and t.meter:
                 for row, h in zip(rows, t.handles()):
                     row["meter"] = tuple(self.meters[t.meter].read(entry=h))
             if defaults and not t.shape.selector:
-                d = t.default()
+                d = t.default_record()
                 # A default only the program sets has no setter: it is left out.
                 if self._native.has("%s_set_default_action_%s" % (t.name, d.action)):
                     rows.append({"default": True, "action": d.action, **d.params})

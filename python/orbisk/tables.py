@@ -396,7 +396,17 @@ class Table:
         return out.value
 
     def get(self, handle, hw=False):
-        """The entry with this handle, as read back."""
+        """The entry with this handle, built from its value text paired with
+        the schema: each key field through the schema's mask (the bits the
+        table's key covers; a 128-bit field whole), so bits above it read as
+        0 where get_record() shows what the driver holds."""
+        from .valuetext import parse_entry
+        return parse_entry(self, self.value_text(handle, hw), handle)
+
+    def get_record(self, handle, hw=False):
+        """The entry with this handle as the library's read gives its
+        records: every bit of every field the driver holds. Dumps read
+        entries so, to replay them to the same driver bytes."""
         sw, shape = self.switch, self.shape
         head = [sw.session, sw.device, handle, bool(hw)]
         types = [U32, U32, U32, ctypes.c_bool]
@@ -489,7 +499,7 @@ class Table:
         f = self._native.fn(name, [U32, ctypes.c_uint8, U32, ctypes.c_uint8, ctypes.c_char_p], ctypes.c_int)
         n = f(self.switch.session, self.switch.device, handle, int(bool(hw)), buf)
         if n == 0:
-            self.get(handle, hw)  # the read's status, as an exception
+            self.get_record(handle, hw)  # the read's status, as an exception
             raise OrbiskError("%s: no value text for entry 0x%x" % (self.name, handle))
         return buf.raw[:n].decode()
 
@@ -505,13 +515,6 @@ class Table:
         if n == 0:
             raise OrbiskError("%s: placement data the library cannot decode" % self.name)
         return buf.raw[:n].decode()
-
-    def get_text(self, handle, hw=False):
-        """The entry as its value text says it is. Value text shows a key
-        field through the schema's mask, so bits above it read as 0 here
-        where get() shows what the driver holds."""
-        from .valuetext import parse_entry
-        return parse_entry(self, self.value_text(handle, hw), handle)
 
     def count(self):
         out = U32()
@@ -540,11 +543,12 @@ class Table:
             out += got
         return out
 
-    def entries(self, hw=False, text=False):
-        """Every entry, read back (from its value text with text=True), in
-        walk order."""
+    def entries(self, hw=False, records=False):
+        """Every entry in walk order, read as get() reads it (as
+        get_record() does with records=True)."""
+        read = self.get_record if records else self.get
         for h in self.handles():
-            yield self.get_text(h, hw) if text else self.get(h, hw)
+            yield read(h, hw)
 
     def clear(self):
         for h in self.handles():
@@ -581,16 +585,29 @@ class Table:
                    self._extras(meter, None))
         return out.value
 
+    def default_handle(self):
+        out = U32()
+        self._call("table_get_default_entry_handle", [U32, DevTarget, P_U32],
+                   [self.switch.session, self.switch.target, ctypes.byref(out)], {})
+        return out.value
+
     def default(self, hw=False):
-        """The default entry: its action and parameters (an ordinary table) or
-        what it names (a selector table)."""
+        """The default entry, from its value text: its action and parameters
+        (an ordinary table) or the member or group it names (a selector
+        table)."""
+        from .valuetext import parse_entry
+        h = self.default_handle()
+        e = parse_entry(self, self.value_text(h, hw), h)
+        e.match, e.priority, e.is_default = {}, None, True
+        return e
+
+    def default_record(self, hw=False):
+        """The default entry as the library's read of it gives its records
+        (what a dump reads)."""
         sw = self.switch
         if self.shape.selector:
-            h = U32()
-            self._call("table_get_default_entry_handle", [U32, DevTarget, P_U32],
-                       [sw.session, sw.target, ctypes.byref(h)], {})
-            e = self.get(h.value, hw)
-            e.is_default = True
+            e = self.get_record(self.default_handle(), hw)
+            e.match, e.priority, e.is_default = {}, None, True
             return e
         room = (ctypes.c_uint64 * (ANY_SPEC_ROOM // 8 + 1))()
         self._call("table_get_default_entry", [U32, DevTarget, ctypes.c_bool, ctypes.c_void_p],
@@ -598,7 +615,7 @@ class Table:
         enum = ctypes.c_uint32.from_buffer(room).value
         name = sw._action_name(enum)
         a = sw._actions.get(sw._native, name)
-        e = Entry(self.name, None, action=name, is_default=True)
+        e = Entry(self.name, self.default_handle(), action=name, is_default=True)
         if a.record is not None:
             e.params = read_params(a, a.record.from_buffer(room, 4))
         return e

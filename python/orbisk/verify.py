@@ -24,9 +24,9 @@ def verify(sw):
                     out.append("%s entry 0x%x: %s" % (t.name, h, err.value.decode()))
             continue
         for h in handles:
-            pd = t.get(h)
+            pd = t.get_record(h)
             try:
-                hw = t.get(h, hw=True)
+                hw = t.get_record(h, hw=True)
             except Exception as e:  # a read from hardware that fails is a difference
                 out.append("%s entry 0x%x: hardware read failed: %s" % (t.name, h, e))
                 continue

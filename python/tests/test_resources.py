@@ -3,6 +3,8 @@ back through the front, each family swept over all of its members."""
 
 import ctypes
 
+import pytest
+
 import orbisk
 
 
@@ -35,15 +37,28 @@ def test_direct_cells_follow_their_entry(sw):
     assert sw.meters[t.meter].read(entry=h) == (9, 8, 7, 6, 1)
 
 
-def test_every_hash_calculation_keeps_its_seed_and_hashes_as_the_driver(sw):
+def test_every_hash_calculation_keeps_what_it_is_given_and_hashes_as_the_driver(sw):
     f = sw.model.orbisk_model_hash
     f.restype, f.argtypes = ctypes.c_uint32, [ctypes.c_uint32, ctypes.c_uint64, ctypes.c_char_p, ctypes.c_size_t]
+    attrs = [orbisk.HashAttribute(0, 1, 0x11), orbisk.HashAttribute(1, 2, 0xFFFFFFFF)]
     for i, h in enumerate(sw.hashes):
-        h.seed = 100 + i
-        assert h.seed == 100 + i
+        assert (h.input, h.algorithm, h.seed, h.attributes()) == (0, 0, 0, []), h.name
+        h.input, h.algorithm, h.seed = 0, 0, 100 + i
+        h.set_attributes(attrs[:i % 3])
+        assert (h.input, h.algorithm, h.seed) == (0, 0, 100 + i)
+        assert (h.attribute_count(), h.attributes()) == (i % 3, attrs[:i % 3])
         got = int.from_bytes(h.calculate([(0x0102, 16), (0x030405, 24)]), "big")
         expect = {f(alg, 100 + i, bytes([1, 2, 3, 4, 5]), 5) for alg in (0x23000000, 0x23000001)}
         assert got in expect, h.name
+        # Fields off byte boundaries make one bit string, right-aligned.
+        assert h.calculate([(1, 4), (0x2345, 16)]) == h.calculate([(0x12345, 20)])
+        # Only the calculation's own input and algorithm exist: another is
+        # the driver's refusal, or the library's own status 3.
+        for call, status in ((lambda: setattr(h, "input", 1), 0x131), (lambda: setattr(h, "algorithm", 1), 0x131),
+                             (lambda: h.attributes(input=1), 3), (lambda: h.attribute_count(input=2), 3)):
+            with pytest.raises(orbisk.DriverError) as info:
+                call()
+            assert info.value.status == status, h.name
     assert len(sw.hashes) == 12
 
 
@@ -52,6 +67,7 @@ def test_members_and_groups_of_every_profile_read_back(sw):
         acts = sorted(p.shape.actions.values(), key=lambda a: -len(a.params))
         ms = [p.add_member(a.name, **{q.name: 1 for q in a.params}) for a in acts]
         assert [m.handle for m in p.members()] == ms
+        assert list(p.members()) == list(p.members(records=True)) == list(p.members(hw=True))
         assert [p.get_member(m).action for m in ms] == [a.name for a in acts]
         if acts[0].params:
             q = acts[0].params[0]
@@ -61,10 +77,13 @@ def test_members_and_groups_of_every_profile_read_back(sw):
         for m in reversed(ms):
             p.add_member_to_group(g, m)
         assert list(p.groups()) == [orbisk.Group(p.name, g, list(reversed(ms)))]
+        assert len(p.group_placement(g)) > 0
         p.del_member_from_group(g, ms[-1])
         assert p.group_members(g) == list(reversed(ms))[1:]
         p.clear()
         assert p.member_handles() == [] and p.group_handles() == []
+        with pytest.raises(orbisk.DriverError):
+            p.group_placement(g)
 
 
 def test_every_digest_delivers_what_was_learned(sw):

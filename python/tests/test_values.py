@@ -109,6 +109,16 @@ BAD = [
      orbisk.DriverError, "ipv4Host_table_add_with_setNextHop: status 0x101 (ORBISK_MODEL_ENTRY_EXISTS)"),
     (lambda sw: sw.counters.ingressPortDropCount.read(index=1), orbisk.OrbiskError,
      "ingressPortDropCount: cells are an entry's: entry=<handle>"),
+    (lambda sw: sw.hashes.hashInnerEthHdr.calculate([(1, 8), (0x10000, 16)]), orbisk.OrbiskError,
+     "hashInnerEthHdr.field 1: value 0x10000 is wider than the field's 16 bits"),
+    (lambda sw: sw.hashes.hashInnerEthHdr.calculate([(1, 0)]), orbisk.OrbiskError,
+     "hashInnerEthHdr: field 0: width 0 is not a positive number of bits"),
+    (lambda sw: sw.hashes.hashInnerEthHdr.set_attributes([(0, 1, 1 << 32)]), orbisk.OrbiskError,
+     "hashInnerEthHdr.attribute value: value 0x100000000 is wider than the field's 32 bits"),
+    (lambda sw: sw.hashes.hashInnerEthHdr.set_attributes([(0, 1)]), orbisk.OrbiskError,
+     "hashInnerEthHdr: an attribute is (input_field, attr_type, value), not (0, 1)"),
+    (lambda sw: sw.profiles.ecmpMemberActionProfile.get_member(77), orbisk.DriverError,
+     "ecmpMemberActionProfile_get_plcmt_data: status 0x110 (ORBISK_MODEL_NO_SUCH_MEMBER)"),
 ]
 
 

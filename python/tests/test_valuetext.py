@@ -7,7 +7,7 @@ from orbisk.valuetext import parse_entry, parse_member, parse_placement
 
 ENTRIES = [
     ("ecmpGroup", "((( 0x0012,),('setMbrHdl',(0x5,))),(0,True))", dict(match={"nextHop": 0x12}, member=5)),
-    ("ecmpGroup", "(((),),(0,True))", dict()),
+    ("ecmpGroup", "(((),),(0,True))", dict(is_default=True)),
     ("ipv4Host", "((( 0x01,0x0a000001,),('setNextHop',(0x00000007,)),),(0,True))",
      dict(match={"vrfId": 1, "dip": "10.0.0.1"}, action="setNextHop", params={"nextHop": 7})),
     ("vlanDecap", "(((),('removeVlanHdr',()),),(0,True))", dict(action="removeVlanHdr")),
@@ -16,6 +16,11 @@ ENTRIES = [
      dict(match={"dmac": ("ff:ff:ff:ff:ff:ff", "ff:ff:ff:ff:ff:ff"), "dip": ("255.255.255.255", "255.255.255.255"),
                  "tunnelType": (7, 7), "outerIpv6HdrValid": 1},
           action="setTunnelTerminationTypeNoneIpv6", priority=300)),
+    ("tunnelTermination", "((( 0x000000,0x000000,0x000000,0x000000,0x00000000,0x00000000,0x1,0x7,0x0,),"
+     "('setTunnelTerminationTypeNoneIpv6',()),),(-2147483648,True))",
+     dict(match={"dmac": ("00:00:00:00:00:00", "00:00:00:00:00:00"), "dip": ("0.0.0.0", "0.0.0.0"),
+                 "tunnelType": (1, 7), "outerIpv6HdrValid": 0},
+          action="setTunnelTerminationTypeNoneIpv6", priority=1 << 31)),
     ("ipv6Host", "((( 0xff,0xFFFFFFFFFFFFFFFFFFFFFFFFFFFFFFFF,),('setNextHop',(0x00000001,)),),(0,True))",
      dict(match={"vrfId": 0xff, "dip": "ffff:ffff:ffff:ffff:ffff:ffff:ffff:ffff"}, action="setNextHop",
           params={"nextHop": 1})),
