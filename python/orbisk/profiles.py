@@ -4,7 +4,8 @@ import ctypes
 from dataclasses import dataclass, field as dc_field
 
 from ._native import DevTarget
-from .tables import ANY_SPEC_ROOM, PLACEMENT_ROOM, P_U32, TEXT_ROOM, U32, WALK_BATCH, fill_params, read_params
+from .tables import (ANY_SPEC_ROOM, PLACEMENT_ROOM, P_U32, TEXT_ROOM, U32, WALK_BATCH, fill_params,
+                     placement_text, read_params)
 from .values import OrbiskError
 
 
@@ -134,15 +135,7 @@ class Profile:
 
     def placement_text(self, data):
         """The library's value text of a member's placement data."""
-        name = "%s_plcmt_data_value" % self.name
-        if not self._native.has(name):
-            raise OrbiskError("%s: the library writes no placement text" % self.name)
-        buf = ctypes.create_string_buffer(TEXT_ROOM)
-        raw = ctypes.create_string_buffer(bytes(data), max(len(data), PLACEMENT_ROOM))
-        n = self._native.fn(name, [ctypes.c_void_p, ctypes.c_char_p], ctypes.c_int)(raw, buf)
-        if n == 0:
-            raise OrbiskError("%s: placement data the library cannot decode" % self.name)
-        return buf.raw[:n].decode()
+        return placement_text(self._native, self.name, data)
 
     def _walk(self, first, nxt, count_suffix, head, head_t):
         n = U32()

@@ -17,6 +17,19 @@ TEXT_ROOM = 1 << 14
 PLACEMENT_ROOM = 1 << 16  # the driver's placement records are its own; this is room for any
 
 
+def placement_text(native, name, data):
+    """The library's value text of a table's or profile's placement data."""
+    fn = "%s_plcmt_data_value" % name
+    if not native.has(fn):
+        raise OrbiskError("%s: the library writes no placement text" % name)
+    buf = ctypes.create_string_buffer(TEXT_ROOM)
+    raw = ctypes.create_string_buffer(bytes(data), max(len(data), PLACEMENT_ROOM))
+    n = native.fn(fn, [ctypes.c_void_p, ctypes.c_char_p], ctypes.c_int)(raw, buf)
+    if n == 0:
+        raise OrbiskError("%s: placement data the library cannot decode" % name)
+    return buf.raw[:n].decode()
+
+
 @dataclass
 class Entry:
     """One entry as read back: its key by key name (addresses as text, a
@@ -506,15 +519,7 @@ class Table:
     def placement_text(self, data):
         """The library's value text of placement data: the entry's key and
         action, without priority."""
-        name = "%s_plcmt_data_value" % self.name
-        if not self._native.has(name):
-            raise OrbiskError("%s: the library writes no placement text" % self.name)
-        buf = ctypes.create_string_buffer(TEXT_ROOM)
-        raw = ctypes.create_string_buffer(bytes(data), max(len(data), PLACEMENT_ROOM))
-        n = self._native.fn(name, [ctypes.c_void_p, ctypes.c_char_p], ctypes.c_int)(raw, buf)
-        if n == 0:
-            raise OrbiskError("%s: placement data the library cannot decode" % self.name)
-        return buf.raw[:n].decode()
+        return placement_text(self._native, self.name, data)
 
     def count(self):
         out = U32()
