@@ -138,6 +138,15 @@ pd_status fill_query(Model &m, pd_dev_target target, uint32_t handle, uint16_t f
   return kOk;
 }
 
+// A cell of an indexed meter, as its meter and WRED calls name it: the
+// handle must be an indexed meter's, the record given, the index inside.
+pd_status check_meter_cell(pd_tbl_hdl tbl, uint32_t index, const void *record) {
+  const ResourceDesc *r;
+  if (pd_status s = find_indexed(tbl, ResourceKind::Meter, r)) return s;
+  if (record == nullptr) return ORBISK_MODEL_BAD_RECORD;
+  return check_index(r, index);
+}
+
 }  // namespace
 
 extern "C" {
@@ -322,10 +331,7 @@ pd_status pipe_mgr_meter_ent_set(pd_sess_hdl sess, pd_dev_target target, pd_tbl_
   return run(Fn::pipe_mgr_meter_ent_set,
              {arg(sess), arg(target), arg(tbl), arg(index), arg(meter), arg(flags)}, passed,
              [&](Model &m) {
-               const ResourceDesc *r;
-               if (pd_status s = find_indexed(tbl, ResourceKind::Meter, r)) return s;
-               if (meter == nullptr) return ORBISK_MODEL_BAD_RECORD;
-               if (pd_status s = check_index(r, index)) return s;
+               if (pd_status s = check_meter_cell(tbl, index, meter)) return s;
                m.resources.meters[{target.device_id, tbl, index}] = *meter;
                return kOk;
              });
@@ -335,10 +341,7 @@ pd_status pipe_mgr_meter_read_entry_idx(pd_sess_hdl sess, pd_dev_target target, 
                                         uint32_t index, pd_meter_record *meter, uint32_t flags) {
   return run(Fn::pipe_mgr_meter_read_entry_idx,
              {arg(sess), arg(target), arg(tbl), arg(index), arg(meter), arg(flags)}, [&](Model &m) {
-               const ResourceDesc *r;
-               if (pd_status s = find_indexed(tbl, ResourceKind::Meter, r)) return s;
-               if (meter == nullptr) return ORBISK_MODEL_BAD_RECORD;
-               if (pd_status s = check_index(r, index)) return s;
+               if (pd_status s = check_meter_cell(tbl, index, meter)) return s;
                auto it = m.resources.meters.find({target.device_id, tbl, index});
                *meter = it == m.resources.meters.end() ? pd_meter_record{} : it->second;
                return kOk;
@@ -376,10 +379,7 @@ pd_status pipe_mgr_wred_ent_set(pd_sess_hdl sess, pd_dev_target target, pd_tbl_h
   return run(Fn::pipe_mgr_wred_ent_set,
              {arg(sess), arg(target), arg(tbl), arg(index), arg(wred), arg(flags)}, passed,
              [&](Model &m) {
-               const ResourceDesc *r;
-               if (pd_status s = find_indexed(tbl, ResourceKind::Meter, r)) return s;
-               if (wred == nullptr) return ORBISK_MODEL_BAD_RECORD;
-               if (pd_status s = check_index(r, index)) return s;
+               if (pd_status s = check_meter_cell(tbl, index, wred)) return s;
                m.resources.wred[{target.device_id, tbl, index}] = *wred;
                return kOk;
              });
@@ -538,10 +538,7 @@ pd_status pipe_stful_direct_database_sync(pd_sess_hdl sess, uint32_t device_id, 
 pd_status orbisk_model_wred_get(uint32_t device_id, pd_tbl_hdl tbl, uint32_t index,
                                 pd_wred_spec *wred) {
   return in_frame([&](Model &m) {
-    const ResourceDesc *r;
-    if (pd_status s = find_indexed(tbl, ResourceKind::Meter, r)) return s;
-    if (wred == nullptr) return ORBISK_MODEL_BAD_RECORD;
-    if (pd_status s = check_index(r, index)) return s;
+    if (pd_status s = check_meter_cell(tbl, index, wred)) return s;
     auto it = m.resources.wred.find({device_id, tbl, index});
     *wred = it == m.resources.wred.end() ? pd_wred_spec{} : it->second;
     return kOk;
